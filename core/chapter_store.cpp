@@ -1,0 +1,87 @@
+#include "core/chapter_store.h"
+
+#include "core/error_modes.h"
+#include "core/text/numbers.h"
+
+namespace lectern::core {
+
+namespace {
+
+constexpr int kBook = 1;  // slots
+constexpr int kScratch = 2;
+
+bool IsChapterLine(std::string_view line) { return line.starts_with("Chap"); }
+
+}  // namespace
+
+ChapterStore::ChapterStore(Reader& the_reader) : reader(the_reader) {
+  reader.lblc.Change = [this] { lblc_Change(); };
+  reader.optk.Click = [this] { optk_Click(); };
+  reader.optn.Click = [this] { optn_Click(); };
+}
+
+void ChapterStore::lblc_Change() {
+  reader.tmrpic.Enabled = false;  // on the early return too
+  if (reader.lblc.Caption == "" || reader.lblbook.Caption == "") return;
+
+  files::FileSlots& slots = reader.form.Slots();
+  const Trapping trap{[&] { slots.Close(kBook); }};
+  const std::string scratch = reader.Dir3.Path + "\\temp.txt";
+  const bool opened = trap([&] { slots.OpenForReading(kBook, reader.BookFile(reader.lblbook.Caption())); });
+  if (opened) {
+    // Opened for appending, so that lines a broken run left there come first.
+    trap([&] { slots.OpenForAppending(kScratch, scratch); });
+    std::string held;
+    CopyChapter(trap, held);
+    trap([&] { slots.Close(kBook); });
+    // ODDITY(next-heading): the line in hand is written once more, whatever it is. It is the last line of
+    // the book, or the heading of the next chapter, with which every other chapter ends; it is meant.
+    trap([&] { slots.PrintLine(kScratch, held); });
+    trap([&] { slots.Close(kScratch); });
+    trap([&] { reader.rtxt.LoadFile(scratch); });
+    trap([&] { reader.form.Files().Delete(scratch); });
+  }
+  trap([&] { reader.LBLMRK(2).Caption = reader.lblc.Caption; });
+  trap([&] { reader.scr.Value = text::IntegerValue(reader.lblc.Caption()); });
+  trap([&] { reader.SeekChapterPicture(); });
+}
+
+// Copies the chapter from the book to the scratch file, all but its last line, and leaves the line in hand.
+// A failure closes the book, and with it ends the loop.
+void ChapterStore::CopyChapter(const Trapping& trap, std::string& held) {
+  files::FileSlots& slots = reader.form.Slots();
+  int counter = 0;
+  bool done = false;
+  std::string_view line;
+  const auto more = [&] { return slots.IsOpen(kBook) && !slots.EndOfFile(kBook); };
+  while (!done && more()) {
+    line = slots.ReadLine(kBook);
+    if (!IsChapterLine(line)) continue;
+    ++counter;
+    // The line behind a chapter line belongs to the chapter, whatever it looks like: a chapter line that
+    // follows another one at once is not counted.
+    trap([&] { line = slots.ReadLine(kBook); });
+    bool wanted = false;
+    trap([&] { wanted = text::ToNumber(reader.lblc.Caption()) == counter; });
+    if (!wanted) continue;
+    while (!IsChapterLine(line) && more()) {
+      trap([&] { slots.PrintLine(kScratch, line); });
+      trap([&] { line = slots.ReadLine(kBook); });
+    }
+    done = true;
+  }
+  held = line;
+}
+
+void ChapterStore::optk_Click() { ChangeVersion("King James Version", "\\KJV"); }
+void ChapterStore::optn_Click() { ChangeVersion("Revised Standard Version", "\\NEW"); }
+
+// The book stays, the chapter falls back to 1.
+void ChapterStore::ChangeVersion(const std::string& name, const std::string& folder) {
+  reader.LBLVR.Caption = name;
+  reader.Dir3.Path = reader.Dir1.Path + folder;
+  reader.lblc.Caption = "";
+  reader.lblc.Caption = "1";
+}
+
+}  // namespace lectern::core

@@ -1,0 +1,32 @@
+// Turns the position into text on the screen: each change of the chapter label reads the book's file from
+// its first line to the end of the chapter, carries the lines through a scratch file into the pane, and
+// moves what follows the chapter. Nothing is kept in memory from one load to the next.
+//
+// A book file has three kinds of line, told apart by how they begin: a chapter line ("Chap"), a verse line
+// (a digit, and no "-" behind it) and any other. What follows the four letters is never read; a chapter's
+// number is the count of chapter lines above it.
+#pragma once
+
+#include <string>
+
+#include "core/error_modes.h"
+#include "core/reader.h"
+
+namespace lectern::core {
+
+class ChapterStore {
+ public:
+  explicit ChapterStore(Reader& the_reader);
+
+ private:
+  void lblc_Change();
+  void optk_Click();
+  void optn_Click();
+
+  void CopyChapter(const Trapping& trap, std::string& held);
+  void ChangeVersion(const std::string& name, const std::string& folder);
+
+  Reader& reader;
+};
+
+}  // namespace lectern::core

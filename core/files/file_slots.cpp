@@ -1,0 +1,109 @@
+#include "core/files/file_slots.h"
+
+#include <utility>
+
+#include "core/files/text_encoding.h"
+#include "core/run_time_error.h"
+#include "core/text/characters.h"
+#include "core/text/numbers.h"
+
+namespace lectern::files {
+
+using core::ErrorNumber;
+using core::RunTimeError;
+
+void Field::AppendTo(std::string& record) const {
+  if (quoted_) {
+    record.append(1, '"').append(text_).append(1, '"');
+  } else {
+    record.append(text_);
+  }
+}
+
+void FileSlots::RequireFree(int slot) const {
+  constexpr int kHighest = 255;
+  if (slot < 1 || slot > kHighest) throw RunTimeError(ErrorNumber::kBadFileName);
+  if (IsOpen(slot)) throw RunTimeError(ErrorNumber::kFileAlreadyOpen);
+}
+
+FileSlots::Reading* FileSlots::Find(int slot) const {
+  const auto index = static_cast<std::size_t>(slot);
+  return slot >= 0 && index < reading_.size() ? reading_[index].get() : nullptr;
+}
+
+bool FileSlots::IsOpen(int slot) const {
+  const Reading* const reading = Find(slot);
+  return (reading != nullptr && reading->open) || appending_.contains(slot);
+}
+
+void FileSlots::OpenForReading(int slot, std::string_view name) {
+  RequireFree(slot);
+  const auto index = static_cast<std::size_t>(slot);
+  if (index >= reading_.size()) reading_.resize(index + 1);
+  if (!reading_[index]) reading_[index] = std::make_unique<Reading>();
+  Reading& reading = *reading_[index];
+  files_.Read(name, reading.contents);
+  std::string_view bytes = reading.contents.Bytes();
+  if (!text::IsAscii(bytes)) {
+    reading.decoded = Decode(bytes);
+    bytes = reading.decoded;
+  }
+  reading.reader = RecordReader(bytes);
+  reading.open = true;
+}
+
+void FileSlots::OpenForAppending(int slot, std::string_view name) {
+  RequireFree(slot);
+  appending_.emplace(slot, files_.OpenForAppending(name));
+}
+
+FileSlots::Reading& FileSlots::ReadingAt(int slot) {
+  Reading* const reading = Find(slot);
+  if (reading == nullptr || !reading->open) throw RunTimeError(ErrorNumber::kBadFileName);
+  return *reading;
+}
+
+bool FileSlots::EndOfFile(int slot) { return ReadingAt(slot).reader.AtEnd(); }
+
+RecordReader& FileSlots::BeforeEnd(int slot) {
+  RecordReader& reader = ReadingAt(slot).reader;
+  if (reader.AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile);
+  return reader;
+}
+
+std::string_view FileSlots::ReadLine(int slot) { return BeforeEnd(slot).Line(); }
+
+std::string_view FileSlots::ReadField(int slot) { return BeforeEnd(slot).Field(); }
+
+std::int32_t FileSlots::ReadNumber(int slot) { return text::RoundToLong(text::NumberValue(ReadField(slot))); }
+
+void FileSlots::Write(int slot, std::string_view text) {
+  const auto found = appending_.find(slot);
+  if (found == appending_.end()) throw RunTimeError(ErrorNumber::kBadFileName);
+  found->second.Write(text::IsAscii(text) ? text : std::string_view(Encode(text)));
+}
+
+void FileSlots::PrintLine(int slot, std::string_view line) { Write(slot, std::string(line).append("\r\n")); }
+
+void FileSlots::WriteFields(int slot, std::span<const Field> fields) {
+  std::string record;
+  for (const Field& field : fields) {
+    if (!record.empty()) record.push_back(',');
+    field.AppendTo(record);
+  }
+  Write(slot, record.append("\r\n"));
+}
+
+void FileSlots::Close(int slot) {
+  if (Reading* const reading = Find(slot)) reading->open = false;
+  if (auto appended = appending_.extract(slot)) appended.mapped().Close();
+}
+
+void FileSlots::CloseAll() {
+  for (const auto& reading : reading_) {
+    if (reading) reading->open = false;
+  }
+  while (!appending_.empty()) Close(appending_.begin()->first);
+}
+
+}  // namespace lectern::files

@@ -1,0 +1,393 @@
+// The one place that talks to the host's file calls.
+#include "core/files/file_system.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#include "core/files/path_names.h"
+#include "core/run_time_error.h"
+#include "core/text/letter_case.h"
+
+namespace lectern::files {
+
+using core::ErrorNumber;
+using core::RunTimeError;
+
+namespace {
+
+[[noreturn]] void FailWith(int host_error) {
+  switch (host_error) {
+    case ENOENT:
+      throw RunTimeError(ErrorNumber::kFileNotFound);
+    case ENOTDIR:
+      throw RunTimeError(ErrorNumber::kPathNotFound);
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      throw RunTimeError(ErrorNumber::kPermissionDenied);
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      throw RunTimeError(ErrorNumber::kDiskFull);
+    case ENAMETOOLONG:
+    case EINVAL:
+    case EILSEQ:
+      throw RunTimeError(ErrorNumber::kBadFileName);
+    case EEXIST:
+      throw RunTimeError(ErrorNumber::kFileAlreadyExists);
+    case EISDIR:
+    case ENOTEMPTY:
+      throw RunTimeError(ErrorNumber::kPathAccess);
+    case ENXIO:
+    case ENODEV:
+      throw RunTimeError(ErrorNumber::kDeviceUnavailable);
+    default:
+      throw RunTimeError(ErrorNumber::kDeviceIo);
+  }
+}
+
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  int number() const { return number_; }
+  int Release() { return std::exchange(number_, -1); }
+
+ private:
+  int number_;
+};
+
+// What stands at the path, of whatever kind.
+struct Standing {
+  bool there = false;
+  bool folder = false;
+  bool file = false;
+};
+
+Standing At(const std::string& path) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0) return {};
+  return {true, S_ISDIR(status.st_mode), S_ISREG(status.st_mode)};
+}
+
+template <class Take>
+void ForEachEntry(const std::string& folder, Take take) {
+  DIR* const entries = ::opendir(folder.empty() ? "/" : folder.c_str());
+  if (entries == nullptr) return;
+  while (const dirent* entry = ::readdir(entries)) {
+    const std::string_view name = entry->d_name;
+    if (name != "." && name != "..") take(*entry, name);
+  }
+  ::closedir(entries);
+}
+
+// The entry that is the element but for case; of several the first in code order; "" where none is.
+std::string EntryLike(const std::string& folder, std::string_view element) {
+  std::string found;
+  ForEachEntry(folder, [&](const dirent&, std::string_view name) {
+    if (text::EqualFolded(name, element) && (found.empty() || name < found)) found = name;
+  });
+  return found;
+}
+
+int OpenRegular(const std::string& path, int flags) {
+  // Never waits: a pipe that lies where a file is wanted is no file.
+  constexpr mode_t kMode = 0666;
+  Descriptor file(::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC, kMode));
+  if (file.number() < 0) return -1;
+  struct stat status {};
+  if (::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode)) {
+    errno = EISDIR;
+    return -1;
+  }
+  return file.Release();
+}
+
+std::uint64_t LengthOf(int descriptor) {
+  struct stat status {};
+  if (::fstat(descriptor, &status) != 0) FailWith(errno);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+}  // namespace
+
+FileSystem::FileSystem(std::string start_folder) : start_folder_(std::move(start_folder)) {}
+
+void FileSystem::Announce(Operation operation, const std::string& path) const {
+  if (before) before(operation, path);
+}
+
+namespace {
+
+struct Place {
+  std::string base;       // a host folder without a separator at its end
+  std::string_view rest;  // the elements behind it
+};
+
+Place PlaceOf(std::string_view name, const std::string& start_folder) {
+  if (name.starts_with(start_folder)) {
+    const std::string_view rest = name.substr(start_folder.size());
+    if (rest.empty() || IsSeparator(rest[0])) return {start_folder, rest};
+  }
+  if (!name.empty() && IsSeparator(name[0])) return {"", name};
+  return {start_folder, name};
+}
+
+}  // namespace
+
+std::string FileSystem::AsWritten(std::string_view name) const {
+  auto [path, rest] = PlaceOf(name, start_folder_);
+  for (const std::string_view element : Elements(rest)) {
+    if (!IsAccepted(element)) throw RunTimeError(ErrorNumber::kBadFileName);
+    path.append(1, '/').append(element);
+  }
+  return path.empty() ? "/" : path;
+}
+
+std::string FileSystem::HostPath(std::string_view name) const {
+  if (std::string written = AsWritten(name); At(written).there) return written;
+  auto [path, rest] = PlaceOf(name, start_folder_);
+  const std::vector<std::string_view> elements = Elements(rest);
+  for (std::size_t i = 0; i < elements.size(); ++i) {
+    const std::string exact = path + "/" + std::string(elements[i]);
+    if (At(exact).there) {
+      path = exact;
+      continue;
+    }
+    const std::string like = EntryLike(path, elements[i]);
+    const bool last = i + 1 == elements.size();
+    if (like.empty() && (!last || !At(path.empty() ? "/" : path).folder)) {
+      throw RunTimeError(ErrorNumber::kPathNotFound);
+    }
+    path.append(1, '/').append(like.empty() ? std::string(elements[i]) : like);
+  }
+  return path;
+}
+
+bool FileSystem::FileExists(std::string_view name) const {
+  try {
+    return At(HostPath(name)).file;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
+bool FileSystem::FolderExists(std::string_view name) const {
+  try {
+    return At(HostPath(name)).folder;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
+std::uint64_t FileSystem::Length(std::string_view name) const {
+  const std::string path = HostPath(name);
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0) FailWith(errno);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+void FileSystem::Read(std::string_view name, Contents& contents) const {
+  contents.size_ = 0;
+  std::string path = AsWritten(name);
+  Announce(Operation::kRead, path);
+  int opened = OpenRegular(path, O_RDONLY);
+  if (opened < 0 && (errno == ENOENT || errno == ENOTDIR)) {
+    path = HostPath(name);
+    opened = OpenRegular(path, O_RDONLY);
+  }
+  if (opened < 0) FailWith(errno);
+  const Descriptor file(opened);
+  const std::uint64_t length = LengthOf(file.number());
+  if (contents.capacity_ < length) {
+    contents.capacity_ = 0;
+    contents.room_ = std::make_unique_for_overwrite<char[]>(length);
+    contents.capacity_ = length;
+  }
+  while (contents.size_ < length) {
+    const ssize_t taken =
+        ::read(file.number(), contents.room_.get() + contents.size_, length - contents.size_);
+    if (taken < 0 && errno == EINTR) continue;
+    if (taken < 0) FailWith(errno);
+    if (taken == 0) break;  // the file was cut short meanwhile
+    contents.size_ += static_cast<std::size_t>(taken);
+  }
+}
+
+Appending FileSystem::OpenForAppending(std::string_view name) const {
+  std::string path = AsWritten(name);
+  Announce(Operation::kAppend, path);
+  int opened = OpenRegular(path, O_WRONLY | O_APPEND);
+  if (opened < 0 && (errno == ENOENT || errno == ENOTDIR)) {
+    path = HostPath(name);
+    opened = OpenRegular(path, O_WRONLY | O_APPEND | O_CREAT);
+  }
+  if (opened < 0) FailWith(errno);
+  return {*this, opened, path, LengthOf(opened)};
+}
+
+void FileSystem::Delete(std::string_view name) const {
+  const std::string path = HostPath(name);
+  Announce(Operation::kDelete, path);
+  if (At(path).folder) throw RunTimeError(ErrorNumber::kFileNotFound);
+  if (::unlink(path.c_str()) != 0) FailWith(errno);
+}
+
+void FileSystem::Rename(std::string_view from, std::string_view to) const {
+  const std::string from_path = HostPath(from);
+  const std::string to_path = HostPath(to);
+  Announce(Operation::kRename, from_path);
+  if (!At(from_path).there) throw RunTimeError(ErrorNumber::kFileNotFound);
+  if (At(to_path).there) throw RunTimeError(ErrorNumber::kFileAlreadyExists);
+  if (::rename(from_path.c_str(), to_path.c_str()) != 0) FailWith(errno);
+}
+
+void FileSystem::Replace(std::string_view name, std::string_view bytes) const {
+  const std::string path = HostPath(name);
+  Announce(Operation::kWrite, path);
+  const std::string fresh = path + ".new";
+  ::unlink(fresh.c_str());
+  Appending file = OpenForAppending(fresh);
+  file.Write(bytes);
+  file.Close();
+  if (::rename(fresh.c_str(), path.c_str()) != 0) {
+    const int failure = errno;
+    ::unlink(fresh.c_str());
+    FailWith(failure);
+  }
+}
+
+void FileSystem::DeleteKeepingBackup(std::string_view name) const {
+  const std::string path = HostPath(name);
+  const Standing standing = At(path);
+  if (!standing.there || standing.folder) throw RunTimeError(ErrorNumber::kFileNotFound);
+  if (Length(name) == 0) {
+    Delete(name);
+    return;
+  }
+  // Within the start folder the place under `backup` is the same as outside it; a file from elsewhere
+  // takes its whole path along, so that two of one name do not meet.
+  const std::string_view inside =
+      path.starts_with(start_folder_ + "/") ? std::string_view(path).substr(start_folder_.size()) : path;
+  const std::filesystem::path kept = start_folder_ + "/backup" + std::string(inside);
+  Announce(Operation::kRename, path);
+  std::error_code failure;
+  std::filesystem::create_directories(kept.parent_path(), failure);
+  if (failure) FailWith(failure.value());
+  std::filesystem::rename(path, kept, failure);
+  if (failure == std::errc::cross_device_link) {
+    std::filesystem::copy_file(path, kept, std::filesystem::copy_options::overwrite_existing, failure);
+    if (!failure) std::filesystem::remove(path, failure);
+  }
+  if (failure) FailWith(failure.value());
+}
+
+namespace {
+
+// The names in a folder of which `wanted` says yes; it is given the entry's name and whether it is a folder.
+template <class Wanted>
+std::vector<std::string> Names(const FileSystem& files, std::string_view folder, Wanted wanted) {
+  std::vector<std::string> names;
+  try {
+    const std::string path = files.HostPath(folder);
+    ForEachEntry(path, [&](const dirent& entry, std::string_view name) {
+      const bool known = entry.d_type == DT_REG || entry.d_type == DT_DIR;
+      const bool is_folder = known ? entry.d_type == DT_DIR : At(path + "/" + std::string(name)).folder;
+      if (wanted(name, is_folder)) names.emplace_back(name);
+    });
+  } catch (const RunTimeError&) {
+    return {};
+  }
+  std::sort(names.begin(), names.end(), text::LessFolded);
+  return names;
+}
+
+}  // namespace
+
+std::vector<std::string> FileSystem::Files(std::string_view folder, std::string_view pattern) const {
+  return Names(*this, folder, [pattern](std::string_view name, bool is_folder) {
+    return !is_folder && FitsPattern(name, pattern);
+  });
+}
+
+std::vector<std::string> FileSystem::Folders(std::string_view folder) const {
+  return Names(*this, folder,
+               [](std::string_view name, bool is_folder) { return is_folder && !name.starts_with('.'); });
+}
+
+Appending::Appending(const FileSystem& files, int descriptor, std::string path, std::uint64_t length)
+    : files_(&files), descriptor_(descriptor), path_(std::move(path)), length_at_opening_(length) {}
+
+Appending::Appending(Appending&& other) noexcept
+    : files_(other.files_),
+      descriptor_(std::exchange(other.descriptor_, -1)),
+      path_(std::move(other.path_)),
+      length_at_opening_(other.length_at_opening_),
+      pending_(std::move(other.pending_)) {}
+
+Appending& Appending::operator=(Appending&& other) noexcept {
+  std::swap(files_, other.files_);
+  std::swap(descriptor_, other.descriptor_);
+  std::swap(path_, other.path_);
+  std::swap(length_at_opening_, other.length_at_opening_);
+  std::swap(pending_, other.pending_);
+  return *this;
+}
+
+Appending::~Appending() {
+  try {
+    if (descriptor_ >= 0) Close();
+  } catch (...) {  // what could not be written is taken back; there is nobody left to be told
+  }
+}
+
+void Appending::LetGo() {
+  pending_.clear();
+  if (descriptor_ >= 0) ::close(std::exchange(descriptor_, -1));
+}
+
+void Appending::Write(std::string_view bytes) {
+  constexpr std::size_t kLargest = std::size_t{1} << 18;
+  pending_.append(bytes);
+  if (pending_.size() > kLargest) Flush();
+}
+
+void Appending::Flush() {
+  std::string_view left = pending_;
+  if (left.empty()) return;
+  try {
+    files_->Announce(Operation::kWrite, path_);
+    while (!left.empty()) {
+      const ssize_t written = ::write(descriptor_, left.data(), left.size());
+      if (written < 0 && errno == EINTR) continue;
+      if (written < 0) FailWith(errno);
+      left.remove_prefix(static_cast<std::size_t>(written));
+    }
+  } catch (const RunTimeError&) {
+    if (::ftruncate(descriptor_, static_cast<off_t>(length_at_opening_)) != 0) {
+      // Nothing more can be done for a file that can neither grow nor shrink.
+    }
+    LetGo();
+    throw;
+  }
+  pending_.clear();
+}
+
+void Appending::Close() {
+  Flush();
+  const int descriptor = std::exchange(descriptor_, -1);
+  if (descriptor >= 0 && ::close(descriptor) != 0) FailWith(errno);
+}
+
+}  // namespace lectern::files

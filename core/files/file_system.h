@@ -1,0 +1,103 @@
+// The files of the data folder and around it, by the names the program writes: joined with backslashes or
+// slashes, in any case. Every file operation of the program passes here.
+//
+// A name that begins with the start folder is looked up from that folder on, one that begins with a
+// separator from the root, any other in the start folder. Each element is taken as written where it
+// exists so, else the one that differs in case only. Failures are RunTimeErrors: 53 where the file is
+// missing, 76 where its folder is, 52 where the name is refused, 70 where access is, 61 for a full disk.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lectern::files {
+
+enum class Operation { kRead, kAppend, kWrite, kDelete, kRename };
+
+// The bytes of a file. The room is kept from one file to the next, the contents are not.
+class Contents {
+ public:
+  std::string_view Bytes() const { return {room_.get(), size_}; }
+
+ private:
+  friend class FileSystem;
+  std::unique_ptr<char[]> room_;
+  std::size_t capacity_ = 0;
+  std::size_t size_ = 0;
+};
+
+// A file that is written to behind its end. What is written goes to the disk at Close, or before when it
+// has grown large. A write that fails takes back what this opening wrote, so that a full disk leaves the
+// file as it was.
+class Appending {
+ public:
+  Appending(Appending&& other) noexcept;
+  Appending& operator=(Appending&& other) noexcept;
+  Appending(const Appending&) = delete;
+  Appending& operator=(const Appending&) = delete;
+  ~Appending();  // closes, whatever fails
+
+  void Write(std::string_view bytes);
+  void Close();
+
+ private:
+  friend class FileSystem;
+  Appending(const class FileSystem& files, int descriptor, std::string path, std::uint64_t length);
+  void Flush();
+  void LetGo();
+
+  const FileSystem* files_;
+  int descriptor_;
+  std::string path_;
+  std::uint64_t length_at_opening_;
+  std::string pending_;
+};
+
+class FileSystem {
+ public:
+  // The start folder is the data folder as the host writes it, without a separator at its end.
+  explicit FileSystem(std::string start_folder);
+
+  const std::string& StartFolder() const { return start_folder_; }
+
+  bool FileExists(std::string_view name) const;
+  bool FolderExists(std::string_view name) const;
+  std::uint64_t Length(std::string_view name) const;
+
+  void Read(std::string_view name, Contents& contents) const;
+  Appending OpenForAppending(std::string_view name) const;
+  void Replace(std::string_view name, std::string_view bytes) const;  // new contents for a whole file
+  void Delete(std::string_view name) const;
+  void Rename(std::string_view from, std::string_view to) const;
+
+  // Deletes something that a person made: its last version stays under `backup` in the start folder, so
+  // that nothing is lost whatever happens before the new one is written. A file of no bytes never takes
+  // the place of a version that holds something.
+  void DeleteKeepingBackup(std::string_view name) const;
+
+  // The names in a folder, in the order of file lists; empty where the folder cannot be read.
+  std::vector<std::string> Files(std::string_view folder, std::string_view pattern) const;
+  std::vector<std::string> Folders(std::string_view folder) const;
+
+  // The name as the host knows it; the last element need not exist.
+  std::string HostPath(std::string_view name) const;
+
+  // Called ahead of each operation with the host's path; what it throws, the operation throws. Through it a
+  // test stops the program at a certain operation or lets one fail.
+  std::function<void(Operation, const std::string& path)> before;
+
+ private:
+  friend class Appending;
+  std::string AsWritten(std::string_view name) const;
+  void Announce(Operation operation, const std::string& path) const;
+
+  std::string start_folder_;
+};
+
+}  // namespace lectern::files

@@ -1,0 +1,69 @@
+// A pane of text with runs of style, a font of its own, a selection and a search.
+//
+// Positions count characters of Text from 0, and a line end is CR LF, two of them. A pane that is read-only
+// lets a person select and copy; the program's own code writes all the same.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/forms/control.h"
+#include "core/forms/rich_text.h"
+
+namespace lectern::forms {
+
+inline constexpr int kFindWholeWord = 2;
+inline constexpr int kFindMatchCase = 4;
+inline constexpr int kFindNoHighlight = 8;
+
+class RichTextBox : public TextControl {
+ public:
+  RichTextBox(Container& parent, std::string name, const Design& design = {});
+
+  bool ReadOnly() const { return read_only_; }
+
+  // Replaces the whole content from a file: rich text where the file begins as such, plain text where not.
+  // Change runs, also where the text is the same.
+  void LoadFile(std::string_view path);
+
+  // Replaces the whole content by rich text.
+  void Show(RichText content);
+
+  // Where `sought` stands first at or behind `start`; -1 where it does not, and for an empty text. Case
+  // does not matter, and the inside of words counts. With kFindNoHighlight the selection stays; without, it
+  // moves to what was found.
+  int Find(std::string_view sought, int start, int options);
+
+  const TextRuns& Runs() const { return runs_; }
+  bool TextIsAscii() const { return is_ascii_; }
+
+  // Grow whenever the program's own code changed the text, or the style of some of it.
+  unsigned TextGeneration() const { return text_generation_; }
+  unsigned StyleGeneration() const { return style_generation_; }
+
+  // The person replaces `removed` characters from `start` on.
+  void PersonEdits(std::size_t start, std::size_t removed, std::string_view inserted);
+  void PersonTypes(const std::string& text) override;
+  void PersonSelects(int start, int length);
+
+  RuledProperty<std::string> Text;
+  RuledProperty<int> SelStart;  // writing it leaves nothing selected
+  RuledProperty<int> SelLength;
+  ComputedProperty<std::string> SelText;  // writing it puts the text in the selection's place
+  ComputedProperty<Colour> SelColor;      // of the selection; read from its first character
+  Event<> Change;
+
+ private:
+  void Replace(std::size_t start, std::size_t removed, std::string_view inserted);
+  void TextWritten();
+  void PutSelectionInside();
+
+  TextRuns runs_;
+  bool read_only_;
+  bool is_ascii_ = true;
+  bool editing_ = false;  // while Text changes in part, and the runs with it
+  unsigned text_generation_ = 0;
+  unsigned style_generation_ = 0;
+};
+
+}  // namespace lectern::forms

@@ -1,0 +1,39 @@
+// Text is UTF-8 in memory; positions in it are told in characters (code points), counted from 1. These
+// take and measure pieces of a text in those terms. A byte that belongs to no valid sequence counts as a
+// character of its own, so that no text can lead them astray. Texts of ASCII alone cost no more than
+// the same work on bytes.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace lectern::text {
+
+bool IsAscii(std::string_view text);
+bool IsUtf8(std::string_view text);
+
+// The number of characters.
+std::size_t Length(std::string_view text);
+
+// The byte where character `position` begins (from 1), or the text's size where it lies behind the end.
+std::size_t ByteOf(std::string_view text, std::size_t position);
+
+// The first `count` characters, or all of them where there are fewer.
+std::string_view Left(std::string_view text, std::size_t count);
+
+// `count` characters from position `start` on (from 1), as many as there are; "" behind the end.
+std::string_view Mid(std::string_view text, std::size_t start, std::size_t count = std::string_view::npos);
+
+// The text without the blanks at its end.
+std::string_view TrimEnd(std::string_view text);
+
+// Whether the text begins with a digit 0 to 9: what readers of references call numeric.
+bool StartsWithDigit(std::string_view text);
+
+// The character that begins at `byte`, which is moved behind it. A stray byte comes out as itself.
+char32_t NextCharacter(std::string_view text, std::size_t& byte);
+void AppendCharacter(std::string& text, char32_t character);
+
+}  // namespace lectern::text

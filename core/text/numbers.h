@@ -1,0 +1,26 @@
+// Numbers and their texts, in the two ways the program turns one into the other.
+//
+// NumberValue is the forgiving one: the leading number of a text, 0 for none. ToNumber and the ones
+// named for a type are strict: the whole text has to be a number (error 13), and it has to fit (error 6);
+// a fraction goes to the nearest whole number, a half to the even neighbour.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace lectern::text {
+
+double NumberValue(std::string_view text);
+int IntegerValue(std::string_view text);  // NumberValue as 16 bits; error 6 where it does not fit
+
+bool IsNumeric(std::string_view text);
+double ToNumber(std::string_view text);
+int ToInteger(std::string_view text);        // 16 bits
+std::int32_t ToLong(std::string_view text);  // 32 bits; also &H… hexadecimal
+std::int32_t RoundToLong(double number);     // error 6 where it does not fit
+
+// The shortest text that gives the number back: "5", "-3", "8.5".
+std::string NumberText(double number);
+
+}  // namespace lectern::text

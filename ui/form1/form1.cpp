@@ -1,0 +1,30 @@
+#include "ui/form1/form1.h"
+
+#include "ui/form1/places.h"
+
+namespace lectern::ui {
+
+Form1::Form1(forms::Services services)
+    : Window(services, "Form1", core::kProgramName),
+      menus(*this),
+      panels(*this),
+      tools(panels),
+      reader(*this, panels),
+      second_pane(panels),
+      settings(panels),
+      error_report(reader),
+      chapter_store(reader),
+      catalogue(reader),
+      navigation(reader, panels, catalogue),
+      concordance_builder(panels),
+      bookmarks(panels),
+      page_printing(panels),
+      maintenance(panels),
+      start_up(reader, panels, catalogue,
+               {maintenance.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
+                concordance_builder.Text2, settings.Combo1, settings.Combo2, settings.Combo3}),
+      exits(reader, menus, tools, {settings.Combo1, settings.Combo2, settings.Combo3}) {
+  for (const std::span<const Place> table : kForm1Places) Apply(table, *this);
+}
+
+}  // namespace lectern::ui

@@ -1,0 +1,50 @@
+// The main window: the sum of its panels, and what is joined between them. Members stand in the order in
+// which their controls are made.
+#pragma once
+
+#include "aids/bookmarks.h"
+#include "aids/page_printing.h"
+#include "core/catalogue.h"
+#include "core/chapter_store.h"
+#include "core/error_report.h"
+#include "core/exits.h"
+#include "core/menus.h"
+#include "core/navigation.h"
+#include "core/panels.h"
+#include "core/reader.h"
+#include "core/second_pane.h"
+#include "core/settings.h"
+#include "core/start_up.h"
+#include "core/tool_buttons.h"
+#include "gallery/maintenance.h"
+#include "search/concordance_builder.h"
+
+namespace lectern::ui {
+
+class Form1 : public forms::Window {
+ public:
+  explicit Form1(forms::Services services);
+
+  void Form_Load() override { start_up.Form_Load(); }
+  void Form_Unload() override { exits.Form_Unload(); }
+
+ private:
+  core::Menus menus;
+  core::Panels panels;
+  core::ToolButtons tools;
+  core::Reader reader;
+  core::SecondPane second_pane;
+  core::Settings settings;
+  core::ErrorReport error_report;
+  core::ChapterStore chapter_store;
+  core::Catalogue catalogue;
+  core::Navigation navigation;
+  search::ConcordanceBuilder concordance_builder;
+  aids::Bookmarks bookmarks;
+  aids::PagePrinting page_printing;
+  gallery::Maintenance maintenance;
+  core::StartUp start_up;
+  core::Exits exits;
+};
+
+}  // namespace lectern::ui

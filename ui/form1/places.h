@@ -1,0 +1,17 @@
+// The places of the main window's controls, a table for each panel. The client area is 916 by 668 pixels;
+// what stands right of it is out of the reader's reach.
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "ui/places.h"
+
+namespace lectern::ui {
+
+extern const std::span<const Place> kReaderPlaces;
+extern const std::span<const Place> kStoragePlaces;
+
+inline const std::array kForm1Places = {kReaderPlaces, kStoragePlaces};
+
+}  // namespace lectern::ui

@@ -1,0 +1,50 @@
+// The whole program without its face: the five windows, and how what a person does reaches them.
+//
+// A layer makes one Program, starts it, and brings everything in through Deliver, one event at a time.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "core/forms/windows.h"
+#include "core/program_end.h"
+#include "core/run_time_error.h"
+#include "ui/form1/form1.h"
+
+namespace lectern::ui {
+
+class Program {
+ public:
+  explicit Program(forms::Services services);
+
+  // Makes Form1, which runs the start-up, and shows it.
+  void Start();
+
+  // Runs an event of a window to its end. A failure that nothing traps is handed to `report_failure`;
+  // unless the window goes on after failures, it ends the program.
+  void Deliver(forms::Window& window, const std::function<void()>& event);
+
+  // One tick of every timer that is on when the round begins; whether there was one.
+  bool Tick();
+
+  // The close box of a window.
+  void Close(forms::Window& window);
+
+  // By its name, without regard to case; touching a window makes it. nullptr where there is none.
+  forms::Window* Touch(std::string_view name);
+
+  bool HasEnded() const { return ended_; }
+  int Status() const { return status_; }
+
+  forms::Windows windows;
+  std::function<void(const core::RunTimeError&)> report_failure;
+
+ private:
+  void End(int status);
+
+  forms::OnTouch<Form1> Form1_;
+  bool ended_ = false;
+  int status_ = 0;
+};
+
+}  // namespace lectern::ui
