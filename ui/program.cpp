@@ -57,4 +57,13 @@ forms::Window* Program::Touch(std::string_view name) {
   return nullptr;
 }
 
+Program::Routine Program::FindRoutine(std::string_view name) {
+  for (const std::string_view window_name : {"Form1"}) {
+    forms::Window* const window = Touch(window_name);
+    const auto found = window->routines.find(name);
+    if (found != window->routines.end()) return {window, found->second};
+  }
+  return {};
+}
+
 }  // namespace lectern::ui

@@ -33,6 +33,13 @@ class Program {
   // By its name, without regard to case; touching a window makes it. nullptr where there is none.
   forms::Window* Touch(std::string_view name);
 
+  // A routine of one of the windows; its window is nullptr where there is none of that name.
+  struct Routine {
+    forms::Window* window = nullptr;
+    std::function<void(const std::string& text)> run{};
+  };
+  Routine FindRoutine(std::string_view name);
+
   bool HasEnded() const { return ended_; }
   int Status() const { return status_; }
 

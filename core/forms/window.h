@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,6 +43,9 @@ class Window : public PropertyOwner, public Container {
   const std::vector<Control*>& Controls() const { return controls_; }
   // By name, without regard to case, and index (-1 outside arrays); nullptr where there is none.
   Control* Find(std::string_view name, int index = -1) const;
+
+  // Routines that no control starts, by name: a door for whoever keeps the program and its data.
+  std::map<std::string, std::function<void(const std::string& text)>, std::less<>> routines;
 
   virtual void Form_Load() {}
   virtual void Form_Unload() {}

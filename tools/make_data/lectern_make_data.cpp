@@ -1,0 +1,73 @@
+// Fills a folder with everything that the program reads, from packages of the distribution.
+//
+//   lectern-make-data FOLDER                 all of it; safe to run again
+//   lectern-make-data --second FILE FOLDER   a person's own text as the second version
+//
+// What it made before it replaces; what a person made it leaves alone.
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "core/canon.h"
+#include "tools/make_data/book_files.h"
+#include "tools/make_data/sources.h"
+
+namespace lectern::make_data {
+
+namespace {
+
+void Progress(const std::string& step) { std::cout << step << std::endl; }
+
+void MakeSecondVersion(const Version& version, const std::string& folder) {
+  WriteBooks(version, folder + "/NEW", "N");
+}
+
+// The settings are the person's as soon as they are there.
+void MakeSettings(const std::string& folder) {
+  const std::string path = folder + "/codex.cfg";
+  if (std::filesystem::exists(path)) return;
+  WriteFile(path, "\"" + SerifFont() + "\",\"12\",\"Regular\"\r\n");
+}
+
+void MakeAll(const std::string& folder) {
+  std::filesystem::create_directories(folder);
+  Progress("King James Version …");
+  const Version king_james = ReadKingJames();
+  WriteBooks(king_james, folder + "/KJV", "");
+  Progress("World English Bible, for the second version …");
+  MakeSecondVersion(ReadWorldEnglish(), folder);
+  Progress("Chapter counts …");
+  WriteChapterCounts(king_james, folder);
+  MakeSettings(folder);
+  Progress("The data folder is ready.");
+}
+
+int Run(const std::vector<std::string>& arguments) {
+  if (arguments.size() == 1 && !arguments[0].starts_with("--")) {
+    MakeAll(std::filesystem::absolute(arguments[0]).lexically_normal().string());
+    return 0;
+  }
+  if (arguments.size() == 3 && arguments[0] == "--second") {
+    const Version own = ReadOwnText(arguments[1]);
+    MakeSecondVersion(own, std::filesystem::absolute(arguments[2]).lexically_normal().string());
+    Progress("The second version is in place: " + std::to_string(own.VerseCount()) + " verses.");
+    return 0;
+  }
+  std::cerr << "usage: lectern-make-data FOLDER\n       lectern-make-data --second FILE FOLDER\n";
+  return 2;
+}
+
+}  // namespace
+
+}  // namespace lectern::make_data
+
+int main(int count, char** arguments) {
+  try {
+    return lectern::make_data::Run({arguments + 1, arguments + count});
+  } catch (const std::exception& obstacle) {
+    std::cerr << obstacle.what() << '\n';
+    return 1;
+  }
+}

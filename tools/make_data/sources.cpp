@@ -1,0 +1,187 @@
+#include "tools/make_data/sources.h"
+
+#include <charconv>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <string_view>
+
+#include "core/canon.h"
+#include "core/files/record_reader.h"
+#include "core/files/text_encoding.h"
+#include "tools/make_data/markup.h"
+
+namespace lectern::make_data {
+
+namespace {
+
+constexpr std::size_t kVerses = 31102;
+
+// "Ge1:1 In the …", "Genesis 1:1" and what follows; false where the line does not begin so.
+struct Reference {
+  int book = -1;
+  int chapter = 0;
+  int verse = 0;
+  std::string_view rest;
+};
+
+bool ParseReference(std::string_view line, Reference& reference) {
+  const std::size_t colon = line.find(':');
+  if (colon == std::string_view::npos || colon == 0) return false;
+  std::size_t digits = colon;
+  while (digits > 0 && line[digits - 1] >= '0' && line[digits - 1] <= '9') --digits;
+  std::string_view name = line.substr(0, digits);
+  while (name.ends_with(' ')) name.remove_suffix(1);
+  const char* const end = line.data() + line.size();
+  const auto [after_chapter, no_chapter] = std::from_chars(line.data() + digits, end, reference.chapter);
+  const auto [after_verse, no_verse] = std::from_chars(line.data() + colon + 1, end, reference.verse);
+  if (no_chapter != std::errc{} || no_verse != std::errc{}) return false;
+  reference.book = BookPosition(std::string(name));
+  reference.rest = {after_verse, static_cast<std::size_t>(end - after_verse)};
+  if (reference.rest.starts_with(' ')) reference.rest.remove_prefix(1);
+  return true;
+}
+
+Version EmptyVersion() { return {std::vector<Book>(core::kCanon.size()), ""}; }
+
+// One verse a line.
+Version FromLines(std::string_view text) {
+  Version version = EmptyVersion();
+  files::RecordReader lines(text);
+  while (!lines.AtEnd()) {
+    Reference at;
+    if (!ParseReference(lines.Line(), at) || at.book < 0) continue;
+    version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse] = PlainWords(at.rest);
+  }
+  return version;
+}
+
+void RequireWhole(const Version& version, const std::string& source) {
+  if (version.VerseCount() < kVerses) {
+    throw Obstacle(source + " gives " + std::to_string(version.VerseCount()) + " verses, where " +
+                   std::to_string(kVerses) + " are wanted.");
+  }
+}
+
+}  // namespace
+
+std::string OutputOf(const std::string& command, const std::string& program, const std::string& packages) {
+  const std::string install =
+      "Install " + packages + " (apt-get install " + packages + ") and run this again.";
+  if (std::system(("command -v " + program + " >/dev/null 2>&1").c_str()) != 0) {
+    throw Obstacle("The program '" + program + "' is missing. " + install);
+  }
+  std::FILE* const pipe = ::popen((command + " 2>/dev/null").c_str(), "r");
+  if (pipe == nullptr) throw Obstacle("'" + program + "' could not be started. " + install);
+  std::string output;
+  char buffer[1 << 16];
+  while (const std::size_t taken = std::fread(buffer, 1, sizeof buffer, pipe)) output.append(buffer, taken);
+  ::pclose(pipe);
+  if (output.empty()) throw Obstacle("'" + program + "' gives nothing. " + install);
+  return output;
+}
+
+Version ReadKingJames() {
+  Version version =
+      FromLines(OutputOf("bible -f 'gen1:1-rev22:21' </dev/null", "bible", "bible-kjv bible-kjv-text"));
+  RequireWhole(version, "The program 'bible'");
+  return version;
+}
+
+Version ReadWorldEnglish() {
+  const std::string text =
+      OutputOf("mod2imp engWEB2015eb </dev/null", "mod2imp", "libsword-utils sword-text-web");
+  Version version = EmptyVersion();
+  version.chapter_remark = "(World English Bible)";
+  files::RecordReader lines(text);
+  Reference at;
+  std::string markup;
+  const auto put = [&] {
+    if (at.book >= 0 && at.chapter > 0 && at.verse > 0) {
+      version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse] = PlainWords(markup);
+    }
+    markup.clear();
+  };
+  while (!lines.AtEnd()) {
+    const std::string_view line = lines.Line();
+    if (line.starts_with("$$$")) {
+      put();
+      at = {};
+      ParseReference(line.substr(3), at);
+    } else {
+      markup.append(line).append(1, ' ');
+    }
+  }
+  put();
+  RequireWhole(version, "The text engWEB2015eb");
+  return version;
+}
+
+namespace {
+
+std::string_view Attribute(std::string_view tag, std::string_view name) {
+  const std::string start = " " + std::string(name) + "=\"";
+  const std::size_t at = tag.find(start);
+  if (at == std::string_view::npos) return {};
+  const std::string_view value = tag.substr(at + start.size());
+  return value.substr(0, value.find('"'));
+}
+
+// "Gen.1.1" of an OSIS document.
+bool ParseOsisId(std::string_view id, Reference& reference) {
+  id = id.substr(0, id.find(' '));  // of a verse that stands for several, the first
+  const std::size_t first = id.find('.');
+  const std::size_t second = id.find('.', first + 1);
+  if (first == std::string_view::npos || second == std::string_view::npos) return false;
+  const std::string name = std::string(id.substr(0, first)) + " " + std::string(id.substr(first + 1));
+  std::string plain = name;
+  plain[second] = ':';
+  return ParseReference(plain, reference);
+}
+
+// Verses are elements with their text inside, or marks at its beginning and end.
+Version FromOsis(std::string_view text) {
+  Version version = EmptyVersion();
+  Reference at;
+  std::size_t start = std::string_view::npos;
+  const auto put = [&](std::size_t end) {
+    if (start != std::string_view::npos && at.book >= 0) {
+      std::string& verse = version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse];
+      verse += (verse.empty() ? "" : " ") + PlainWords(text.substr(start, end - start));
+    }
+    start = std::string_view::npos;
+  };
+  for (std::size_t open = text.find('<'); open != std::string_view::npos; open = text.find('<', open + 1)) {
+    const std::size_t close = text.find('>', open);
+    if (close == std::string_view::npos) break;
+    const std::string_view tag = text.substr(open + 1, close - open - 1);
+    if (!tag.starts_with("verse") && !tag.starts_with("/verse")) continue;
+    put(open);
+    const bool begins = tag.starts_with("verse") && Attribute(tag, "eID").empty();
+    if (begins && ParseOsisId(Attribute(tag, "osisID"), at)) start = close + 1;
+  }
+  return version;
+}
+
+}  // namespace
+
+Version ReadOwnText(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) throw Obstacle("The file " + path + " cannot be read.");
+  const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+  const std::string text = files::Decode(bytes);
+  Version version = text.find("<osis") != std::string::npos ? FromOsis(text) : FromLines(text);
+  if (version.VerseCount() == 0) {
+    throw Obstacle(
+        "The file " + path +
+        " holds no verse: one verse a line is wanted, as in \"Ge1:1 In the beginning\", or OSIS XML.");
+  }
+  return version;
+}
+
+std::string SerifFont() {
+  const std::string answer = OutputOf("fc-match -f '%{family[0]}' serif", "fc-match", "fontconfig");
+  return answer.substr(0, answer.find_first_of(",\r\n"));
+}
+
+}  // namespace lectern::make_data

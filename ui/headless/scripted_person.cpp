@@ -1,0 +1,160 @@
+#include "ui/headless/scripted_person.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "core/forms/combo_box.h"
+#include "core/forms/folder_lists.h"
+#include "core/forms/list_box.h"
+#include "core/forms/scroll_bar.h"
+#include "ui/headless/inspector.h"
+
+namespace lectern::headless {
+
+struct ScriptedPerson::Command {
+  std::string_view name;
+  void (ScriptedPerson::*run)(const Target&, const std::vector<Word>&);
+};
+
+const std::vector<ScriptedPerson::Command>& ScriptedPerson::Commands() {
+  static const std::vector<Command> kCommands = {
+      {"click", &ScriptedPerson::Click},
+      {"dblclick", &ScriptedPerson::DoubleClick},
+      {"key", &ScriptedPerson::Key},
+      {"type", &ScriptedPerson::Type},
+      {"choose", &ScriptedPerson::Choose},
+      {"scroll", &ScriptedPerson::Scroll},
+      {"mousedown", &ScriptedPerson::MouseDown},
+      {"mousemove", &ScriptedPerson::MouseMove},
+  };
+  return kCommands;
+}
+
+ScriptedPerson::ScriptedPerson(ui::Program& the_program, std::function<void(const std::string&)> print)
+    : program(the_program), print_(std::move(print)) {}
+
+bool ScriptedPerson::Knows(std::string_view command) {
+  return std::any_of(Commands().begin(), Commands().end(),
+                     [command](const Command& known) { return known.name == command; });
+}
+
+void ScriptedPerson::Do(std::string_view command, const std::vector<Word>& words, Hand hand) {
+  if (words.empty()) throw Misunderstood{"a control is wanted"};
+  const Target target = FindControl(program, words[0].text);
+  if (Refused(target, hand)) return;
+  const auto found = std::find_if(Commands().begin(), Commands().end(),
+                                  [command](const Command& known) { return known.name == command; });
+  (this->*found->run)(target, words);
+}
+
+// Says why a person cannot act on the control, where they cannot.
+bool ScriptedPerson::Refused(const Target& target, Hand hand) {
+  const forms::Refusal refusal =
+      hand == Hand::kKeeper ? forms::Refusal::kNone : target.control->RefusesPerson();
+  if (refusal == forms::Refusal::kDisabled) print_("refused: disabled");
+  if (refusal == forms::Refusal::kHidden) print_("refused: hidden");
+  return refusal != forms::Refusal::kNone;
+}
+
+void ScriptedPerson::Deliver(const Target& target, const std::function<void()>& event) {
+  program.Deliver(*target.window, event);
+}
+
+namespace {
+
+// The item of a list that the words name, by its text or its index; -1 where they name none.
+int NamedItem(const forms::ItemList& list, const std::vector<Word>& words) {
+  if (words.size() < 2) return -1;
+  const Word& wanted = words[1];
+  int index = wanted.quoted ? -1 : ToWhole(wanted).value_or(-1);
+  for (int i = 0; wanted.quoted && index < 0 && i < list.ListCount(); ++i) {
+    if (list.List(i) == wanted.text) index = i;
+  }
+  if (index < 0 || index >= list.ListCount()) {
+    throw Misunderstood{"no item " + (wanted.quoted ? Quoted(wanted.text) : wanted.text)};
+  }
+  return index;
+}
+
+}  // namespace
+
+void ScriptedPerson::Click(const Target& target, const std::vector<Word>& words) {
+  if (auto* list = dynamic_cast<forms::ItemList*>(target.control)) {
+    const int index = NamedItem(*list, words);
+    Deliver(target, [&] { list->PersonPicks(index); });
+  } else {
+    Deliver(target, [&] { target.control->PersonClicks(); });
+  }
+}
+
+void ScriptedPerson::DoubleClick(const Target& target, const std::vector<Word>& words) {
+  Click(target, words);
+  Deliver(target, [&] { target.control->DblClick(); });
+}
+
+void ScriptedPerson::Key(const Target& target, const std::vector<Word>& words) {
+  const std::optional<int> code = words.size() == 2 ? ToWhole(words[1]) : std::nullopt;
+  if (!code) throw Misunderstood{"the code of a key is wanted"};
+  Deliver(target, [&] { target.control->PersonKeys(*code); });
+}
+
+void ScriptedPerson::Type(const Target& target, const std::vector<Word>& words) {
+  if (words.size() != 2 || !words[1].quoted) throw Misunderstood{"a text is wanted"};
+  Deliver(target, [&] { target.control->PersonTypes(words[1].text); });
+}
+
+void ScriptedPerson::Choose(const Target& target, const std::vector<Word>& words) {
+  if (words.size() != 2 || !words[1].quoted) throw Misunderstood{"an entry is wanted"};
+  const std::string& entry = words[1].text;
+  const std::optional<ShownItems> shown = ItemsOf(*target.control);
+  if (!shown || std::find(shown->items.begin(), shown->items.end(), entry) == shown->items.end()) {
+    throw Misunderstood{"no entry " + Quoted(entry)};
+  }
+  if (auto* drives = dynamic_cast<forms::DriveListBox*>(target.control)) {
+    Deliver(target, [&] { drives->PersonChooses(entry); });
+  } else if (auto* folders = dynamic_cast<forms::DirListBox*>(target.control)) {
+    Deliver(target, [&] { folders->PersonOpens(entry); });
+  } else {
+    auto& combo = target.As<forms::ComboBox>();
+    Deliver(target, [&] { combo.PersonChooses(entry); });
+  }
+}
+
+void ScriptedPerson::Scroll(const Target& target, const std::vector<Word>& words) {
+  const std::optional<int> value = words.size() == 2 ? ToWhole(words[1]) : std::nullopt;
+  if (!value) throw Misunderstood{"a number is wanted"};
+  auto& bar = target.As<forms::HScrollBar>();
+  if (bar.InRange(*value)) {
+    Deliver(target, [&] { bar.PersonScrolls(*value); });
+  } else {
+    print_("refused: range");
+  }
+}
+
+namespace {
+
+forms::MouseEvent ToMouseEvent(const std::vector<Word>& words) {
+  const Misunderstood wanted{"button, shift, x and y are wanted"};
+  if (words.size() != 5) throw wanted;
+  const auto button = ToWhole(words[1]);
+  const auto shift = ToWhole(words[2]);
+  const auto x = ToReal(words[3]);
+  const auto y = ToReal(words[4]);
+  if (!button || !shift || !x || !y) throw wanted;
+  return {*button, *shift, *x, *y};
+}
+
+}  // namespace
+
+void ScriptedPerson::MouseDown(const Target& target, const std::vector<Word>& words) {
+  const forms::MouseEvent mouse = ToMouseEvent(words);
+  Deliver(target, [&] { target.control->PersonPresses(mouse); });
+}
+
+void ScriptedPerson::MouseMove(const Target& target, const std::vector<Word>& words) {
+  const forms::MouseEvent mouse = ToMouseEvent(words);
+  Deliver(target, [&] { target.control->PersonMoves(mouse); });
+}
+
+}  // namespace lectern::headless
