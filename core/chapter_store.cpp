@@ -10,7 +10,9 @@ namespace {
 constexpr int kBook = 1;  // slots
 constexpr int kScratch = 2;
 
-bool IsChapterLine(std::string_view line) { return line.starts_with("Chap"); }
+constexpr std::string_view kChapterMark = "Chap";
+
+bool IsChapterLine(std::string_view line) { return line.starts_with(kChapterMark); }
 
 }  // namespace
 
@@ -55,8 +57,8 @@ void ChapterStore::CopyChapter(const Trapping& trap, std::string& held) {
   std::string_view line;
   const auto more = [&] { return slots.IsOpen(kBook) && !slots.EndOfFile(kBook); };
   while (!done && more()) {
-    line = slots.ReadLine(kBook);
-    if (!IsChapterLine(line)) continue;
+    line = slots.ReadLineStarting(kBook, kChapterMark);
+    if (!IsChapterLine(line)) continue;  // the book's last line
     ++counter;
     // The line behind a chapter line belongs to the chapter, whatever it looks like: a chapter line that
     // follows another one at once is not counted.

@@ -50,7 +50,7 @@ void StartUp::PlaceWindow() {
 void StartUp::FindFolders() {
   const Ignoring ignore;
   ignore([&] {
-    // ODDITY(one-known-folder): a start in this one folder reads the data from another; it is meant.
+    // A start in the folder of the data's first keeper, and there alone, reads the data from another.
     if (reader.Dir1.Path == "C:\\a\\ide\\ID98") reader.Dir1.Path = "C:\\CODEX";
   });
   ignore([&] { controls.Dirpics.Path = reader.Dir1.Path + "\\pics"; });

@@ -43,12 +43,7 @@ void FileSlots::OpenForReading(int slot, std::string_view name) {
   if (!reading_[index]) reading_[index] = std::make_unique<Reading>();
   Reading& reading = *reading_[index];
   files_.Read(name, reading.contents);
-  std::string_view bytes = reading.contents.Bytes();
-  if (!text::IsAscii(bytes)) {
-    reading.decoded = Decode(bytes);
-    bytes = reading.decoded;
-  }
-  reading.reader = RecordReader(bytes);
+  reading.reader = RecordReader(reading.contents.Bytes());
   reading.open = true;
 }
 
@@ -65,15 +60,37 @@ FileSlots::Reading& FileSlots::ReadingAt(int slot) {
 
 bool FileSlots::EndOfFile(int slot) { return ReadingAt(slot).reader.AtEnd(); }
 
-RecordReader& FileSlots::BeforeEnd(int slot) {
-  RecordReader& reader = ReadingAt(slot).reader;
-  if (reader.AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile);
-  return reader;
+FileSlots::Reading& FileSlots::BeforeEnd(int slot) {
+  Reading& reading = ReadingAt(slot);
+  if (reading.reader.AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile);
+  return reading;
 }
 
-std::string_view FileSlots::ReadLine(int slot) { return BeforeEnd(slot).Line(); }
+// The text of a part of the file. How its bytes are meant is decided by the whole line that it lies in.
+std::string_view FileSlots::Decoded(Reading& reading, std::string_view part, std::string_view whole) {
+  if (text::IsAscii(part) || text::IsUtf8(whole)) return part;
+  reading.decoded = DecodeCodePage(part);
+  return reading.decoded;
+}
 
-std::string_view FileSlots::ReadField(int slot) { return BeforeEnd(slot).Field(); }
+std::string_view FileSlots::ReadLine(int slot) {
+  Reading& reading = BeforeEnd(slot);
+  const std::string_view line = reading.reader.Line();
+  return Decoded(reading, line, line);
+}
+
+std::string_view FileSlots::ReadLineStarting(int slot, std::string_view start) {
+  Reading& reading = BeforeEnd(slot);
+  const std::string_view line = reading.reader.LineStarting(start);
+  return Decoded(reading, line, line);
+}
+
+std::string_view FileSlots::ReadField(int slot) {
+  Reading& reading = BeforeEnd(slot);
+  const std::string_view field = reading.reader.Field();
+  if (text::IsAscii(field)) return field;
+  return Decoded(reading, field, reading.reader.LinesAround(field));
+}
 
 std::int32_t FileSlots::ReadNumber(int slot) { return text::RoundToLong(text::NumberValue(ReadField(slot))); }
 

@@ -1,9 +1,9 @@
 // The numbered files of one window. A handler opens a file on a number that it chooses (1 to 255), reads
 // or appends, and closes it; all handlers of the window share the numbers.
 //
-// A file is read whole at its opening and handed out piece by piece; what is read is good until the number
-// is opened again. Failures are RunTimeErrors: 52 for a number that is not open, 55 for one that is
-// already, 62 for a read behind the end, and those of the file system.
+// A file is read whole at its opening and handed out piece by piece; a piece is good until the number is
+// read from or opened again, also when it was closed meanwhile. Failures are RunTimeErrors: 52 for a number
+// that is not open, 55 for one that is already, 62 for a read behind the end, and those of the file system.
 #pragma once
 
 #include <cstdint>
@@ -45,6 +45,7 @@ class FileSlots {
 
   bool EndOfFile(int slot);
   std::string_view ReadLine(int slot);
+  std::string_view ReadLineStarting(int slot, std::string_view start);  // RecordReader::LineStarting
   std::string_view ReadField(int slot);
   std::int32_t ReadNumber(int slot);  // a field's leading digits; 0 for none
 
@@ -62,15 +63,16 @@ class FileSlots {
  private:
   struct Reading {
     Contents contents;
-    std::string decoded;  // where the file holds more than plain ASCII
     RecordReader reader;
+    std::string decoded;  // the last piece, where it held more than plain ASCII
     bool open = false;
   };
 
   void RequireFree(int slot) const;
   Reading* Find(int slot) const;
   Reading& ReadingAt(int slot);
-  RecordReader& BeforeEnd(int slot);
+  Reading& BeforeEnd(int slot);
+  static std::string_view Decoded(Reading& reading, std::string_view part, std::string_view whole);
   void WriteFields(int slot, std::span<const Field> fields);
   void Write(int slot, std::string_view text);
 

@@ -101,23 +101,22 @@ std::string EntryLike(const std::string& folder, std::string_view element) {
   return found;
 }
 
-int OpenRegular(const std::string& path, int flags) {
+struct OpenFile {
+  int descriptor = -1;  // or -1, and errno says why
+  std::uint64_t length = 0;
+};
+
+OpenFile OpenRegular(const std::string& path, int flags) {
   // Never waits: a pipe that lies where a file is wanted is no file.
   constexpr mode_t kMode = 0666;
   Descriptor file(::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC, kMode));
-  if (file.number() < 0) return -1;
+  if (file.number() < 0) return {};
   struct stat status {};
   if (::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode)) {
     errno = EISDIR;
-    return -1;
+    return {};
   }
-  return file.Release();
-}
-
-std::uint64_t LengthOf(int descriptor) {
-  struct stat status {};
-  if (::fstat(descriptor, &status) != 0) FailWith(errno);
-  return static_cast<std::uint64_t>(status.st_size);
+  return {file.Release(), static_cast<std::uint64_t>(status.st_size)};
 }
 
 }  // namespace
@@ -202,14 +201,14 @@ void FileSystem::Read(std::string_view name, Contents& contents) const {
   contents.size_ = 0;
   std::string path = AsWritten(name);
   Announce(Operation::kRead, path);
-  int opened = OpenRegular(path, O_RDONLY);
-  if (opened < 0 && (errno == ENOENT || errno == ENOTDIR)) {
+  OpenFile opened = OpenRegular(path, O_RDONLY);
+  if (opened.descriptor < 0 && (errno == ENOENT || errno == ENOTDIR)) {
     path = HostPath(name);
     opened = OpenRegular(path, O_RDONLY);
   }
-  if (opened < 0) FailWith(errno);
-  const Descriptor file(opened);
-  const std::uint64_t length = LengthOf(file.number());
+  if (opened.descriptor < 0) FailWith(errno);
+  const Descriptor file(opened.descriptor);
+  const std::uint64_t length = opened.length;
   if (contents.capacity_ < length) {
     contents.capacity_ = 0;
     contents.room_ = std::make_unique_for_overwrite<char[]>(length);
@@ -228,20 +227,25 @@ void FileSystem::Read(std::string_view name, Contents& contents) const {
 Appending FileSystem::OpenForAppending(std::string_view name) const {
   std::string path = AsWritten(name);
   Announce(Operation::kAppend, path);
-  int opened = OpenRegular(path, O_WRONLY | O_APPEND);
-  if (opened < 0 && (errno == ENOENT || errno == ENOTDIR)) {
+  OpenFile opened = OpenRegular(path, O_WRONLY | O_APPEND);
+  if (opened.descriptor < 0 && (errno == ENOENT || errno == ENOTDIR)) {
     path = HostPath(name);
     opened = OpenRegular(path, O_WRONLY | O_APPEND | O_CREAT);
   }
-  if (opened < 0) FailWith(errno);
-  return {*this, opened, path, LengthOf(opened)};
+  if (opened.descriptor < 0) FailWith(errno);
+  return {*this, opened.descriptor, path, opened.length};
 }
 
 void FileSystem::Delete(std::string_view name) const {
-  const std::string path = HostPath(name);
+  std::string path = AsWritten(name);
   Announce(Operation::kDelete, path);
-  if (At(path).folder) throw RunTimeError(ErrorNumber::kFileNotFound);
-  if (::unlink(path.c_str()) != 0) FailWith(errno);
+  int failure = ::unlink(path.c_str()) == 0 ? 0 : errno;
+  if (failure == ENOENT || failure == ENOTDIR) {
+    path = HostPath(name);
+    failure = ::unlink(path.c_str()) == 0 ? 0 : errno;
+  }
+  if (failure == EISDIR) failure = ENOENT;  // a folder is no file of that name
+  if (failure != 0) FailWith(failure);
 }
 
 void FileSystem::Rename(std::string_view from, std::string_view to) const {

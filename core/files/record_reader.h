@@ -36,8 +36,15 @@ class RecordReader {
     return {start, length};
   }
 
+  // The next line that begins with `start`, or the last line of all where none does any more: as reading line
+  // by line would come to it, but past the lines between in one sweep. Not to be called at the end.
+  std::string_view LineStarting(std::string_view start);
+
   // The next field. Not to be called at the end.
   std::string_view Field();
+
+  // The line or lines that a part of the text lies in.
+  std::string_view LinesAround(std::string_view part) const;
 
  private:
   void SkipBlanks();

@@ -30,6 +30,15 @@ char32_t CodePageCharacter(unsigned char byte) {
   return byte >= 0x80 && byte < 0xA0 ? kCodePage[byte - 0x80U] : byte;
 }
 
+std::string DecodeCodePage(std::string_view bytes) {
+  std::string result;
+  result.reserve(bytes.size() + bytes.size() / 4);
+  for (const char byte : bytes) {
+    text::AppendCharacter(result, CodePageCharacter(static_cast<unsigned char>(byte)));
+  }
+  return result;
+}
+
 std::string Decode(std::string_view bytes) {
   if (text::IsAscii(bytes)) return std::string(bytes);
   std::string result;
@@ -40,8 +49,7 @@ std::string Decode(std::string_view bytes) {
     if (text::IsUtf8(line)) {
       result.append(line);
     } else {
-      for (const char byte : line)
-        text::AppendCharacter(result, CodePageCharacter(static_cast<unsigned char>(byte)));
+      result.append(DecodeCodePage(line));
     }
     bytes.remove_prefix(end);
   }

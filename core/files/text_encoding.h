@@ -14,8 +14,9 @@ namespace lectern::files {
 // The text of a file's bytes, decided line by line. Line ends stay as they are.
 std::string Decode(std::string_view bytes);
 
-// The character of one byte of the code page.
+// The character of one byte of the code page, and the text of several.
 char32_t CodePageCharacter(unsigned char byte);
+std::string DecodeCodePage(std::string_view bytes);
 
 // The bytes of one written line.
 std::string Encode(std::string_view text);

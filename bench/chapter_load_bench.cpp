@@ -1,0 +1,43 @@
+// Loading the last chapter of the longest book, beside a plain read of the book's file.
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+#include "bench/real_data.h"
+#include "core/forms/label.h"
+#include "ui/headless/driver.h"
+
+namespace {
+
+using lectern::bench::DataFolder;
+
+void PlainReadOfPsalms(benchmark::State& state) {
+  const std::string path = DataFolder() + "/KJV/Psalms.txt";
+  std::vector<char> room(1 << 20);
+  for (auto _ : state) {
+    const int file = ::open(path.c_str(), O_RDONLY);
+    struct stat status {};
+    ::fstat(file, &status);
+    benchmark::DoNotOptimize(::read(file, room.data(), static_cast<std::size_t>(status.st_size)));
+    benchmark::ClobberMemory();
+    ::close(file);
+  }
+}
+BENCHMARK(PlainReadOfPsalms);
+
+void LoadPsalm150(benchmark::State& state) {
+  lectern::headless::Driver driver(DataFolder(), [](const std::string&) {});
+  driver.Execute("click Form1.lst \"Psalms\"");
+  lectern::forms::Window& form = *driver.Program().Touch("Form1");
+  auto& lblc = dynamic_cast<lectern::forms::Label&>(*form.Find("lblc"));
+  for (auto _ : state) {
+    lblc.Caption = "";
+    lblc.Caption = "150";
+  }
+}
+BENCHMARK(LoadPsalm150);
+
+}  // namespace

@@ -1,0 +1,35 @@
+// Runs a fuzz target for a bounded time where no coverage-guided fuzzer is at hand: texts put together from
+// the pieces that the target names, and changed by chance. The seed is fixed, so that a fault comes again;
+// an argument takes another number of runs, a second one another seed. Built with a fuzzer of its own, the
+// target alone is enough.
+#include <cstdint>
+#include <cstdlib>
+#include <iostream>
+#include <random>
+#include <string>
+#include <vector>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+extern const std::vector<std::string> kPieces;
+
+int main(int count, char** arguments) {
+  const int runs = count > 1 ? std::atoi(arguments[1]) : 20000;
+  std::mt19937 random(count > 2 ? static_cast<unsigned>(std::atoi(arguments[2])) : 1U);
+  const auto below = [&random](std::size_t limit) { return static_cast<std::size_t>(random()) % limit; };
+  for (int run = 0; run < runs; ++run) {
+    std::string input;
+    for (std::size_t pieces = below(40); pieces > 0; --pieces) {
+      if (below(8) == 0) {
+        input.push_back(static_cast<char>(below(256)));
+      } else {
+        input += kPieces[below(kPieces.size())];
+      }
+    }
+    for (std::size_t changes = below(4); changes > 0 && !input.empty(); --changes) {
+      input[below(input.size())] = static_cast<char>(below(256));
+    }
+    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
+  }
+  std::cout << runs << " inputs taken\n";
+  return 0;
+}
