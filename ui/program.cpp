@@ -1,5 +1,6 @@
 #include "ui/program.h"
 
+#include <algorithm>
 #include <memory>
 
 #include "core/forms/timer.h"
@@ -9,7 +10,8 @@ namespace lectern::ui {
 
 Program::Program(forms::Services services)
     : report_failure([](const core::RunTimeError&) {}),
-      Form1_(windows, [services] { return std::make_unique<Form1>(services); }) {}
+      Form1_(windows, [services] { return std::make_unique<Form1>(services); }),
+      known_{Knowing("Form1", Form1_)} {}
 
 void Program::Start() {
   try {
@@ -48,20 +50,31 @@ bool Program::Tick() {
   return !ticking.empty();
 }
 
+const Program::Known* Program::FindKnown(std::string_view name) const {
+  const auto found = std::find_if(known_.begin(), known_.end(),
+                                  [name](const Known& known) { return text::EqualFolded(known.name, name); });
+  return found == known_.end() ? nullptr : &*found;
+}
+
 void Program::Close(forms::Window& window) {
-  Deliver(window, [&window] { window.Form_Unload(); });
+  bool unloaded = false;
+  Deliver(window, [&] {
+    window.Form_Unload();
+    unloaded = true;
+  });
+  if (unloaded) FindKnown(window.Name())->let_go();
 }
 
 forms::Window* Program::Touch(std::string_view name) {
-  if (text::EqualFolded(name, "Form1")) return &Form1_();
-  return nullptr;
+  const Known* const known = FindKnown(name);
+  return known == nullptr ? nullptr : &known->touch();
 }
 
 Program::Routine Program::FindRoutine(std::string_view name) {
-  for (const std::string_view window_name : {"Form1"}) {
-    forms::Window* const window = Touch(window_name);
-    const auto found = window->routines.find(name);
-    if (found != window->routines.end()) return {window, found->second};
+  for (const Known& known : known_) {
+    forms::Window& window = known.touch();
+    const auto found = window.routines.find(name);
+    if (found != window.routines.end()) return {&window, found->second};
   }
   return {};
 }

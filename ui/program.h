@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string_view>
+#include <vector>
 
 #include "core/forms/windows.h"
 #include "core/program_end.h"
@@ -27,7 +28,7 @@ class Program {
   // One tick of every timer that is on when the round begins; whether there was one.
   bool Tick();
 
-  // The close box of a window.
+  // The close box of a window: its Form_Unload runs, and the window goes.
   void Close(forms::Window& window);
 
   // By its name, without regard to case; touching a window makes it. nullptr where there is none.
@@ -47,9 +48,21 @@ class Program {
   std::function<void(const core::RunTimeError&)> report_failure;
 
  private:
+  // One of the windows there can be.
+  struct Known {
+    std::string_view name;
+    std::function<forms::Window&()> touch;
+    std::function<void()> let_go;
+  };
+  template <class Kind>
+  static Known Knowing(std::string_view name, forms::OnTouch<Kind>& window) {
+    return {name, [&window]() -> forms::Window& { return window(); }, [&window] { window.LetGo(); }};
+  }
+  const Known* FindKnown(std::string_view name) const;
   void End(int status);
 
   forms::OnTouch<Form1> Form1_;
+  std::vector<Known> known_;
   bool ended_ = false;
   int status_ = 0;
 };
