@@ -92,6 +92,8 @@ std::string_view FileSlots::ReadField(int slot) {
   return Decoded(reading, field, reading.reader.LinesAround(field));
 }
 
+std::string_view FileSlots::ReadRest(int slot) { return ReadingAt(slot).reader.Rest(); }
+
 std::int32_t FileSlots::ReadNumber(int slot) { return text::RoundToLong(text::NumberValue(ReadField(slot))); }
 
 void FileSlots::Write(int slot, std::string_view text) {

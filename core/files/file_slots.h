@@ -47,7 +47,8 @@ class FileSlots {
   std::string_view ReadLine(int slot);
   std::string_view ReadLineStarting(int slot, std::string_view start);  // RecordReader::LineStarting
   std::string_view ReadField(int slot);
-  std::int32_t ReadNumber(int slot);  // a field's leading digits; 0 for none
+  std::string_view ReadRest(int slot);  // all that is left, as the bytes stand in the file
+  std::int32_t ReadNumber(int slot);    // a field's leading digits; 0 for none
 
   void PrintLine(int slot, std::string_view line);
   template <class... Values>

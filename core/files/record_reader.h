@@ -9,6 +9,7 @@
 // The reader holds a view of the text and hands out views of it; the text has to outlive them.
 #pragma once
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
 
@@ -39,6 +40,13 @@ class RecordReader {
   // The next line that begins with `start`, or the last line of all where none does any more: as reading line
   // by line would come to it, but past the lines between in one sweep. Not to be called at the end.
   std::string_view LineStarting(std::string_view start);
+
+  // All that is left.
+  std::string_view Rest() {
+    const std::string_view rest = text_.substr(std::min(at_, text_.size()));
+    at_ = text_.size();
+    return rest;
+  }
 
   // The next field. Not to be called at the end.
   std::string_view Field();

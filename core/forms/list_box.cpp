@@ -1,6 +1,7 @@
 #include "core/forms/list_box.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "core/run_time_error.h"
@@ -68,6 +69,16 @@ void ItemList::Insert(std::size_t at, std::string item) {
   TellView();
 }
 
+void ItemList::Append(std::vector<std::string> items) {
+  if (items.empty()) return;
+  if (items_.empty()) {
+    items_ = std::move(items);
+  } else {
+    items_.insert(items_.end(), std::make_move_iterator(items.begin()), std::make_move_iterator(items.end()));
+  }
+  TellView();
+}
+
 void ItemList::Erase(std::size_t at) {
   ++generation_;
   items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(at));
@@ -87,6 +98,14 @@ void ListBox::AddItem(std::string item) {
   const std::vector<std::string>& items = Items();
   const auto at = sorted_ ? std::upper_bound(items.begin(), items.end(), item) : items.end();
   Insert(static_cast<std::size_t>(at - items.begin()), std::move(item));
+}
+
+void ListBox::AddItems(std::vector<std::string> items) {
+  if (!sorted_) {
+    Append(std::move(items));
+    return;
+  }
+  for (std::string& item : items) AddItem(std::move(item));
 }
 
 void ListBox::RemoveItem(int index) {

@@ -34,6 +34,7 @@ class ItemList : public TextControl {
  protected:
   void SetItems(std::vector<std::string> items);  // clears the selection
   void Insert(std::size_t at, std::string item);
+  void Append(std::vector<std::string> items);
   void Erase(std::size_t at);
   const std::vector<std::string>& Items() const { return items_; }
 
@@ -48,6 +49,7 @@ class ListBox : public ItemList {
   ListBox(Container& parent, std::string name, const Design& design = {});
 
   void AddItem(std::string item);
+  void AddItems(std::vector<std::string> items);
   void RemoveItem(int index);  // error 5 where there is none
   void Clear();                // and the selection with it
 

@@ -1,7 +1,5 @@
 // Every chapter of both versions comes up as it stands in its book's file: the lines of the chapter, and
 // behind them the heading of the next one, or nothing where it is the book's last.
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <string>
@@ -10,6 +8,7 @@
 #include "core/canon.h"
 #include "core/files/text_encoding.h"
 #include "core/forms/rich_text_box.h"
+#include "tests/real/real_data.h"
 #include "ui/headless/driver.h"
 
 namespace lectern {
@@ -26,11 +25,6 @@ std::vector<std::string> ExpectedChapters(const std::string& path) {
     if (heading) chapters.emplace_back();
   }
   return chapters;
-}
-
-std::string RealData() {
-  const char* const folder = std::getenv("LECTERN_REAL_DATA");
-  return folder == nullptr ? "" : folder;
 }
 
 class ChapterWalk : public testing::TestWithParam<bool> {};

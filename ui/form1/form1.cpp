@@ -16,6 +16,8 @@ Form1::Form1(forms::Services services)
       chapter_store(reader),
       catalogue(reader),
       navigation(reader, panels, catalogue),
+      text_search(reader, panels, tools, menus),
+      result_navigation(reader, panels, text_search),
       concordance_builder(panels),
       bookmarks(panels),
       page_printing(panels),

@@ -18,6 +18,8 @@
 #include "core/tool_buttons.h"
 #include "gallery/maintenance.h"
 #include "search/concordance_builder.h"
+#include "search/result_navigation.h"
+#include "search/text_search.h"
 
 namespace lectern::ui {
 
@@ -39,6 +41,8 @@ class Form1 : public forms::Window {
   core::ChapterStore chapter_store;
   core::Catalogue catalogue;
   core::Navigation navigation;
+  search::TextSearch text_search;
+  search::ResultNavigation result_navigation;
   search::ConcordanceBuilder concordance_builder;
   aids::Bookmarks bookmarks;
   aids::PagePrinting page_printing;

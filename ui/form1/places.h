@@ -10,8 +10,9 @@
 namespace lectern::ui {
 
 extern const std::span<const Place> kReaderPlaces;
+extern const std::span<const Place> kSearchPlaces;
 extern const std::span<const Place> kStoragePlaces;
 
-inline const std::array kForm1Places = {kReaderPlaces, kStoragePlaces};
+inline const std::array kForm1Places = {kReaderPlaces, kSearchPlaces, kStoragePlaces};
 
 }  // namespace lectern::ui

@@ -1,0 +1,47 @@
+// The rules by which the two scans search one verse line. They differ on purpose in where they stop, in
+// whether a term may run on into a longer word, and in what they count.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace lectern::search {
+
+// The first term is looked for from this character on (from 0), so that a verse's number is no match.
+inline constexpr std::size_t kFirstPlace = 3;
+
+// Behind a match each loop goes on here (from 0). A line that is longer may match once more.
+inline constexpr std::size_t kNextPlace = 1000;
+
+enum class ScanKind { kBook, kWholeText };
+
+struct LineRules {
+  ScanKind kind = ScanKind::kBook;
+  std::size_t margin = 0;  // whole text: how many characters before a line's end the loops stop
+
+  // Whether the loop over the first term, or over the second, still looks at a place in a line.
+  bool FirstLooksAt(std::size_t place, std::size_t length) const {
+    return kind == ScanKind::kBook ? place < length : place + margin <= length;
+  }
+  bool SecondLooksAt(std::size_t place, std::size_t length) const {
+    return kind == ScanKind::kBook ? place < length : place + margin < length;
+  }
+
+  // Whether a first term with this character behind it runs on into a longer word. "z" ends a word; so does
+  // everything that is no small letter of the plain alphabet.
+  bool Rejects(char32_t next) const { return kind == ScanKind::kWholeText && next >= U'a' && next < U'z'; }
+};
+
+// What a line came to.
+struct LineFindings {
+  int hits = 0;
+  bool candidate = false;  // a first term was accepted, whatever became of the second
+};
+
+// Searches a line of any length in any script, place by place. `next` is the character behind the last
+// candidate of the scan so far; where a line ends with the term, the last one stands. A book without a name
+// takes no part in a scan of the whole text.
+LineFindings SearchLine(std::u32string_view line, std::u32string_view first, std::u32string_view second,
+                        const LineRules& rules, bool book_has_name, char32_t& next);
+
+}  // namespace lectern::search

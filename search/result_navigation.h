@@ -1,0 +1,24 @@
+// From a found verse to its chapter: a click on an entry opens the chapter behind the panel and colours the
+// terms in it.
+#pragma once
+
+#include "core/forms/label.h"
+#include "core/reader.h"
+#include "search/text_search.h"
+
+namespace lectern::search {
+
+class ResultNavigation {
+ public:
+  ResultNavigation(core::Reader& the_reader, core::Panels& panels, TextSearch& the_search);
+
+  forms::Label LBLCC;  // on the concordance's panel: the entry in hand
+
+ private:
+  void lsts_Click();
+
+  core::Reader& reader;
+  TextSearch& search;
+};
+
+}  // namespace lectern::search

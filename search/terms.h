@@ -1,0 +1,20 @@
+// What a search looks for: the texts of the two boxes in lower case, each behind one blank. The blank is the
+// left border of a word; an empty box leaves the blank alone, which every verse holds.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/text/letter_case.h"
+
+namespace lectern::search {
+
+struct Terms {
+  Terms(std::string_view first_box, std::string_view second_box)
+      : first(" " + text::Lower(first_box)), second(" " + text::Lower(second_box)) {}
+
+  std::string first;
+  std::string second;
+};
+
+}  // namespace lectern::search

@@ -1,0 +1,183 @@
+#include "search/text_search.h"
+
+#include <utility>
+
+#include "core/error_modes.h"
+#include "core/text/characters.h"
+#include "core/text/numbers.h"
+#include "search/text_scan.h"
+
+namespace lectern::search {
+
+using forms::kPointerDefault;
+using forms::kPointerHourglass;
+
+namespace {
+
+constexpr int kBook = 1;  // slot
+
+}  // namespace
+
+TextSearch::TextSearch(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
+                       core::Menus& menus)
+    : lblfor(the_panels.frms, "lblfor", {.caption = "for"}),
+      txts(the_panels.frms, "txts", {.name = "Search for"}),
+      lbland(the_panels.frms, "lbland", {.caption = "and"}),
+      txts2(the_panels.frms, "txts2", {.name = "and"}),
+      SSOption1(the_panels.frms, "SSOption1", {.caption = "Book", .value = 1}),
+      op1(the_panels.frms, "op1", {.caption = "Codex"}),
+      Command22(the_panels.frms, "Command22", {.caption = "Search", .is_default = true}),
+      Command15(the_panels.frms, "Command15", {.caption = "How long will it take?"}),
+      lblmatches(the_panels.frms, "lblmatches", {.caption = "Matches"}),
+      text5(the_panels.frms, "text5", {.caption = "00"}),
+      lsts(the_panels.frms, "lsts", {.name = "Verses found"}),
+      cmdadd(the_panels.frms, "cmdadd", {.caption = "Add to Concordance", .enabled = false}),
+      Command20(the_panels.frms, "Command20", {.caption = "Close Search", .is_cancel = true}),
+      text7(the_panels.frmscale, "text7", {.caption = "Chapter"}),
+      pbar(the_panels.frmscale, "pbar", {.max = 100, .name = "Books searched"}),
+      Command25(the_panels.frmscale, "Command25", {.caption = "Cancel"}),
+      tmrb(the_reader.form, "tmrb", {.enabled = false, .interval = 1}),
+      wrd(the_panels.Frame2, "wrd", {.caption = "Label32"}),
+      ShowHelpNote([](const std::string&) {}),
+      reader(the_reader),
+      panels(the_panels),
+      tools(the_tools) {
+  tools.Command16.Click = [this] { Command16_Click(); };
+  menus.cc3.Click = [this] { cc3_Click(); };
+  txts.Change = [this] { txts_Change(txts); };
+  txts2.Change = [this] { txts_Change(txts2); };
+  Command22.Click = [this] { Command22_Click(); };
+  tmrb.Tick = [this] { tmrb_Timer(); };
+  Command25.Click = [this] { Command25_Click(); };
+  Command15.Click = [this] { Command15_Click(); };
+  Command20.Click = [this] { Command20_Click(); };
+  for (forms::CommandButton* button : {&Command25, &Command20}) {
+    button->MouseDown = [this](forms::MouseEvent) { Command22.MousePointer = kPointerHourglass; };
+  }
+}
+
+void TextSearch::Command16_Click() {
+  panels.picp.Visible = false;
+  panels.frms.Visible = true;
+  lsts.Clear();
+  text5.Caption = "";
+  txts.SetFocus();
+  tools.Disable();
+}
+
+void TextSearch::cc3_Click() {
+  panels.frms.Visible = true;
+  lsts.Clear();
+  text5.Caption = "";
+}
+
+// A scan that is under way goes on all the same.
+void TextSearch::txts_Change(const forms::TextBox& box) {
+  if (box.Text == "") return;
+  Command22.Enabled = true;
+  panels.frmscale.Visible = false;
+  lsts.Clear();
+  text5.Caption = "";
+}
+
+void TextSearch::Command22_Click() {
+  if (txts.Text == "" && txts2.Text == "") return;
+  if (op1.Value) {
+    panels.frmscale.Visible = true;
+  } else {
+    Command22.MousePointer = kPointerHourglass;
+  }
+  pbar.Value = 0;
+  lsts.Clear();
+  if (op1.Value) {
+    text7.Caption = "Genesis";
+    SearchBookIndex = 0;
+    pbar.Max = 66;
+    tmrb.Enabled = true;
+    return;
+  }
+  ScanOpenBook();
+  panels.frmscale.Visible = false;
+  reader.form.Platform().Beep();
+  reader.form.Platform().Beep();
+  Command22.Enabled = false;
+  Command22.MousePointer = kPointerDefault;
+}
+
+void TextSearch::ScanOpenBook() {
+  files::FileSlots& slots = reader.form.Slots();
+  const std::string& book = reader.lblbook.Caption;
+  slots.OpenForReading(kBook, reader.BookFile(book));
+  ScanFindings findings =
+      ScanText(slots.ReadRest(kBook), Terms(txts.Text(), txts2.Text()), book, {ScanKind::kBook, 0});
+  pbar.Value = pbar.Value + findings.chapter_lines;
+  TakeFindings(std::move(findings));
+  slots.Close(kBook);
+}
+
+void TextSearch::TakeFindings(ScanFindings findings) {
+  if (findings.count == 0) return;
+  cmdadd.Enabled = true;
+  text5.Caption = text::NumberText(text::NumberValue(text5.Caption()) + findings.count);
+  lsts.AddItems(std::move(findings.entries));
+}
+
+void TextSearch::tmrb_Timer() {
+  if (tmrb.Interval != 1) return;
+  const core::Ignoring ignore;
+  files::FileSlots& slots = reader.form.Slots();
+  ignore([&] { pbar.Value = pbar.Value + 1; });
+  ignore([&] { text7.Caption = reader.lst.List(SearchBookIndex + 1); });
+  const std::string book = reader.lst.List(SearchBookIndex);
+  // A book without a name is read as one without a line.
+  if (!book.empty()) ignore([&] { slots.OpenForReading(kBook, reader.BookFile(book)); });
+  ignore([&] {
+    const LineRules rules{ScanKind::kWholeText, text::Length(wrd.Caption())};
+    TakeFindings(ScanText(slots.ReadRest(kBook), Terms(txts.Text(), txts2.Text()), book, rules));
+  });
+  ignore([&] { slots.Close(kBook); });
+  ++SearchBookIndex;
+  if (SearchBookIndex > reader.lst.ListCount() - 1) {
+    tmrb.Enabled = false;
+    SearchBookIndex = 0;
+    panels.frmscale.Visible = false;
+    Command22.Enabled = false;
+    Command22.MousePointer = kPointerDefault;
+  }
+}
+
+void TextSearch::Command25_Click() {
+  tmrb.Enabled = false;
+  SearchBookIndex = 0;
+  panels.frmscale.Visible = false;
+  Command22.MousePointer = kPointerDefault;
+}
+
+void TextSearch::Command15_Click() {
+  ShowHelpNote(
+      "Tested on a: Pent2/266 - book < minute, codex < minute --- 586/75 - book = < 1 minute, codex = < 3.5 "
+      "minutes  ---  486/66 - book = < 1 minute, codex = < 5 minutes  ---  386/15 - book = < 5 minute, codex "
+      "= < "
+      "35 minutes --- Patience is a virtue.");
+}
+
+// ODDITY(search-closes-on-chapter-1): closing lands on chapter 1 of whichever book the last result opened; it
+// is meant.
+void TextSearch::Command20_Click() {
+  tmrb.Enabled = false;
+  reader.lblc.Caption = "";
+  reader.lblbk.Visible = true;
+  lsts.Clear();
+  reader.List1.Visible = true;
+  reader.lblc.Caption = "";
+  reader.lblc.Caption = "1";
+  panels.frms.Visible = false;
+  panels.frmscale.Visible = false;
+  Command22.MousePointer = kPointerDefault;
+  const std::string stem = reader.lblbook.Caption;
+  reader.lblbook.Caption = "";
+  reader.lblbook.Caption = stem;
+  tools.Enable();
+}
+
+}  // namespace lectern::search

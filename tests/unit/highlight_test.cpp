@@ -1,0 +1,44 @@
+#include "search/highlight.h"
+
+#include <gtest/gtest.h>
+
+#include "search/entry.h"
+#include "tests/unit/test_window.h"
+
+namespace lectern::search {
+namespace {
+
+TEST(HighlightText, ColoursEveryPlaceAndKeepsTheSelection) {
+  TestWindow test;
+  forms::RichTextBox pane(test.form, "rtxt");
+  pane.Text = "1   Grace and disgraced, GRACE";
+  pane.SelStart = 3;
+  pane.SelLength = 2;
+  EXPECT_EQ(HighlightText(pane, "grace", kMarkColour), 3);
+  EXPECT_EQ(pane.SelStart, 3);
+  EXPECT_EQ(pane.SelLength, 2);
+  ASSERT_EQ(pane.Runs().All().size(), 3U);
+  EXPECT_EQ(pane.Runs().All()[1].start, 17U);
+  EXPECT_EQ(HighlightText(pane, "", kMarkColour), 0);
+
+  // ODDITY(first-character)
+  pane.Text = "Grace and grace";
+  EXPECT_EQ(HighlightText(pane, "grace", kMarkColour), 0);
+  EXPECT_TRUE(pane.Runs().All().empty());
+}
+
+TEST(Entry, IsTakenApartBehindItsThirdCharacter) {
+  const std::optional<Entry> peter = ParseEntry("1 Peter 2 6");
+  ASSERT_TRUE(peter);
+  EXPECT_EQ(peter->book, "1 Peter");
+  EXPECT_EQ(peter->book_with_blank, "1 Peter ");
+  EXPECT_EQ(peter->chapter, "2");
+  EXPECT_EQ(peter->verse, "6");
+  EXPECT_EQ(ParseEntry("Psalms 119 105 and more")->verse, "105 and more");
+  EXPECT_EQ(ParseEntry("Jud5")->book, "Ju");
+  EXPECT_FALSE(ParseEntry("Genesis"));
+  EXPECT_FALSE(ParseEntry("123"));
+}
+
+}  // namespace
+}  // namespace lectern::search
