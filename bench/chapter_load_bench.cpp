@@ -4,8 +4,8 @@
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <vector>
 
+#include "bench/plain_read.h"
 #include "bench/real_data.h"
 #include "core/forms/label.h"
 #include "ui/headless/driver.h"
@@ -15,16 +15,8 @@ namespace {
 using lectern::bench::DataFolder;
 
 void PlainReadOfPsalms(benchmark::State& state) {
-  const std::string path = DataFolder() + "/KJV/Psalms.txt";
-  std::vector<char> room(1 << 20);
-  for (auto _ : state) {
-    const int file = ::open(path.c_str(), O_RDONLY);
-    struct stat status {};
-    ::fstat(file, &status);
-    benchmark::DoNotOptimize(::read(file, room.data(), static_cast<std::size_t>(status.st_size)));
-    benchmark::ClobberMemory();
-    ::close(file);
-  }
+  const lectern::bench::PlainRead read;
+  for (auto _ : state) read.One(DataFolder() + "/KJV/Psalms.txt");
 }
 BENCHMARK(PlainReadOfPsalms);
 

@@ -5,10 +5,9 @@
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <vector>
 
+#include "bench/plain_read.h"
 #include "bench/real_data.h"
-#include "core/canon.h"
 #include "core/forms/list_box.h"
 #include "ui/headless/driver.h"
 
@@ -17,21 +16,8 @@ namespace {
 using lectern::bench::DataFolder;
 
 void PlainReadOf66Files(benchmark::State& state) {
-  std::vector<std::string> paths;
-  for (const std::string_view book : lectern::core::kCanon) {
-    paths.push_back(DataFolder() + "/KJV/" + std::string(book) + ".txt");
-  }
-  std::vector<char> room(1 << 20);
-  for (auto _ : state) {
-    for (const std::string& path : paths) {
-      const int file = ::open(path.c_str(), O_RDONLY);
-      struct stat status {};
-      ::fstat(file, &status);
-      benchmark::DoNotOptimize(::read(file, room.data(), static_cast<std::size_t>(status.st_size)));
-      benchmark::ClobberMemory();
-      ::close(file);
-    }
-  }
+  const lectern::bench::PlainRead read;
+  for (auto _ : state) read.All();
 }
 BENCHMARK(PlainReadOf66Files)->Unit(benchmark::kMicrosecond);
 

@@ -1,8 +1,117 @@
 #include "search/concordance_builder.h"
 
+#include "core/error_modes.h"
+#include "core/text/numbers.h"
+#include "search/concordance_file.h"
+
 namespace lectern::search {
 
-ConcordanceBuilder::ConcordanceBuilder(core::Panels& panels)
-    : Text2(panels.Frame2, "Text2", {.name = "Hits"}) {}
+namespace {
+
+constexpr int kWords = 1;  // slots
+constexpr int kBookmarks = 1;
+constexpr int kTarget = 5;
+
+}  // namespace
+
+ConcordanceBuilder::ConcordanceBuilder(core::Reader& the_reader, core::Panels& the_panels,
+                                       TextSearch& the_search)
+    : Command27(the_panels.Frame2, "Command27", {.caption = "Make"}),
+      Command23(the_panels.Frame2, "Command23", {.caption = "Cancel"}),
+      List2(the_panels.Frame2, "List2", {.name = "Words to be looked up"}),
+      lbln(the_panels.Frame2, "lbln", {.caption = "-1"}),
+      Label32(the_panels.Frame2, "Label32"),
+      pbar2(the_panels.Frame2, "pbar2", {.name = "Words done"}),
+      Text2(the_panels.Frame2, "Text2", {.name = "Hits"}),
+      Text1(the_panels.Frame2, "Text1", {.name = "Text1"}),
+      Timer2(the_reader.form, "Timer2", {.enabled = false, .interval = 1}),
+      reader(the_reader),
+      panels(the_panels),
+      search(the_search) {
+  Command27.Click = [this] { Command27_Click(); };
+  Command23.Click = [this] { Timer2.Enabled = false; };
+  Timer2.Tick = [this] { Timer2_Timer(); };
+  List2.Click = [this] { List2_Click(); };
+}
+
+void ConcordanceBuilder::Command27_Click() {
+  // The first run needs a file to be there.
+  reader.form.Files().DeleteKeepingBackup(ConcordanceFile(reader));
+  panels.frms.Visible = true;
+  search.txts.Text = "";
+  search.lsts.Clear();
+  panels.frmscale.Visible = true;
+  Timer2.Enabled = true;
+  lbln.Caption = "-1";
+  search.pbar.Max = reader.lst.ListCount() - 1;
+  search.SearchBookIndex = -1;
+}
+
+void ConcordanceBuilder::Timer2_Timer() {
+  panels.frmscale.Visible = true;
+  if (search.tmrb.Enabled) return;  // a word is still being looked up
+  const core::Ignoring ignore;
+  search.pbar.Value = 0;
+  Label32.Caption = lbln.Caption + " of " + std::to_string(List2.ListCount());
+  if (lbln.Caption == "-1") {
+    ignore([&] { LoadWords(); });
+    pbar2.Value = 1;
+  } else {
+    ignore([&] { pbar2.Value = text::IntegerValue(lbln.Caption()); });
+    pbar2.Max = List2.ListCount();
+    ignore([&] { WriteResults(); });
+  }
+  const int next = static_cast<int>(text::NumberValue(lbln.Caption())) + 1;
+  lbln.Caption = std::to_string(next);
+  search.wrd.Caption = List2.List(next);
+  if (next > List2.ListCount() - 1) {
+    pbar2.Max = List2.ListCount() - 1;
+    pbar2.Value = 1;
+    // ODDITY(last-word-twice): the last word's verses are written once more; it is meant, and Command18 is
+    // there to cut them.
+    ignore([&] { WriteResults(); });
+    Timer2.Enabled = false;
+    reader.form.Platform().Beep();
+  } else {
+    search.tmrb.Enabled = true;
+  }
+  search.txts.Text = List2.List(next);
+  pbar2.Value = pbar2.Value + 1;
+}
+
+void ConcordanceBuilder::LoadWords() {
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForReading(kWords, reader.Dir1.Path + "\\conc.txt");
+  while (!slots.EndOfFile(kWords)) List2.AddItem(std::string(slots.ReadLine(kWords)));
+  slots.Close(kWords);
+}
+
+// The verses of the word that was looked up, as the search lists them.
+void ConcordanceBuilder::WriteResults() {
+  const core::Ignoring ignore;
+  files::FileSlots& slots = reader.form.Slots();
+  ignore([&] { slots.OpenForAppending(kTarget, ConcordanceFile(reader)); });
+  for (int i = 0; i < search.lsts.ListCount(); ++i) {
+    ignore([&] { slots.WriteRecord(kTarget, search.txts.Text(), search.lsts.List(i)); });
+  }
+  ignore([&] { slots.Close(kTarget); });
+}
+
+// Goes by a file of leftover bookmarks, which nothing in the program writes: name, book, chapter.
+void ConcordanceBuilder::List2_Click() {
+  const int selected = List2.SelectedIndex();
+  if (selected >= 0) Text2.Text = List2.List(selected);
+  files::FileSlots& slots = reader.form.Slots();
+  std::string fields[3];
+  slots.OpenForReading(kBookmarks, reader.Dir1.Path + "\\BKMK.DAT");
+  while (!slots.EndOfFile(kBookmarks)) {
+    for (std::string& field : fields) field = slots.ReadField(kBookmarks);
+    if (Text2.Text != fields[0]) continue;
+    for (int i = 0; i < 3; ++i) reader.LBLMRK(i).Caption = fields[i];
+    break;
+  }
+  slots.Close(kBookmarks);
+  reader.lblbk.Caption = fields[1];
+}
 
 }  // namespace lectern::search

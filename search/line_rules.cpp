@@ -12,10 +12,11 @@ LineFindings SearchLine(std::u32string_view line, std::u32string_view first, std
       continue;
     }
     if (i + first.size() < line.size()) next = line[i + first.size()];
-    const bool counts = !rules.Rejects(next) && (book_has_name || rules.kind == ScanKind::kBook);
+    const bool counts = !rules.Rejects(next) && (book_has_name || rules.CountsNameless());
     findings.candidate = findings.candidate || counts;
+    if (counts && second.empty()) ++findings.hits;
     std::size_t j = 0;
-    while (counts && rules.SecondLooksAt(j, line.size())) {
+    while (counts && !second.empty() && rules.SecondLooksAt(j, line.size())) {
       if (line.substr(j, second.size()) != second) {
         ++j;
         continue;

@@ -1,5 +1,6 @@
-// The rules by which the two scans search one verse line. They differ on purpose in where they stop, in
-// whether a term may run on into a longer word, and in what they count.
+// The rules by which the scans search one verse line: that of the open book, that of the whole text, and that
+// of the one-pass builder of the concordance. They differ on purpose in where they stop, in whether a term
+// may run on into a longer word, and in what they count.
 #pragma once
 
 #include <cstddef>
@@ -13,11 +14,11 @@ inline constexpr std::size_t kFirstPlace = 3;
 // Behind a match each loop goes on here (from 0). A line that is longer may match once more.
 inline constexpr std::size_t kNextPlace = 1000;
 
-enum class ScanKind { kBook, kWholeText };
+enum class ScanKind { kBook, kWholeText, kOnePass };
 
 struct LineRules {
   ScanKind kind = ScanKind::kBook;
-  std::size_t margin = 0;  // whole text: how many characters before a line's end the loops stop
+  std::size_t margin = 0;  // how many characters before a line's end the loops stop; none in a book scan
 
   // Whether the loop over the first term, or over the second, still looks at a place in a line.
   bool FirstLooksAt(std::size_t place, std::size_t length) const {
@@ -29,7 +30,14 @@ struct LineRules {
 
   // Whether a first term with this character behind it runs on into a longer word. "z" ends a word; so does
   // everything that is no small letter of the plain alphabet.
-  bool Rejects(char32_t next) const { return kind == ScanKind::kWholeText && next >= U'a' && next < U'z'; }
+  bool Rejects(char32_t next) const { return kind != ScanKind::kBook && next >= U'a' && next < U'z'; }
+
+  // Whether a match counts also where the book has no name.
+  bool CountsNameless() const { return kind != ScanKind::kWholeText; }
+
+  // Whether a book's name is cut to "song", and whether it gets a capital.
+  bool CutsSong() const { return kind != ScanKind::kWholeText; }
+  bool Capitalises() const { return kind != ScanKind::kBook; }
 };
 
 // What a line came to.
@@ -39,8 +47,8 @@ struct LineFindings {
 };
 
 // Searches a line of any length in any script, place by place. `next` is the character behind the last
-// candidate of the scan so far; where a line ends with the term, the last one stands. A book without a name
-// takes no part in a scan of the whole text.
+// candidate of the scan so far; where a line ends with the term, the last one stands. Without a second term
+// (not even a blank) every candidate is a hit.
 LineFindings SearchLine(std::u32string_view line, std::u32string_view first, std::u32string_view second,
                         const LineRules& rules, bool book_has_name, char32_t& next);
 

@@ -13,6 +13,13 @@ struct Terms {
   Terms(std::string_view first_box, std::string_view second_box)
       : first(" " + text::Lower(first_box)), second(" " + text::Lower(second_box)) {}
 
+  // A word to be looked for by itself: the second term is empty, which is less than a blank.
+  static Terms OneWord(std::string_view word) {
+    Terms terms(word, "");
+    terms.second.clear();
+    return terms;
+  }
+
   std::string first;
   std::string second;
 };

@@ -44,15 +44,17 @@ constexpr std::size_t kTypicalLine = 150;  // bytes
 
 class Scan {
  public:
-  Scan(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules)
+  Scan(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules, char32_t& next)
       : bytes_(bytes),
         terms_(terms),
         book_(std::move(book)),
         rules_(rules),
+        next_(next),
         first_(terms.first),
-        second_(terms.second),
+        second_(terms.second.empty() ? terms.first : terms.second),
         plain_terms_(text::IsAscii(terms.first) && text::IsAscii(terms.second)),
-        one_term_(terms.second == " ") {}
+        one_term_(terms.second == " "),
+        no_second_(terms.second.empty()) {}
 
   ScanFindings Run() {
     std::size_t match = NextMatch(0);
@@ -97,7 +99,7 @@ class Scan {
       chapter_ = 0;
       book_ = text::Lower(files::Decode(line));
       has_capital_ = false;
-      if (rules_.kind == ScanKind::kBook && book_.starts_with("song")) book_ = "song";
+      if (rules_.CutsSong() && book_.starts_with("song")) book_ = "song";
     }
     entry_length_ = 0;
   }
@@ -107,7 +109,7 @@ class Scan {
     const bool plain = plain_terms_ && line.size() <= kNextPlace && BookIsAscii();
     const LineFindings found = plain ? SearchPlainLine(line, place) : SearchAnyLine(line);
     // The name gets its capital with the first term that is accepted, be the second there or not.
-    if (found.candidate && rules_.kind == ScanKind::kWholeText) Capitalise();
+    if (found.candidate && rules_.Capitalises()) Capitalise();
     findings_.count += found.hits;
     for (int i = 0; i < found.hits && !book_.empty(); ++i) AddEntry();
   }
@@ -130,7 +132,8 @@ class Scan {
       return {};
     const std::size_t behind = i + terms_.first.size();
     if (behind < line.size()) next_ = LowerLetter(line[behind]);
-    if (rules_.Rejects(next_) || (book_.empty() && rules_.kind == ScanKind::kWholeText)) return {};
+    if (rules_.Rejects(next_) || (book_.empty() && !rules_.CountsNameless())) return {};
+    if (no_second_) return {1, true};
     const std::size_t j = one_term_ ? line.find(' ') : second_.Find(line, 0);
     return {j != std::string_view::npos && rules_.SecondLooksAt(j, line.size()) ? 1 : 0, true};
   }
@@ -161,15 +164,16 @@ class Scan {
   const Terms& terms_;
   std::string book_;
   const LineRules& rules_;
+  char32_t& next_;
   TermFinder first_, second_;
   bool plain_terms_;  // of ASCII alone, so that they can be looked for in bytes
   bool one_term_;     // the second box is empty
+  bool no_second_;    // there is no second box
 
   std::optional<bool> is_ascii_;
   std::size_t at_ = 0;  // where the next line begins
   int chapter_ = 0;
   int verse_ = 0;
-  char32_t next_ = 0;
   bool has_capital_ = false;
   std::string entry_;             // "Exodus 16 " and room for the verse
   std::size_t entry_length_ = 0;  // of the part in front of the verse; 0 where it has to be made anew
@@ -178,8 +182,14 @@ class Scan {
 
 }  // namespace
 
+ScanFindings ScanText(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules,
+                      char32_t& next) {
+  return Scan(bytes, terms, std::move(book), rules, next).Run();
+}
+
 ScanFindings ScanText(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules) {
-  return Scan(bytes, terms, std::move(book), rules).Run();
+  char32_t next = 0;
+  return ScanText(bytes, terms, std::move(book), rules, next);
 }
 
 }  // namespace lectern::search

@@ -20,10 +20,13 @@ namespace lectern::search {
 struct ScanFindings {
   std::vector<std::string> entries;
   int count = 0;          // matches; in a book scan also those without an entry, where the book has no name
-  int chapter_lines = 0;  // counted in a book scan only
+  int chapter_lines = 0;  // counted to the end of the file in a book scan only
 };
 
-// `book` is the name that entries bear until a heading takes its place.
+// `book` is the name that entries bear until a heading takes its place. `next` is the character behind the
+// last candidate (see SearchLine), for a scan that goes on over several books.
+ScanFindings ScanText(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules,
+                      char32_t& next);
 ScanFindings ScanText(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules);
 
 }  // namespace lectern::search

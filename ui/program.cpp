@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "core/error_modes.h"
 #include "core/forms/timer.h"
 #include "core/text/letter_case.h"
 
@@ -21,9 +22,14 @@ void Program::Start() {
   }
 }
 
+// What handlers had written so far goes to the disk.
 void Program::End(int status) {
   ended_ = true;
   status_ = status;
+  for (forms::Window* window : windows.All()) {
+    const core::Ignoring ignore;
+    ignore([&] { window->Slots().CloseAll(); });
+  }
 }
 
 void Program::Deliver(forms::Window& window, const std::function<void()>& event) {

@@ -4,17 +4,23 @@
 
 namespace lectern::forms {
 
-std::vector<Timer*> Windows::Timers() const {
-  std::vector<Timer*> timers;
+void Windows::FindTimers() {
+  timers_.clear();
   for (const Window* window : all_) {
     for (Control* control : window->Controls()) {
-      if (control->GetKind() == Kind::kTimer) timers.push_back(static_cast<Timer*>(control));
+      if (control->GetKind() == Kind::kTimer) timers_.push_back(static_cast<Timer*>(control));
     }
   }
-  return timers;
 }
 
-void Windows::Enter(Window& window) { all_.push_back(&window); }
-void Windows::Leave(Window& window) { std::erase(all_, &window); }
+void Windows::Enter(Window& window) {
+  all_.push_back(&window);
+  FindTimers();
+}
+
+void Windows::Leave(Window& window) {
+  std::erase(all_, &window);
+  FindTimers();
+}
 
 }  // namespace lectern::forms

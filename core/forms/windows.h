@@ -17,7 +17,7 @@ class Windows {
   const std::vector<Window*>& All() const { return all_; }
 
   // Every timer of every window, in the order they were made.
-  std::vector<Timer*> Timers() const;
+  const std::vector<Timer*>& Timers() const { return timers_; }
 
   // For the layer: a window is there, its Form_Load behind it; a window is about to go.
   std::function<void(Window&)> made;
@@ -28,8 +28,10 @@ class Windows {
   friend class OnTouch;
   void Enter(Window& window);
   void Leave(Window& window);
+  void FindTimers();
 
   std::vector<Window*> all_;
+  std::vector<Timer*> timers_;
 };
 
 // A window that is made at the first touch. It keeps its state while it is hidden; letting it go, as its

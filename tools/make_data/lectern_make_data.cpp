@@ -1,6 +1,7 @@
 // Fills a folder with everything that the program reads, from packages of the distribution.
 //
 //   lectern-make-data FOLDER                 all of it; safe to run again
+//   lectern-make-data --words N FOLDER       with concordances of N words, for a quick look
 //   lectern-make-data --second FILE FOLDER   a person's own text as the second version
 //
 // What it made before it replaces; what a person made it leaves alone.
@@ -12,6 +13,7 @@
 
 #include "core/canon.h"
 #include "tools/make_data/book_files.h"
+#include "tools/make_data/concordance.h"
 #include "tools/make_data/sources.h"
 
 namespace lectern::make_data {
@@ -31,22 +33,49 @@ void MakeSettings(const std::string& folder) {
   WriteFile(path, "\"" + SerifFont() + "\",\"12\",\"Regular\"\r\n");
 }
 
-void MakeAll(const std::string& folder) {
+// A concordance that is there may hold what the person added: it is left alone.
+void MakeConcordance(const std::string& folder, const Version& version, WhichVersion which,
+                     std::size_t most) {
+  const bool second = which == WhichVersion::kSecond;
+  if (std::filesystem::exists(folder + (second ? "/CONCORD2.DAT" : "/CONCORD.DAT"))) return;
+  std::vector<std::string> words = ConcordanceWords(version, most);
+  // The tool that cuts a concordance to its true end knows the second version's by this word.
+  if (second && std::erase(words, "zion") > 0) words.emplace_back("Zion");
+  std::size_t shown = 0;
+  BuildConcordance(folder, which, words, [&shown](std::size_t done, std::size_t all) {
+    const std::size_t percent = done * 100 / all;
+    if (percent != shown) std::cout << "\r  " << percent << " %" << std::flush;
+    shown = percent;
+  });
+  std::cout << "\r        \r";
+}
+
+void MakeAll(const std::string& folder, std::size_t concordance_words) {
   std::filesystem::create_directories(folder);
   Progress("King James Version …");
   const Version king_james = ReadKingJames();
   WriteBooks(king_james, folder + "/KJV", "");
   Progress("World English Bible, for the second version …");
-  MakeSecondVersion(ReadWorldEnglish(), folder);
+  const Version world_english = ReadWorldEnglish();
+  MakeSecondVersion(world_english, folder);
   Progress("Chapter counts …");
   WriteChapterCounts(king_james, folder);
   MakeSettings(folder);
+  Progress("Concordance of the first version …");
+  MakeConcordance(folder, king_james, WhichVersion::kFirst, concordance_words);
+  Progress("Concordance of the second version …");
+  MakeConcordance(folder, world_english, WhichVersion::kSecond, concordance_words);
   Progress("The data folder is ready.");
 }
 
 int Run(const std::vector<std::string>& arguments) {
+  constexpr std::size_t kConcordanceWords = 3900;
   if (arguments.size() == 1 && !arguments[0].starts_with("--")) {
-    MakeAll(std::filesystem::absolute(arguments[0]).lexically_normal().string());
+    MakeAll(std::filesystem::absolute(arguments[0]).lexically_normal().string(), kConcordanceWords);
+    return 0;
+  }
+  if (arguments.size() == 3 && arguments[0] == "--words") {
+    MakeAll(std::filesystem::absolute(arguments[2]).lexically_normal().string(), std::stoul(arguments[1]));
     return 0;
   }
   if (arguments.size() == 3 && arguments[0] == "--second") {

@@ -98,7 +98,9 @@ Version ReadWorldEnglish() {
   std::string markup;
   const auto put = [&] {
     if (at.book >= 0 && at.chapter > 0 && at.verse > 0) {
-      version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse] = PlainWords(markup);
+      // What stands behind the end of a chapter is the matter between books: a glossary, an introduction.
+      const std::string_view verse = std::string_view(markup).substr(0, markup.find("<chapter eID"));
+      version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse] = PlainWords(verse);
     }
     markup.clear();
   };

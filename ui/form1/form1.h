@@ -18,6 +18,9 @@
 #include "core/tool_buttons.h"
 #include "gallery/maintenance.h"
 #include "search/concordance_builder.h"
+#include "search/concordance_editing.h"
+#include "search/concordance_viewer.h"
+#include "search/one_pass_builder.h"
 #include "search/result_navigation.h"
 #include "search/text_search.h"
 
@@ -43,7 +46,10 @@ class Form1 : public forms::Window {
   core::Navigation navigation;
   search::TextSearch text_search;
   search::ResultNavigation result_navigation;
+  search::ConcordanceViewer concordance_viewer;
+  search::ConcordanceEditing concordance_editing;
   search::ConcordanceBuilder concordance_builder;
+  search::OnePassBuilder one_pass_builder;
   aids::Bookmarks bookmarks;
   aids::PagePrinting page_printing;
   gallery::Maintenance maintenance;

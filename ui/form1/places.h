@@ -11,8 +11,9 @@ namespace lectern::ui {
 
 extern const std::span<const Place> kReaderPlaces;
 extern const std::span<const Place> kSearchPlaces;
+extern const std::span<const Place> kConcordancePlaces;
 extern const std::span<const Place> kStoragePlaces;
 
-inline const std::array kForm1Places = {kReaderPlaces, kSearchPlaces, kStoragePlaces};
+inline const std::array kForm1Places = {kReaderPlaces, kSearchPlaces, kConcordancePlaces, kStoragePlaces};
 
 }  // namespace lectern::ui

@@ -1,0 +1,113 @@
+#include "search/concordance_editing.h"
+
+#include <optional>
+
+#include "core/text/letter_case.h"
+#include "search/concordance_file.h"
+#include "search/entry.h"
+
+namespace lectern::search {
+
+namespace {
+
+constexpr int kConcordance = 1;  // slots
+constexpr int kWorkFile = 2;
+
+}  // namespace
+
+ConcordanceEditing::ConcordanceEditing(core::Reader& the_reader, core::Panels& the_panels,
+                                       core::ErrorReport& the_report, TextSearch& the_search,
+                                       ResultNavigation& the_results, ConcordanceViewer& the_viewer)
+    : Command21(the_panels.frmc, "Command21", {.caption = "Delete Word/Phrase"}),
+      Command18(the_panels.Frame2, "Command18", {.caption = "Command18"}),
+      reader(the_reader),
+      panels(the_panels),
+      report(the_report),
+      search(the_search),
+      results(the_results),
+      viewer(the_viewer) {
+  search.cmdadd.Click = [this] { cmdadd_Click(); };
+  Command21.MouseDown = [this](forms::MouseEvent) {
+    search.Command22.MousePointer = forms::kPointerHourglass;
+  };
+  Command21.Click = [this] { Command21_Click(); };
+  Command18.Click = [this] { Command18_Click(); };
+}
+
+// A search for two terms is kept under its first; a word that is there already gets its records once more.
+void ConcordanceEditing::cmdadd_Click() {
+  try {
+    for (int i = 0; i < search.lsts.ListCount(); ++i) AddEntry(search.lsts.List(i));
+    reader.form.Platform().Message(text::Upper(search.txts.Text()) + " has been added to the Concordance");
+  } catch (const core::RunTimeError& error) {
+    report.ReportError(error);
+  }
+}
+
+void ConcordanceEditing::AddEntry(const std::string& text) {
+  const std::optional<Entry> entry = ParseEntry(text);
+  if (!entry) return;
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForAppending(kConcordance, ConcordanceFile(reader));
+  slots.WriteRecord(kConcordance, search.txts.Text(),
+                    entry->book + " " + entry->chapter + " " + entry->verse);
+  slots.Close(kConcordance);
+}
+
+void ConcordanceEditing::Command21_Click() {
+  const std::string path = ConcordanceFile(reader);
+  const std::string work_file = reader.Dir1.Path + "\\concord1.dat";
+  files::FileSlots& slots = reader.form.Slots();
+  const int selected = viewer.lstc.SelectedIndex();
+  if (selected >= 0) results.LBLCC.Caption = viewer.lstc.List(selected);
+
+  slots.OpenForReading(kConcordance, path);
+  slots.OpenForAppending(kWorkFile, work_file);
+  CopyOtherWords(text::Upper(results.LBLCC.Caption()));
+  slots.Close(kConcordance);
+  slots.Close(kWorkFile);
+  reader.form.Files().DeleteKeepingBackup(path);
+  reader.form.Files().Rename(work_file, path);
+
+  viewer.lstc.Clear();
+  slots.OpenForReading(kConcordance, path);
+  const std::string last = FillWordList(slots, kConcordance, viewer.lstc);
+  slots.Close(kConcordance);
+  viewer.lstc2.Clear();
+  // ODDITY(deletion-names-another): the message names the word that was loaded last, not the one that was
+  // deleted; it is meant.
+  reader.form.Platform().Message(
+      last + " has been removed from the Concordance. You can add words to Concordance with search feature.");
+  panels.frmc.Visible = true;
+  search.Command22.MousePointer = forms::kPointerDefault;
+}
+
+// Copies the records of all words but one, which goes in whatever case it stands.
+void ConcordanceEditing::CopyOtherWords(const std::string& word) {
+  files::FileSlots& slots = reader.form.Slots();
+  std::string record_word;
+  while (!slots.EndOfFile(kConcordance)) {
+    record_word = slots.ReadField(kConcordance);
+    const std::string_view reference = slots.ReadField(kConcordance);
+    if (text::Upper(record_word) != word) slots.WriteRecord(kWorkFile, record_word, reference);
+  }
+}
+
+// Keeps what stands up to the true end of the second version's concordance and drops the block that the
+// builder repeats. A second click copies nothing until a search or the builder has set the index anew.
+void ConcordanceEditing::Command18_Click() {
+  constexpr int kStop = 5;
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForReading(kConcordance, reader.Dir1.Path + "\\CONCORD2.DAT");
+  slots.OpenForAppending(kWorkFile, reader.Dir1.Path + "\\CONCORD22.DAT");
+  while (!slots.EndOfFile(kConcordance) && search.SearchBookIndex != kStop) {
+    const std::string word(slots.ReadField(kConcordance));
+    const std::string_view reference = slots.ReadField(kConcordance);
+    if (word == "Zion" && reference == "1 Peter 2 6") search.SearchBookIndex = kStop;
+    slots.WriteRecord(kWorkFile, word, reference);
+  }
+  slots.Close(kConcordance);
+  slots.Close(kWorkFile);
+}
+
+}  // namespace lectern::search

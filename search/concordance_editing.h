@@ -1,0 +1,36 @@
+// Extends the concordance by what a search found, and deletes words from it. New records go to the end of the
+// file; a deletion rewrites the file through a work file.
+#pragma once
+
+#include "core/error_report.h"
+#include "core/forms/buttons.h"
+#include "search/concordance_viewer.h"
+#include "search/result_navigation.h"
+#include "search/text_search.h"
+
+namespace lectern::search {
+
+class ConcordanceEditing {
+ public:
+  ConcordanceEditing(core::Reader& the_reader, core::Panels& the_panels, core::ErrorReport& the_report,
+                     TextSearch& the_search, ResultNavigation& the_results, ConcordanceViewer& the_viewer);
+
+  forms::CommandButton Command21;  // deletes the selected word
+  forms::CommandButton Command18;  // on the builder's panel: cuts a file back to its true end
+
+ private:
+  void cmdadd_Click();
+  void AddEntry(const std::string& text);
+  void Command21_Click();
+  void CopyOtherWords(const std::string& word);
+  void Command18_Click();
+
+  core::Reader& reader;
+  core::Panels& panels;
+  core::ErrorReport& report;
+  TextSearch& search;
+  ResultNavigation& results;
+  ConcordanceViewer& viewer;
+};
+
+}  // namespace lectern::search

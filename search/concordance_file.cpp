@@ -1,0 +1,27 @@
+#include "search/concordance_file.h"
+
+#include "core/text/letter_case.h"
+
+namespace lectern::search {
+
+std::string ConcordanceFile(const core::Reader& reader) {
+  return reader.Dir1.Path + (reader.optk.Value ? "\\CONCORD.DAT" : "\\CONCORD2.DAT");
+}
+
+// ODDITY(concordance-limit): the words behind the limit are not shown, without a word about it; being counted
+// in the order of the file, they are the ones that a person added. It is meant.
+std::string FillWordList(files::FileSlots& slots, int slot, forms::ListBox& list) {
+  std::string last;
+  std::string word;
+  for (int count = 0; count < kMostWords && !slots.EndOfFile(slot);) {
+    word = slots.ReadField(slot);
+    slots.ReadField(slot);
+    if (word == last) continue;
+    list.AddItem(text::Upper(word));
+    ++count;
+    last = word;
+  }
+  return last;
+}
+
+}  // namespace lectern::search

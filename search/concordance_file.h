@@ -1,0 +1,22 @@
+// Which file holds the concordance of the version that is set, and how its records are read: one after the
+// other, Word and Reference, from the first byte at every use.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/reader.h"
+
+namespace lectern::search {
+
+// "CONCORD.DAT" or "CONCORD2.DAT" in the data folder; the version is looked at anew at every call.
+std::string ConcordanceFile(const core::Reader& reader);
+
+// Fills a list with the words of the concordance that is open on the slot, in upper case: one entry for the
+// records of a word that follow one another, up to the limit, which ends the reading. Gives back the word
+// that was taken last, as it stands in the file; "" where there was none.
+std::string FillWordList(files::FileSlots& slots, int slot, forms::ListBox& list);
+
+inline constexpr int kMostWords = 4000;
+
+}  // namespace lectern::search

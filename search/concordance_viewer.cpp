@@ -1,0 +1,127 @@
+#include "search/concordance_viewer.h"
+
+#include <optional>
+#include <utility>
+
+#include "core/text/characters.h"
+#include "core/text/letter_case.h"
+#include "core/text/numbers.h"
+#include "search/concordance_file.h"
+#include "search/highlight.h"
+
+namespace lectern::search {
+
+namespace {
+
+constexpr int kConcordance = 1;  // slot
+
+struct Passage {
+  std::string book;
+  std::string chapter;
+};
+
+// The book and the chapter of "1 Peter 2 6". The first character is passed over, so that the digit of a
+// numbered book is not taken for the chapter. Nothing where no chapter and verse stand behind a book.
+std::optional<Passage> ParseReference(std::string_view reference) {
+  const std::size_t start = text::ByteOf(reference, 2);
+  const std::size_t digit = reference.find_first_of("0123456789", start);
+  if (digit == std::string_view::npos || digit == 0) return std::nullopt;
+  const std::string_view rest = reference.substr(digit);
+  const std::size_t blank = rest.rfind(' ');
+  if (blank == std::string_view::npos) return std::nullopt;
+  return Passage{std::string(reference.substr(0, digit - 1)), std::string(rest.substr(0, blank))};
+}
+
+}  // namespace
+
+ConcordanceViewer::ConcordanceViewer(core::Reader& the_reader, core::Panels& the_panels,
+                                     core::ToolButtons& the_tools, core::Menus& menus, TextSearch& the_search)
+    : lblwords(the_panels.frmc, "lblwords", {.caption = "Words"}),
+      lstc(the_panels.frmc, "lstc", {.sorted = true, .name = "Words of the concordance"}),
+      lblw(the_panels.frmc, "lblw", {.caption = "click on word"}),
+      lblmatches2(the_panels.frmc, "lblmatches2", {.caption = "Matches "}),
+      text6(the_panels.frmc, "text6", {.caption = "00"}),
+      lstc2(the_panels.frmc, "lstc2", {.name = "Verses of the word"}),
+      Command9(the_panels.frmc, "Command9", {.caption = "Close Concordance", .is_cancel = true}),
+      reader(the_reader),
+      panels(the_panels),
+      tools(the_tools),
+      search(the_search) {
+  tools.Command8.Click = [this] { Command8_Click(); };
+  menus.cc1.Click = [this] { cc1_Click(); };
+  lstc.Click = [this] { lstc_Click(); };
+  lstc2.Click = [this] { lstc2_Click(); };
+  Command9.Click = [this] { Command9_Click(); };
+}
+
+// The one tool button that locks nothing.
+void ConcordanceViewer::Command8_Click() {
+  panels.picp.Visible = false;
+  panels.frmc.Visible = true;
+  LoadConcordanceWords();
+}
+
+void ConcordanceViewer::cc1_Click() {
+  panels.frmc.Visible = true;
+  LoadConcordanceWords();
+}
+
+void ConcordanceViewer::LoadConcordanceWords() {
+  text6.Caption = "0";
+  lstc.Clear();
+  reader.List1.Clear();
+  search.text5.Caption = "";
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForReading(kConcordance, ConcordanceFile(reader));
+  FillWordList(slots, kConcordance, lstc);
+  slots.Close(kConcordance);
+}
+
+// Unlike the list of words, the walk for a word's verses has no limit, and finds them wherever they stand.
+void ConcordanceViewer::lstc_Click() {
+  text6.Caption = "0";
+  lstc2.Clear();
+  const int selected = lstc.SelectedIndex();
+  if (selected >= 0) lblw.Caption = lstc.List(selected);
+  const std::string wanted = text::Upper(lblw.Caption());
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForReading(kConcordance, ConcordanceFile(reader));
+  std::vector<std::string> references;
+  std::string last;  // the records of a word stand together: it is compared once
+  bool last_fits = wanted.empty();
+  while (!slots.EndOfFile(kConcordance)) {
+    const std::string_view word = slots.ReadField(kConcordance);
+    if (word != last) {
+      last = word;
+      last_fits = text::Upper(last) == wanted;
+    }
+    const std::string_view reference = slots.ReadField(kConcordance);
+    if (last_fits) references.emplace_back(reference);
+  }
+  text6.Caption = std::to_string(references.size());
+  lstc2.AddItems(std::move(references));
+  slots.Close(kConcordance);
+}
+
+void ConcordanceViewer::lstc2_Click() {
+  const std::optional<Passage> passage = ParseReference(lstc2.List(lstc2.SelectedIndex()));
+  if (!passage) return;
+  reader.Show(passage->book, passage->book, passage->chapter);
+  HighlightText(reader.rtxt, lblw.Caption(), kMarkColour);
+}
+
+void ConcordanceViewer::Command9_Click() {
+  lstc.Clear();
+  reader.lblc.Caption = "";
+  reader.lblbk.Visible = true;
+  reader.List1.Visible = true;
+  // As with the search, closing lands on chapter 1.
+  reader.lblc.Caption = "1";
+  panels.frmc.Visible = false;
+  const std::string stem = reader.lblbook.Caption;
+  reader.lblbook.Caption = "";
+  reader.lblbook.Caption = stem;
+  tools.Enable();
+}
+
+}  // namespace lectern::search

@@ -1,0 +1,42 @@
+// The concordance panel: its words, the verses of a chosen word, and the way to a verse's chapter with the
+// word coloured.
+#pragma once
+
+#include "core/forms/buttons.h"
+#include "core/menus.h"
+#include "core/panels.h"
+#include "core/reader.h"
+#include "core/tool_buttons.h"
+#include "search/text_search.h"
+
+namespace lectern::search {
+
+class ConcordanceViewer {
+ public:
+  ConcordanceViewer(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
+                    core::Menus& menus, TextSearch& the_search);
+
+  forms::Label lblwords;
+  forms::ListBox lstc;  // the words, in upper case
+  forms::Label lblw;    // the chosen word
+  forms::Label lblmatches2;
+  forms::Label text6;    // how many verses it stands in
+  forms::ListBox lstc2;  // the verses
+  forms::CommandButton Command9;
+
+  void LoadConcordanceWords();
+
+ private:
+  void Command8_Click();
+  void cc1_Click();
+  void lstc_Click();
+  void lstc2_Click();
+  void Command9_Click();
+
+  core::Reader& reader;
+  core::Panels& panels;
+  core::ToolButtons& tools;
+  TextSearch& search;
+};
+
+}  // namespace lectern::search

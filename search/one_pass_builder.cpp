@@ -1,0 +1,86 @@
+#include "search/one_pass_builder.h"
+
+#include "core/text/characters.h"
+#include "core/text/letter_case.h"
+#include "core/text/numbers.h"
+#include "search/text_scan.h"
+
+namespace lectern::search {
+
+namespace {
+
+constexpr int kBook = 1;  // slots
+constexpr int kTarget = 2;
+constexpr int kTruth = -1;  // what a true comparison counts as
+
+}  // namespace
+
+OnePassBuilder::OnePassBuilder(core::Reader& the_reader, core::Panels& panels, TextSearch& the_search,
+                               ConcordanceBuilder& the_builder)
+    : Command13(panels.Frame2, "Command13", {.caption = "Command13"}),
+      books(panels.Frame2, "books"),
+      pbar3(panels.Frame2, "pbar3", {.name = "Books done"}),
+      reader(the_reader),
+      search(the_search),
+      builder(the_builder) {
+  Command13.Click = [this] { Command13_Click(); };
+}
+
+void OnePassBuilder::Command13_Click() {
+  files::FileSlots& slots = reader.form.Slots();
+  builder.List2.Clear();
+  slots.OpenForReading(kBook, reader.Dir1.Path + "\\conc.txt");
+  while (!slots.EndOfFile(kBook)) builder.List2.AddItem(std::string(slots.ReadLine(kBook)));
+  slots.Close(kBook);
+  builder.pbar2.Max = builder.List2.ListCount();
+  builder.pbar2.Value = 0;
+  // Whatever version is set.
+  reader.form.Files().DeleteKeepingBackup(reader.Dir1.Path + "\\concord.dat");
+  slots.OpenForAppending(kTarget, reader.Dir1.Path + "\\concord.dat");
+  char32_t next = 0;  // lives through the whole click
+  for (int i = 0; i < builder.List2.ListCount(); ++i) {
+    builder.pbar2.Value = builder.pbar2.Value + 1;
+    pbar3.Max = 65;
+    pbar3.Value = 0;
+    search.wrd.Caption = builder.List2.List(i);
+    LookUp(builder.List2.List(i), next);
+    pbar3.Value = 0;
+  }
+  slots.Close(kTarget);
+}
+
+void OnePassBuilder::LookUp(const std::string& word, char32_t& next) {
+  files::FileSlots& slots = reader.form.Slots();
+  const Terms terms = Terms::OneWord(word);
+  for (search.SearchBookIndex = 0; search.SearchBookIndex <= 65; ++search.SearchBookIndex) {
+    const std::string book = reader.lst.List(search.SearchBookIndex);
+    books.Caption = book;
+    // Set to whether it stands at 1, so that it never leaves 0; it is meant.
+    pbar3.Value = pbar3.Value == 1 ? kTruth : 0;
+    search.text7.Caption = reader.lst.List(search.SearchBookIndex + 1);
+    constexpr std::size_t kShortName = 8;
+    const std::string name(text::Left(book, kShortName));
+    slots.OpenForReading(kBook, reader.Dir1.Path + "\\" + name + ".txt");
+    const LineRules rules{ScanKind::kOnePass, text::Length(search.wrd.Caption())};
+    TakeFindings(word, book, ScanText(slots.ReadRest(kBook), terms, name, rules, next));
+    slots.Close(kBook);
+  }
+}
+
+void OnePassBuilder::TakeFindings(const std::string& word, const std::string& book,
+                                  const ScanFindings& findings) {
+  if (findings.count == 0) return;
+  search.cmdadd.Enabled = true;
+  for (const std::string& entry : findings.entries) {
+    const std::size_t verse = entry.rfind(' ');
+    const std::size_t chapter = entry.rfind(' ', verse - 1);
+    reader.form.Slots().WriteRecord(kTarget, " " + text::Upper(word), book,
+                                    text::RoundToLong(text::NumberValue(entry.substr(chapter + 1))),
+                                    text::RoundToLong(text::NumberValue(entry.substr(verse + 1))));
+  }
+  const auto records = static_cast<double>(findings.entries.size());
+  builder.Text2.Text = text::NumberText(text::NumberValue(builder.Text2.Text()) + records);
+  search.text5.Caption = text::NumberText(text::NumberValue(search.text5.Caption()) + findings.count);
+}
+
+}  // namespace lectern::search
