@@ -116,7 +116,7 @@ void ControlView::ApplyPointer() {
 
 QFont ControlView::WantedFont() const {
   const auto* const text = dynamic_cast<const forms::TextControl*>(&control_);
-  return text == nullptr ? QApplication::font() : FontOf(*text, QApplication::font());
+  return text == nullptr ? OwnFont() : FontOf(*text);
 }
 
 void ControlView::ApplyFont() {
@@ -150,6 +150,7 @@ void ControlView::ApplyColours() {
     }
   };
   const Ground kind = GetGround();
+  if (kind == Ground::kNone) return;
   // The fore colour of a panel is what is drawn on it with, not its text's.
   const forms::Colour fore = kind == Ground::kPanel ? forms::kButtonText : control_.ForeColor();
   const forms::Colour back = control_.BackColor;

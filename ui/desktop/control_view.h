@@ -28,6 +28,10 @@ class ControlView : public QObject, public LayerView {
   void TakeFocus() override;
   void Refresh() override;
 
+  // Brings in what the person did that is no event, such as selecting text. Called ahead of the next event
+  // where the view asked for it.
+  virtual void Commit() {}
+
   // The theme or the ground behind the control changed.
   void Recolour();
 
@@ -40,8 +44,8 @@ class ControlView : public QObject, public LayerView {
   virtual ChildViews* Children() { return nullptr; }
 
  protected:
-  // What the control's colours go to.
-  enum class Ground { kTransparent, kPanel, kField, kButton };
+  // What the control's colours go to; nowhere where the view paints with them itself.
+  enum class Ground { kNone, kTransparent, kPanel, kField, kButton };
 
   virtual QWidget* Make(QWidget* parent) = 0;
   virtual void Apply() = 0;  // what only this kind has

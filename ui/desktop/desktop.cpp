@@ -17,6 +17,9 @@ Desktop::Desktop(std::string data_folder)
       timers_(events_, [this](const auto& due) { program_.Tick(due); }) {
   JoinWindows();
   JoinPlatform();
+  events_.starting = [this] {
+    for (const auto& window : windows_) window->Commit();
+  };
   events_.settled = [this] { Settle(); };
   QObject::connect(qApp, &QApplication::focusChanged, &receiver_, [this](QWidget*, QWidget* now) {
     for (const auto& window : windows_) {

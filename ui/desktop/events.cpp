@@ -23,7 +23,7 @@ void LayerView::Changed() {
   events_.stale_.push_back(this);
 }
 
-Events::Events(Carry carry) : settled([] {}), carry_(std::move(carry)) {
+Events::Events(Carry carry) : starting([] {}), settled([] {}), carry_(std::move(carry)) {
   since_shown_.start();
   soon_.setSingleShot(true);
   QObject::connect(&soon_, &QTimer::timeout, [this] {
@@ -38,6 +38,7 @@ void Events::Deliver(forms::Window& window, const std::function<void()>& event) 
 void Events::Run(const std::function<void()>& work) {
   if (at_work_) return;
   at_work_ = true;
+  starting();
   work();
   at_work_ = false;
   Settle();
@@ -46,6 +47,7 @@ void Events::Run(const std::function<void()>& work) {
 void Events::DeliverTicks(const std::function<Ticking()>& ticks) {
   if (at_work_) return;
   at_work_ = true;
+  starting();
   const Ticking ticking = ticks();
   at_work_ = false;
   const qint64 elapsed = since_shown_.elapsed();

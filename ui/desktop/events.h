@@ -60,6 +60,9 @@ class Events {
   // Brings all views that are behind up to date: at the end of an event, and before a box opens.
   void ShowAll();
 
+  // Runs ahead of an event: what the person did that is no event of its own is brought in.
+  std::function<void()> starting;
+
   // Runs when an event has ended and what came of it is shown.
   std::function<void()> settled;
 

@@ -14,6 +14,7 @@ class ShapeView : public ControlView {
  protected:
   QWidget* Make(QWidget* parent) override;
   void Apply() override { Widget()->update(); }
+  Ground GetGround() const override { return Ground::kNone; }
 
  private:
   void Paint(QPainter& painter) const;

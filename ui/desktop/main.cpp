@@ -16,7 +16,7 @@ int main(int /*argc*/, char** argv) {
   int only_the_name = 1;
   QApplication application(only_the_name, argv);
   std::setlocale(LC_NUMERIC, "C");  // files hold numbers in one form everywhere
-  lectern::desktop::Dress(application);
+  lectern::desktop::Dress();
   lectern::desktop::Desktop desktop(std::filesystem::current_path().string());
   return desktop.Run();
 }

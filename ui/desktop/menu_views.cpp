@@ -4,6 +4,7 @@
 #include <QMenu>
 
 #include "ui/desktop/control_view.h"
+#include "ui/desktop/theme.h"
 #include "ui/desktop/window_view.h"
 
 namespace lectern::desktop {
@@ -71,6 +72,7 @@ void MenuBarView::AddEntries(forms::Container& from, WindowView& view, QWidget& 
 }
 
 int MenuBarView::Place(int width) {
+  if (const QFont font = OwnFont(); bar_->font() != font) bar_->setFont(font);
   const int height = bar_->heightForWidth(width);
   bar_->setGeometry(0, 0, width, height);
   return height;

@@ -40,6 +40,7 @@ class RichTextView : public ControlView {
     return KeyCode(key) == forms::kEnterKey && !pane_.ReadOnly();
   }
   bool HandleKey(const QKeyEvent& key) override;
+  void Commit() override;
 
  private:
   // What the pane was like when it was last shown.
@@ -59,7 +60,7 @@ class RichTextView : public ControlView {
 
   void NoteEdit(int at, int removed, int added);
   void ReportEdit();
-  void ReportSelection();
+  void SelectionMoved();
 
   struct Edited {
     std::size_t start;
@@ -97,8 +98,8 @@ QWidget* RichTextView<Edit>::Make(QWidget* parent) {
     edit_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     edit_->setCursorWidth(0);
   }
-  connect(edit_, &Edit::cursorPositionChanged, [this] { ReportSelection(); });
-  connect(edit_, &Edit::selectionChanged, [this] { ReportSelection(); });
+  connect(edit_, &Edit::cursorPositionChanged, [this] { SelectionMoved(); });
+  connect(edit_, &Edit::selectionChanged, [this] { SelectionMoved(); });
   return edit_;
 }
 
@@ -319,17 +320,21 @@ void RichTextView<Edit>::ReportEdit() {
   if (!edited) return;
   runs_moved_ = has_styles_;
   Act([&] { pane_.PersonEdits(edited->start, edited->removed, edited->inserted); });
+  SelectionMoved();
 }
 
 template <class Edit>
-void RichTextView<Edit>::ReportSelection() {
-  if (GetEvents().AtWork() || !seen_) return;
+void RichTextView<Edit>::SelectionMoved() {
+  if (!GetEvents().AtWork()) GetWindow().WantsToCommit(*this);
+}
+
+template <class Edit>
+void RichTextView<Edit>::Commit() {
   const QTextCursor cursor = edit_->textCursor();
   const auto start = static_cast<int>(positions_.ToForms(cursor.selectionStart()));
   const int length = static_cast<int>(positions_.ToForms(cursor.selectionEnd())) - start;
-  if (start == pane_.SelStart && length == pane_.SelLength) return;
-  seen_->selection = {start, length};
-  Act([&] { pane_.PersonSelects(start, length); });
+  pane_.PersonSelects(start, length);
+  seen_->selection = {pane_.SelStart, pane_.SelLength};
 }
 
 }  // namespace

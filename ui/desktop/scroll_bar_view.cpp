@@ -1,6 +1,7 @@
 #include "ui/desktop/scroll_bar_view.h"
 
 #include <QCursor>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -29,6 +30,24 @@ class Bar : public QScrollBar {
     for (; turned_ >= kNotch; turned_ -= kNotch) triggerAction(SliderSingleStepSub);
     for (; turned_ <= -kNotch; turned_ += kNotch) triggerAction(SliderSingleStepAdd);
     event->accept();
+  }
+
+  // Keys that go on and keys that go back, whichever way the bar lies.
+  void keyPressEvent(QKeyEvent* event) override {
+    switch (event->key()) {
+      case Qt::Key_Right:
+      case Qt::Key_Down:
+        return triggerAction(SliderSingleStepAdd);
+      case Qt::Key_Left:
+      case Qt::Key_Up:
+        return triggerAction(SliderSingleStepSub);
+      case Qt::Key_PageDown:
+        return triggerAction(SliderPageStepAdd);
+      case Qt::Key_PageUp:
+        return triggerAction(SliderPageStepSub);
+      default:
+        QScrollBar::keyPressEvent(event);  // Home and End
+    }
   }
 
   void paintEvent(QPaintEvent* event) override {

@@ -4,6 +4,7 @@
 #include <QPainterPath>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <algorithm>
 
 #include "ui/desktop/theme.h"
 
@@ -59,6 +60,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_PanelButtonCommand:
       DrawButton(*option, *painter);
       break;
+    case PE_IndicatorRadioButton:
+      DrawRadio(*option, *painter);
+      break;
     case PE_Frame:
       DrawFrame(*option, *painter);
       break;
@@ -100,6 +104,32 @@ void Style::DrawButton(const QStyleOption& option, QPainter& painter) const {
   painter.drawRoundedRect(OutlineOf(option.rect), kCorner, kCorner);
   painter.restore();
   if ((option.state & State_HasFocus) != 0) DrawFocusRing(painter, option.rect, palette);
+}
+
+void Style::DrawRadio(const QStyleOption& option, QPainter& painter) const {
+  const QPalette& palette = option.palette;
+  const bool enabled = (option.state & State_Enabled) != 0;
+  const QColor ground = palette.color(QPalette::Window);
+  const QColor ink = palette.color(QPalette::WindowText);
+  const double side = std::min(option.rect.width(), option.rect.height()) - 1;
+  QRectF circle(0, 0, side, side);
+  circle.moveCenter(QRectF(option.rect).center());
+
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const bool set = (option.state & State_On) != 0;
+  const QColor mark = enabled ? palette.color(QPalette::Highlight) : Mixed(ground, ink, 0.4);
+  painter.setPen(QPen(set ? mark : Mixed(ground, ink, enabled ? 0.5 : 0.25), set ? 1.5 : 1));
+  painter.setBrush((option.state & State_Sunken) != 0 ? Mixed(ground, ink, 0.2)
+                                                      : palette.color(QPalette::Base));
+  painter.drawEllipse(circle);
+  if (set) {
+    const double inset = side * 0.28;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(mark);
+    painter.drawEllipse(circle.adjusted(inset, inset, -inset, -inset));
+  }
+  painter.restore();
 }
 
 void Style::DrawFrame(const QStyleOption& option, QPainter& painter) const {

@@ -23,6 +23,7 @@ class Style : public QProxyStyle {
 
  private:
   void DrawButton(const QStyleOption& option, QPainter& painter) const;
+  void DrawRadio(const QStyleOption& option, QPainter& painter) const;
   void DrawFrame(const QStyleOption& option, QPainter& painter) const;
   void DrawScrollBar(const QStyleOptionSlider& option, QPainter& painter, const QWidget* widget) const;
 };

@@ -1,6 +1,6 @@
 #include "ui/desktop/theme.h"
 
-#include <QStyle>
+#include <QApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -10,8 +10,7 @@ namespace lectern::desktop {
 
 namespace {
 
-// Between these sizes, in points, every text has the room that its place gives it.
-constexpr double kSmallestOwnSize = 8;
+constexpr double kSmallestOwnSize = 8;  // points
 constexpr double kLargestOwnSize = 10;
 
 // How bright the eye takes a colour for, from 0 to 1.
@@ -48,7 +47,7 @@ QPalette OwnPalette() {
 
 }  // namespace
 
-void Dress(QApplication& application) {
+void Dress() {
   auto* const style = new Style;
   const QPalette plain = style->standardPalette();
   QApplication::setStyle(style);
@@ -56,13 +55,15 @@ void Dress(QApplication& application) {
   const bool desktop_has_its_own =
       given.color(QPalette::Window) != plain.color(QPalette::Window) || IsDark(given.color(QPalette::Base));
   if (!desktop_has_its_own) QApplication::setPalette(OwnPalette());
+}
 
+QFont OwnFont() {
   QFont font = QApplication::font();
   if (font.pointSizeF() > 0) {
     const double size = std::clamp(font.pointSizeF(), kSmallestOwnSize, kLargestOwnSize);
     if (size != font.pointSizeF()) font.setPointSizeF(size);
   }
-  application.setFont(font);
+  return font;
 }
 
 QColor ToColor(forms::Colour colour, const QPalette& palette) {
@@ -105,8 +106,8 @@ QColor Mixed(const QColor& a, const QColor& b, double share_of_b) {
   return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
 }
 
-QFont FontOf(const forms::TextControl& control, const QFont& own) {
-  QFont font = own;
+QFont FontOf(const forms::TextControl& control) {
+  QFont font = OwnFont();
   if (!control.FontName->empty()) font.setFamily(QString::fromStdString(control.FontName));
   if (control.FontSize > 0) font.setPointSizeF(control.FontSize);
   if (control.FontBold) font.setBold(true);

@@ -3,7 +3,6 @@
 // but for text that could not be read on a dark ground.
 #pragma once
 
-#include <QApplication>
 #include <QColor>
 #include <QFont>
 #include <QPalette>
@@ -12,8 +11,12 @@
 
 namespace lectern::desktop {
 
-// Gives the application its style, its palette and its typeface.
-void Dress(QApplication& application);
+// Gives the application its style and its palette.
+void Dress();
+
+// The program's own typeface: the desktop's, in a size for which every text has the room that its place gives
+// it.
+QFont OwnFont();
 
 // The colour that a number of the forms stands for.
 QColor ToColor(forms::Colour colour, const QPalette& palette);
@@ -30,6 +33,6 @@ QColor TextOn(const QColor& ground);
 QColor Mixed(const QColor& a, const QColor& b, double share_of_b);
 
 // The font of a control: what it does not say is the program's own.
-QFont FontOf(const forms::TextControl& control, const QFont& own);
+QFont FontOf(const forms::TextControl& control);
 
 }  // namespace lectern::desktop

@@ -23,7 +23,8 @@ class Timers::Watched : public forms::View {
   void Reckon(qint64 now) {
     if (std::exchange(starts_anew_, false)) due_ = now + Interval();
   }
-  void HasTicked(qint64 now) { due_ = std::max(now, due_ + Interval()); }
+  // What fell due meanwhile is passed over.
+  void HasTicked(qint64 now) { due_ = TicksAtOnce() ? now : now + Interval() - (now - due_) % Interval(); }
 
  private:
   qint64 Interval() const { return TicksAtOnce() ? 0 : timer_.Interval(); }

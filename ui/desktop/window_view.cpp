@@ -48,7 +48,9 @@ class WindowView::FrameWidget : public QWidget {
         return true;
       }
     }
-    if (event->type() == QEvent::ApplicationPaletteChange) view_.Recolour();
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ApplicationFontChange) {
+      view_.ThemeChanged();
+    }
     return QWidget::event(event);
   }
 
@@ -164,8 +166,10 @@ void WindowView::ApplyColours() {
   if (children_) children_->Recolour();
 }
 
-void WindowView::Recolour() {
+// The desktop's own programs change while they are looked at, too.
+void WindowView::ThemeChanged() {
   if (abandoned_ || !children_) return;
+  Changed();
   children_->Recolour();
   if (!GetEvents().AtWork()) GetEvents().Run([] {});
 }
@@ -178,6 +182,18 @@ void WindowView::Arrange() {
   children_->AppendInTabOrder(order);
   for (std::size_t i = 1; i < order.size(); ++i) {
     QWidget::setTabOrder(order[i - 1]->Widget(), order[i]->Widget());
+  }
+}
+
+void WindowView::WantsToCommit(ControlView& view) {
+  if (std::find(uncommitted_.begin(), uncommitted_.end(), &view) == uncommitted_.end()) {
+    uncommitted_.push_back(&view);
+  }
+}
+
+void WindowView::Commit() {
+  for (ControlView* view : std::exchange(uncommitted_, {})) {
+    if (!abandoned_) view->Commit();
   }
 }
 

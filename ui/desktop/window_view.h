@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 #include <unordered_map>
+#include <vector>
 
 #include "core/forms/window.h"
 #include "ui/desktop/events.h"
@@ -29,6 +30,9 @@ class WindowView : public QObject, public LayerView {
   void Changed() override;
   void Refresh() override;
 
+  // Ahead of an event.
+  void Commit();
+
   // After an event: puts what lies over one another in order, and the focus where it belongs.
   void Settle();
 
@@ -41,13 +45,13 @@ class WindowView : public QObject, public LayerView {
   QWidget* Frame() const { return frame_.get(); }  // nullptr until it was first shown
   QWidget& Face();                                 // the frame without the menu bar
   bool IsOf(const forms::Window& window) const { return &window_ == &window; }
-  void Recolour();
 
   // For the views of the controls.
   using LayerView::GetEvents;
   void Made(ControlView& view);
   void NeedsArranging() { needs_arranging_ = true; }
   void FocusIsWanted() { focus_is_wanted_ = true; }
+  void WantsToCommit(ControlView& view);
 
   // The button whose caption marks that letter is pressed; whether there is one. Where several panels have
   // one the panel on top comes first, and a button always comes before a menu.
@@ -55,6 +59,7 @@ class WindowView : public QObject, public LayerView {
   bool HasAccessKey(int letter) const { return ButtonWith(letter) != nullptr; }
 
   // What reaches the frame itself.
+  void ThemeChanged();
   void CloseAsked();
   bool KeyPressed(int key);
 
@@ -78,7 +83,8 @@ class WindowView : public QObject, public LayerView {
   std::unique_ptr<MenuBarView> menu_bar_;
   std::unique_ptr<ChildViews> children_;
   std::unordered_map<const QObject*, ControlView*> views_;  // by widget
-  std::optional<std::pair<double, double>> place_;          // as applied, in twips
+  std::vector<ControlView*> uncommitted_;
+  std::optional<std::pair<double, double>> place_;  // as applied, in twips
   int pointer_ = forms::kPointerDefault;
   const forms::PlacedControl* focus_shown_ = nullptr;
   bool focus_is_wanted_ = false;
