@@ -35,6 +35,15 @@ TEST_F(Stage, EverythingThatTakesTheKeyboardHasANameToBeReadOut) {
   }
 }
 
+TEST_F(Stage, AScreenReaderCanPressAPicture) {
+  QAccessibleInterface* const picture = QAccessible::queryAccessibleInterface(Find("clickable_image"));
+  EXPECT_EQ(picture->role(), QAccessible::Button);
+  picture->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(Log(), "clickable_image click");
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(view->Frame())->role(), QAccessible::Window);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(Find("option"))->role(), QAccessible::RadioButton);
+}
+
 TEST_F(Stage, ThePanelShownLastLiesOnTopAndIsFilledWhenItIsFirstSeen) {
   EXPECT_EQ(view->Frame()->findChild<QWidget*>("cancel"), nullptr);
   const QPoint in_panel(400, 300);  // over the page, which was made behind the panel
@@ -71,9 +80,10 @@ TEST_F(Stage, TheKeyboardGoesFromLineToLine) {
     order += view->Frame()->focusWidget()->objectName().toStdString() + " ";
     QTest::keyClick(view->Frame()->focusWidget(), Qt::Key_Tab);
   }
+  // Options are one stop; the arrows go through them.
   EXPECT_EQ(order,
-            "line_box list folders clickable_image page_box swatch_label command search ss_option ss_option2 "
-            "ss_command option ");
+            "line_box list folders clickable_image page_box swatch_label command search ss_option ss_command "
+            "option combo ");
 }
 
 TEST_F(Stage, FocusMovesBothWays) {

@@ -72,7 +72,6 @@ bool ButtonView::eventFilter(QObject* watched, QEvent* event) {
 
 QWidget* OptionView::Make(QWidget* parent) {
   widget_ = new QRadioButton(parent);
-  widget_->setAutoExclusive(false);  // the control sees to that
   connect(widget_, &QRadioButton::clicked, [this] { Act([this] { option_.PersonClicks(); }); });
   return widget_;
 }
@@ -84,7 +83,10 @@ QFont OptionView::WantedFont() const {
 
 void OptionView::Apply() {
   SetCaption(*widget_, option_.Caption);
+  // Qt would not have the last one of a panel cleared, as the control may.
+  widget_->setAutoExclusive(false);
   widget_->setChecked(option_.Value);
+  widget_->setAutoExclusive(true);
 }
 
 bool OptionView::HandleKey(const QKeyEvent& key) {

@@ -1,16 +1,20 @@
 #include "ui/desktop/clickable_view.h"
 
-#include <QPaintEvent>
-#include <QPainter>
+#include <utility>
 
 #include "ui/desktop/keys.h"
-#include "ui/desktop/style.h"
+#include "ui/desktop/painted_widget.h"
 #include "ui/desktop/window_view.h"
 
 namespace lectern::desktop {
 
-void ClickableView::PrepareForInput(QWidget& widget) const {
-  if (Control().Click) widget.setFocusPolicy(Qt::StrongFocus);
+void ClickableView::PrepareForInput(QWidget& widget) {
+  if (Control().Click) {
+    widget.setFocusPolicy(Qt::StrongFocus);
+    if (auto* painted = dynamic_cast<PaintedWidget*>(&widget)) {
+      painted->press = [this] { Act([this] { Control().PersonClicks(); }); };
+    }
+  }
   widget.setMouseTracking(static_cast<bool>(Control().MouseMove));
 }
 
@@ -63,12 +67,6 @@ bool ClickableView::eventFilter(QObject* watched, QEvent* event) {
     }
   }
   return ControlView::eventFilter(watched, event);
-}
-
-void PaintedWidget::paintEvent(QPaintEvent* event) {
-  QPainter painter(this);
-  paint_(painter, event->rect());
-  if (hasFocus()) DrawFocusRing(painter, rect(), palette());
 }
 
 }  // namespace lectern::desktop

@@ -12,7 +12,7 @@ class ClickableView : public ControlView {
 
  protected:
   // Gives a new widget the focus policy that the control's handlers call for.
-  void PrepareForInput(QWidget& widget) const;
+  void PrepareForInput(QWidget& widget);
 
   // The position of a mouse event, in the control's own scale.
   virtual forms::MouseEvent InScale(forms::MouseEvent mouse) const { return mouse; }
@@ -26,20 +26,6 @@ class ClickableView : public ControlView {
   bool Moved(const QMouseEvent& event);
 
   bool pressed_ = false;
-};
-
-// A widget that is nothing but what is painted on it.
-class PaintedWidget : public QWidget {
- public:
-  using Paint = std::function<void(QPainter&, const QRect& exposed)>;
-
-  PaintedWidget(QWidget* parent, Paint paint) : QWidget(parent), paint_(std::move(paint)) {}
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-
- private:
-  Paint paint_;
 };
 
 }  // namespace lectern::desktop

@@ -3,7 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "ui/desktop/clickable_view.h"
+#include "ui/desktop/painted_widget.h"
 #include "ui/desktop/style.h"
 #include "ui/desktop/theme.h"
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "ui/desktop/painted_widget.h"
 #include "ui/desktop/pictures.h"
 #include "ui/desktop/style.h"
 

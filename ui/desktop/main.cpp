@@ -3,6 +3,7 @@
 #include <clocale>
 #include <filesystem>
 
+#include "ui/desktop/accessible.h"
 #include "ui/desktop/desktop.h"
 #include "ui/desktop/theme.h"
 
@@ -17,6 +18,7 @@ int main(int /*argc*/, char** argv) {
   QApplication application(only_the_name, argv);
   std::setlocale(LC_NUMERIC, "C");  // files hold numbers in one form everywhere
   lectern::desktop::Dress();
+  lectern::desktop::TellScreenReaders();
   lectern::desktop::Desktop desktop(std::filesystem::current_path().string());
   return desktop.Run();
 }

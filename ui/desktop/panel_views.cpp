@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "core/forms/window.h"
+#include "ui/desktop/painted_widget.h"
 #include "ui/desktop/pictures.h"
 #include "ui/desktop/style.h"
 #include "ui/desktop/window_view.h"
