@@ -67,6 +67,7 @@ void ChildViews::Stack() {
   }
   for (; next != wanted.end(); ++next) (*next)->Widget()->raise();
   for (ControlView* view : wanted) {
+    view->Stacked();
     if (ChildViews* inner = view->Children()) inner->Stack();
   }
 }

@@ -40,6 +40,9 @@ class ControlView : public QObject, public LayerView {
   bool IsSeen() const { return widget_ != nullptr && !widget_->isHidden(); }
   QRect Place() const;
 
+  // Its widget has come to lie where it belongs, above or below its siblings.
+  virtual void Stacked() {}
+
   // What lies in it; nullptr for anything but a panel that was seen.
   virtual ChildViews* Children() { return nullptr; }
 

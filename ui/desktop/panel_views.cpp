@@ -10,12 +10,49 @@
 
 namespace lectern::desktop {
 
+namespace {
+
+constexpr int kShadow = 10;  // pixels that it reaches out
+
+void PaintShadow(QPainter& painter, const QRect& /*exposed*/) {
+  const auto& widget = *static_cast<const QWidget*>(painter.device());
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0, 0, 0, 9));
+  for (int inset = 0; inset < kShadow; ++inset) {
+    painter.drawRoundedRect(widget.rect().adjusted(inset, inset, -inset, -inset), kShadow - inset,
+                            kShadow - inset);
+  }
+}
+
+}  // namespace
+
 QWidget* PanelView::Make(QWidget* parent) {
   auto* const widget =
       new PaintedWidget(parent, [this](QPainter& painter, const QRect& exposed) { Paint(painter, exposed); });
   widget->setAutoFillBackground(true);
   PrepareForInput(*widget);
   return widget;
+}
+
+void PanelView::Refresh() {
+  ClickableView::Refresh();
+  if (Widget() != nullptr && !GetWindow().IsAbandoned()) CastShadow();
+}
+
+// What is there from the start is part of the window's face and lies flat.
+void PanelView::CastShadow() {
+  if (Control().ShownAt() == 0 || Control().Parent().Outer() != nullptr) return;
+  if (shadow_ == nullptr) {
+    shadow_ = new PaintedWidget(Widget()->parentWidget(), PaintShadow);
+    shadow_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+  shadow_->setGeometry(Widget()->geometry().adjusted(-kShadow, -kShadow / 2, kShadow, kShadow));
+  shadow_->setVisible(IsSeen());
+}
+
+void PanelView::Stacked() {
+  if (shadow_ != nullptr) shadow_->stackUnder(Widget());
 }
 
 void PanelView::Apply() {

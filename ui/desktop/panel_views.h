@@ -16,6 +16,8 @@ class PanelView : public ClickableView {
   PanelView(forms::PlacedControl& control, forms::Container& container, WindowView& window, QWidget& parent)
       : ClickableView(control, window, parent), container_(container) {}
 
+  void Refresh() override;
+  void Stacked() override;
   ChildViews* Children() override { return children_.get(); }
 
  protected:
@@ -30,8 +32,11 @@ class PanelView : public ClickableView {
   void PaintEdges(QPainter& painter) const;
 
  private:
+  void CastShadow();
+
   forms::Container& container_;
   std::unique_ptr<ChildViews> children_;
+  QWidget* shadow_ = nullptr;  // of a panel that was opened over its window
   unsigned shown_at_ = 0;
   QRgb ground_ = 0;  // as the children know it
 };

@@ -57,6 +57,7 @@ class RichTextView : public ControlView {
   QTextCharFormat FormatOf(const forms::TextStyle& style) const;
   void ShowSelection();
   void ScrollToFirstMark();
+  QRect OpenArea() const;
 
   void NoteEdit(int at, int removed, int added);
   void ReportEdit();
@@ -78,6 +79,7 @@ class RichTextView : public ControlView {
   std::optional<Edited> edited_;
   bool has_styles_ = false;
   bool runs_moved_ = false;  // along with text that was edited
+  bool reports_edit_ = false;
 };
 
 template <class Edit>
@@ -226,7 +228,26 @@ void RichTextView<Edit>::ShowSelection() {
   edit_->setTextCursor(cursor);
 }
 
-// A mark that the top of the text does not show comes to stand in the upper part of the pane.
+// The lines of the viewport that no panel lies over: those above it or those below, whichever are more.
+template <class Edit>
+QRect RichTextView<Edit>::OpenArea() const {
+  QRect open = edit_->viewport()->rect();
+  for (const QObject* sibling : edit_->parentWidget()->children()) {
+    const auto* const over = qobject_cast<const QWidget*>(sibling);
+    if (over == nullptr || over == edit_ || over->isHidden()) continue;
+    const QRect covered =
+        QRect(edit_->viewport()->mapFrom(edit_->parentWidget(), over->pos()), over->size()).intersected(open);
+    if (covered.isEmpty()) continue;
+    if (covered.top() - open.top() > open.bottom() - covered.bottom()) {
+      open.setBottom(covered.top() - 1);
+    } else {
+      open.setTop(covered.bottom() + 1);
+    }
+  }
+  return open;
+}
+
+// A mark that is not to be seen at the top of the text comes to stand in the upper part of what is open.
 template <class Edit>
 void RichTextView<Edit>::ScrollToFirstMark() {
   const auto& runs = pane_.Runs().All();
@@ -236,11 +257,11 @@ void RichTextView<Edit>::ScrollToFirstMark() {
   QTextCursor at(document_);
   at.setPosition(positions_.ToQt(mark->start));
   const QRect place = edit_->cursorRect(at);
-  const int height = edit_->viewport()->height();
-  if (place.top() >= 0 && place.bottom() <= height) return;
+  const QRect open = OpenArea();
+  if (place.top() >= open.top() && place.bottom() <= open.bottom()) return;
   QScrollBar* const bar = edit_->verticalScrollBar();
   if constexpr (kIsPage) {
-    bar->setValue(bar->value() + place.top() - height / 3);
+    bar->setValue(bar->value() + place.top() - open.top() - open.height() / 3);
   } else {
     bar->setValue(at.block().firstLineNumber());
   }
@@ -319,7 +340,9 @@ void RichTextView<Edit>::ReportEdit() {
   const auto edited = std::exchange(edited_, std::nullopt);
   if (!edited) return;
   runs_moved_ = has_styles_;
+  reports_edit_ = true;
   Act([&] { pane_.PersonEdits(edited->start, edited->removed, edited->inserted); });
+  reports_edit_ = false;
   SelectionMoved();
 }
 
@@ -330,6 +353,7 @@ void RichTextView<Edit>::SelectionMoved() {
 
 template <class Edit>
 void RichTextView<Edit>::Commit() {
+  if (reports_edit_) return;  // the selection belongs to the text behind the edit
   const QTextCursor cursor = edit_->textCursor();
   const auto start = static_cast<int>(positions_.ToForms(cursor.selectionStart()));
   const int length = static_cast<int>(positions_.ToForms(cursor.selectionEnd())) - start;
