@@ -97,10 +97,23 @@ TEST_F(Stage, FocusMovesBothWays) {
     window->in_panel.SetFocus();
   });
   EXPECT_EQ(view->Frame()->focusWidget(), Find("in_panel"));
-  // Hiding it takes the focus along, to something that is seen.
+  // Hiding it takes the focus along, to what the window is for.
   Do([this] { window->panel.Visible = false; });
-  ASSERT_NE(window->Focus(), nullptr);
-  EXPECT_TRUE(window->Focus()->IsShown());
+  EXPECT_EQ(window->Focus(), &window->page);
+}
+
+TEST_F(Stage, TheFocusGoesIntoAPanelWhoseButtonIsLockedWhileItIsOpen) {
+  window->command.Click = [this] {
+    window->panel.Visible = true;
+    window->command.Enabled = false;
+  };
+  Find("command")->setFocus();
+  QTest::keyClick(Find("command"), Qt::Key_Space);
+  EXPECT_EQ(window->Focus(), &window->in_panel);
+  QTest::keyClick(Find("in_panel"), Qt::Key_F6);
+  EXPECT_EQ(window->Focus(), &window->page);
+  QTest::keyClick(Find("page"), Qt::Key_F6);
+  EXPECT_EQ(window->Focus(), &window->in_panel);
 }
 
 TEST_F(Stage, EnterAndEscapePressTheButtonsMeantForThem) {

@@ -46,6 +46,16 @@ ChildViews::ChildViews(forms::Container& container, WindowView& window, QWidget&
 
 ChildViews::~ChildViews() = default;
 
+ControlView* ChildViews::Find(const QWidget& widget) const {
+  for (const auto& view : views_) {
+    if (view->Widget() == &widget) return view.get();
+    if (const ChildViews* inner = view->Children()) {
+      if (ControlView* found = inner->Find(widget)) return found;
+    }
+  }
+  return nullptr;
+}
+
 void ChildViews::MarkStale() {
   for (const auto& view : views_) view->Changed();
 }

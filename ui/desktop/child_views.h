@@ -21,6 +21,9 @@ class ChildViews {
 
   const std::vector<std::unique_ptr<ControlView>>& All() const { return views_; }
 
+  // The view that made the widget, here or in what lies here; nullptr for none.
+  ControlView* Find(const QWidget& widget) const;
+
   void MarkStale();
   void Recolour();
 

@@ -102,7 +102,6 @@ void ControlView::MakeWidget() {
   if (!SpeaksForItself()) widget_->setAccessibleName(ToQString(control_.AccessibleName()));
   widget_->installEventFilter(this);
   widget_->setGeometry(Place());
-  window_.Made(*this);
 }
 
 void ControlView::ApplyPointer() {

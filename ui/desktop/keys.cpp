@@ -49,4 +49,31 @@ int AccessKey(const QKeyEvent& key) {
   return alt_alone && key.key() >= Qt::Key_Space && key.key() < Qt::Key_Escape ? key.key() : 0;
 }
 
+std::optional<QAbstractSlider::SliderAction> ScrollActionOf(const QKeyEvent& key) {
+  const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
+  if (key.key() == Qt::Key_Space && modifiers == Qt::ShiftModifier) return QAbstractSlider::SliderPageStepSub;
+  if (modifiers != Qt::NoModifier) return std::nullopt;
+  switch (key.key()) {
+    case Qt::Key_Up:
+      return QAbstractSlider::SliderSingleStepSub;
+    case Qt::Key_Down:
+      return QAbstractSlider::SliderSingleStepAdd;
+    case Qt::Key_PageUp:
+      return QAbstractSlider::SliderPageStepSub;
+    case Qt::Key_PageDown:
+    case Qt::Key_Space:
+      return QAbstractSlider::SliderPageStepAdd;
+    case Qt::Key_Home:
+      return QAbstractSlider::SliderToMinimum;
+    case Qt::Key_End:
+      return QAbstractSlider::SliderToMaximum;
+    default:
+      return std::nullopt;
+  }
+}
+
+bool MovesCaret(const QKeyEvent& key) {
+  return key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown;  // with the arrows between them
+}
+
 }  // namespace lectern::desktop

@@ -1,7 +1,9 @@
 // The keys of the keyboard by the codes that handlers know, and the access keys of captions.
 #pragma once
 
+#include <QAbstractSlider>
 #include <QKeyEvent>
+#include <optional>
 #include <string>
 
 namespace lectern::desktop {
@@ -14,5 +16,11 @@ int AccessKey(const std::string& caption);
 
 // The letter that is pressed together with Alt and nothing else; 0 for any other key.
 int AccessKey(const QKeyEvent& key);
+
+// What the key scrolls a page by that is only read; nothing for any other key.
+std::optional<QAbstractSlider::SliderAction> ScrollActionOf(const QKeyEvent& key);
+
+// Whether the key moves a caret, be it with Shift.
+bool MovesCaret(const QKeyEvent& key);
 
 }  // namespace lectern::desktop

@@ -12,7 +12,7 @@
 #include "ui/desktop/keys.h"
 #include "ui/desktop/page_setting.h"
 #include "ui/desktop/text_positions.h"
-#include "ui/desktop/theme.h"
+#include "ui/desktop/text_styles.h"
 #include "ui/desktop/window_view.h"
 
 namespace lectern::desktop {
@@ -54,7 +54,6 @@ class RichTextView : public ControlView {
 
   void Load();
   void SetStyles(QTextDocument& document);
-  QTextCharFormat FormatOf(const forms::TextStyle& style) const;
   void ShowSelection();
   void ScrollToFirstMark();
   QRect OpenArea() const;
@@ -168,53 +167,12 @@ void RichTextView<Edit>::Load() {
   if (pane_.ReadOnly()) edit_->setCursorWidth(0);
 }
 
-// Styles are laid over the paragraphs and are no part of the document: they cost no editing and cannot be
-// undone.
 template <class Edit>
 void RichTextView<Edit>::SetStyles(QTextDocument& document) {
-  const auto& runs = pane_.Runs().All();
-  if (runs.empty() && !has_styles_) return;
-  has_styles_ = kIsPage || !runs.empty();
-  QTextCursor edit(&document);
-  edit.beginEditBlock();
-  auto run = runs.begin();
-  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-    QList<QTextLayout::FormatRange> formats;
-    if (setting_) {
-      if (QTextLayout::FormatRange gap = setting_->NumberGap(block.text()); gap.length > 0)
-        formats.append(gap);
-    }
-    const int start = block.position();
-    const int end = start + block.length();
-    for (; run != runs.end(); ++run) {
-      const int run_start = std::max(positions_.ToQt(run->start), start);
-      const int run_end = std::min(positions_.ToQt(run->End()), end);
-      if (run_start >= end) break;
-      QTextLayout::FormatRange range;
-      range.start = run_start - start;
-      range.length = run_end - run_start;
-      range.format = FormatOf(run->style);
-      if (range.length > 0) formats.append(range);
-      if (positions_.ToQt(run->End()) > end) break;  // goes on in the next paragraph
-    }
-    if (block.layout()->formats() != formats) block.layout()->setFormats(formats);
-  }
-  edit.endEditBlock();
-}
-
-template <class Edit>
-QTextCharFormat RichTextView<Edit>::FormatOf(const forms::TextStyle& style) const {
-  QTextCharFormat format;
-  if (style.colour) {
-    const QColor colour = ToColor(*style.colour, edit_->palette());
-    format.setForeground(Legible(colour, edit_->palette().color(QPalette::Base)));
-  }
-  if (style.bold) format.setFontWeight(*style.bold ? QFont::Bold : QFont::Normal);
-  if (style.italic) format.setFontItalic(*style.italic);
-  if (style.underline) format.setFontUnderline(*style.underline);
-  if (!style.font.empty()) format.setFontFamilies({ToQString(style.font)});
-  if (style.size > 0) format.setFontPointSize(style.size);
-  return format;
+  const bool has_runs = !pane_.Runs().All().empty();
+  if (!has_runs && !has_styles_) return;
+  has_styles_ = kIsPage || has_runs;
+  LayStyles(document, pane_.Runs(), positions_, setting_ ? &*setting_ : nullptr, edit_->palette());
 }
 
 template <class Edit>
@@ -267,45 +225,17 @@ void RichTextView<Edit>::ScrollToFirstMark() {
   }
 }
 
-// A page is scrolled by the keys that move a caret elsewhere; with Shift they select.
+// A page is scrolled by the keys that move a caret elsewhere. With Shift they select; the caret is shown from
+// then on.
 template <class Edit>
 bool RichTextView<Edit>::HandleKey(const QKeyEvent& key) {
   if (!pane_.ReadOnly()) return false;
-  using Action = QAbstractSlider::SliderAction;
-  std::optional<Action> action;
-  switch (key.key()) {
-    case Qt::Key_Up:
-      action = Action::SliderSingleStepSub;
-      break;
-    case Qt::Key_Down:
-      action = Action::SliderSingleStepAdd;
-      break;
-    case Qt::Key_PageUp:
-      action = Action::SliderPageStepSub;
-      break;
-    case Qt::Key_PageDown:
-    case Qt::Key_Space:
-      action = Action::SliderPageStepAdd;
-      break;
-    case Qt::Key_Home:
-      action = Action::SliderToMinimum;
-      break;
-    case Qt::Key_End:
-      action = Action::SliderToMaximum;
-      break;
-    default:
-      break;
+  if (const auto action = ScrollActionOf(key)) {
+    edit_->verticalScrollBar()->triggerAction(*action);
+    return true;
   }
-  const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
-  if (key.key() == Qt::Key_Space && modifiers == Qt::ShiftModifier) {
-    action = Action::SliderPageStepSub;
-  } else if (modifiers != Qt::NoModifier || !action) {
-    const bool moves_caret = action || key.key() == Qt::Key_Left || key.key() == Qt::Key_Right;
-    if (moves_caret) edit_->setCursorWidth(1);
-    return false;
-  }
-  edit_->verticalScrollBar()->triggerAction(*action);
-  return true;
+  if (MovesCaret(key)) edit_->setCursorWidth(1);
+  return false;
 }
 
 // Qt counts the end of the document along where an edit reaches it.

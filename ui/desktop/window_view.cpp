@@ -14,6 +14,7 @@
 #include "ui/desktop/menu_views.h"
 #include "ui/desktop/pictures.h"
 #include "ui/desktop/theme.h"
+#include "ui/desktop/window_focus.h"
 
 namespace lectern::desktop {
 
@@ -113,6 +114,7 @@ void WindowView::Build() {
   if (window_.HasMenuBar()) menu_bar_ = std::make_unique<MenuBarView>(window_, *this, *frame_);
   ApplySize();
   children_ = std::make_unique<ChildViews>(window_, *this, *face_);
+  focus_ = std::make_unique<WindowFocus>(window_, GetEvents(), *frame_, *children_);
   needs_arranging_ = true;
 }
 
@@ -174,8 +176,6 @@ void WindowView::ThemeChanged() {
   if (!GetEvents().AtWork()) GetEvents().Run([] {});
 }
 
-void WindowView::Made(ControlView& view) { views_[view.Widget()] = &view; }
-
 void WindowView::Arrange() {
   children_->Stack();
   std::vector<ControlView*> order;
@@ -200,45 +200,15 @@ void WindowView::Commit() {
 void WindowView::Settle() {
   if (abandoned_ || !frame_ || frame_->isHidden()) return;
   if (std::exchange(needs_arranging_, false)) Arrange();
-  if (std::exchange(focus_is_wanted_, false) || window_.Focus() != focus_shown_) {
-    focus_shown_ = window_.Focus();
-    if (ControlView* view = ViewOf(focus_shown_)) view->Widget()->setFocus(Qt::OtherFocusReason);
-  }
-  if (frame_->focusWidget() == nullptr) FocusOnMainControl();
-  FocusArrived();
+  focus_->Settle();
 }
 
-// A window that gives the focus to nothing has it on the largest of its controls, which is what it is for.
-void WindowView::FocusOnMainControl() {
-  std::vector<ControlView*> order;
-  children_->AppendInTabOrder(order);
-  const auto area = [](const ControlView* view) { return view->Place().width() * view->Place().height(); };
-  const auto largest =
-      std::max_element(order.begin(), order.end(),
-                       [&](const ControlView* a, const ControlView* b) { return area(a) < area(b); });
-  if (largest != order.end()) (*largest)->Widget()->setFocus(Qt::OtherFocusReason);
-}
-
-ControlView* WindowView::ViewOf(const forms::Control* control) {
-  if (control == nullptr) return nullptr;
-  auto* const view = dynamic_cast<ControlView*>(control->AttachedView());
-  return view != nullptr && view->IsSeen() ? view : nullptr;
-}
-
-ControlView* WindowView::ViewOfFocus() const {
-  for (const QWidget* at = frame_->focusWidget(); at != nullptr; at = at->parentWidget()) {
-    const auto found = views_.find(at);
-    if (found != views_.end()) return found->second;
-  }
-  return nullptr;
+void WindowView::FocusIsWanted() {
+  if (focus_) focus_->IsWanted();
 }
 
 void WindowView::FocusArrived() {
-  if (abandoned_ || !frame_ || GetEvents().AtWork()) return;
-  ControlView* const view = ViewOfFocus();
-  if (view == nullptr || &view->Control() == window_.Focus()) return;
-  focus_shown_ = &view->Control();
-  GetEvents().Deliver(window_, [&] { window_.PersonMovesFocus(&view->Control()); });
+  if (!abandoned_ && focus_) focus_->Arrived();
 }
 
 forms::Control* WindowView::ButtonWith(int letter) const {
@@ -261,7 +231,7 @@ forms::Control* WindowView::ButtonWith(int letter) const {
 bool WindowView::PressAccessKey(int letter) {
   forms::Control* const button = ButtonWith(letter);
   if (button == nullptr) return false;
-  if (ControlView* view = ViewOf(button)) view->Widget()->setFocus(Qt::ShortcutFocusReason);
+  if (ControlView* view = SeenViewOf(button)) view->Widget()->setFocus(Qt::ShortcutFocusReason);
   // Leaving the field that had the focus may have done away with the button.
   if (abandoned_ || button->RefusesPerson() != forms::Refusal::kNone) return true;
   GetEvents().Deliver(window_, [button] { button->PersonClicks(); });
@@ -276,6 +246,10 @@ bool WindowView::KeyPressed(int key) {
   if (abandoned_) return false;
   if (key == Qt::Key_Escape) {
     GetEvents().Deliver(window_, [this] { window_.PressCancelOfFrontPanel(); });
+    return true;
+  }
+  if (key == Qt::Key_F6) {
+    focus_->ChangeBetweenPanels();
     return true;
   }
   if (key == Qt::Key_F10 && menu_bar_) {

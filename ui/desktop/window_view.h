@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "core/forms/window.h"
@@ -21,6 +21,7 @@ namespace lectern::desktop {
 class ChildViews;
 class ControlView;
 class MenuBarView;
+class WindowFocus;
 
 class WindowView : public QObject, public LayerView {
  public:
@@ -48,9 +49,8 @@ class WindowView : public QObject, public LayerView {
 
   // For the views of the controls.
   using LayerView::GetEvents;
-  void Made(ControlView& view);
   void NeedsArranging() { needs_arranging_ = true; }
-  void FocusIsWanted() { focus_is_wanted_ = true; }
+  void FocusIsWanted();
   void WantsToCommit(ControlView& view);
 
   // The button whose caption marks that letter is pressed; whether there is one. Where several panels have
@@ -71,9 +71,6 @@ class WindowView : public QObject, public LayerView {
   void ApplyPointer();
   void ApplyColours();
   void Arrange();
-  void FocusOnMainControl();
-  static ControlView* ViewOf(const forms::Control* control);  // nullptr while it is not to be seen
-  ControlView* ViewOfFocus() const;
   forms::Control* ButtonWith(int letter) const;
 
   forms::Window& window_;
@@ -82,12 +79,10 @@ class WindowView : public QObject, public LayerView {
   QWidget* face_ = nullptr;
   std::unique_ptr<MenuBarView> menu_bar_;
   std::unique_ptr<ChildViews> children_;
-  std::unordered_map<const QObject*, ControlView*> views_;  // by widget
+  std::unique_ptr<WindowFocus> focus_;
   std::vector<ControlView*> uncommitted_;
   std::optional<std::pair<double, double>> place_;  // as applied, in twips
   int pointer_ = forms::kPointerDefault;
-  const forms::PlacedControl* focus_shown_ = nullptr;
-  bool focus_is_wanted_ = false;
   bool needs_arranging_ = false;
   bool abandoned_ = false;
 };
