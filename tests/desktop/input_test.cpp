@@ -116,6 +116,25 @@ TEST_F(Stage, APressOnACanvasPaintsWhereItFell) {
   EXPECT_EQ(shot.pixelColor(place + QPoint(30, 0)), QColor(Qt::white));  // no line between two events
 }
 
+TEST_F(Stage, APointerShowsAtOnceAndComesBack) {
+  QWidget* const canvas = Find("canvas");
+  Do([this] {
+    window->canvas.MouseIcon = forms::Picture(forms::Bitmap(8, 8));
+    window->canvas.MousePointer = forms::kPointerCustom;
+  });
+  EXPECT_EQ(canvas->cursor().shape(), Qt::BitmapCursor);
+  Do([&] {
+    window->canvas.MousePointer = forms::kPointerHourglass;
+    window->MousePointer = forms::kPointerHourglass;
+    EXPECT_EQ(canvas->cursor().shape(), Qt::WaitCursor);
+    EXPECT_EQ(Find("list")->cursor().shape(), Qt::WaitCursor);
+    window->canvas.MousePointer = forms::kPointerCustom;
+    window->MousePointer = forms::kPointerArrow;
+  });
+  EXPECT_EQ(canvas->cursor().shape(), Qt::BitmapCursor);
+  EXPECT_EQ(Find("list")->cursor().shape(), Qt::ArrowCursor);
+}
+
 TEST_F(Stage, WhatCanBeClickedCanBePressedByKey) {
   Click("clickable_image");
   QTest::keyClick(Find("clickable_image"), Qt::Key_Space);

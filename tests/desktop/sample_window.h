@@ -56,7 +56,7 @@ class SampleWindow : public forms::Window {
     place(clickable_image, 760, 10, 80, 60);
     place(shape, 670, 80, 40, 40);
     place(swatch_label, 680, 90, 30, 20);
-    place(line, 720, 100, 120, 1);
+    place(line, 720, 100, 120, 0);
     place(frame, 670, 130, 180, 136);
     place(in_frame, 10, 30, 160, 20);
     place(ss_option, 10, 56, 100, 22);

@@ -1,6 +1,7 @@
 #include "ui/desktop/control_view.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <cmath>
 
 #include "core/forms/picture_box.h"
@@ -54,7 +55,7 @@ ControlView::~ControlView() {
 // A pointer is shown at once: it tells of the very handler that is at work.
 void ControlView::Changed() {
   LayerView::Changed();
-  if (widget_ != nullptr && pointer_ != control_.MousePointer) ApplyPointer();
+  if (widget_ != nullptr) ApplyPointer();
 }
 
 void ControlView::TakeFocus() { window_.FocusIsWanted(); }
@@ -64,7 +65,8 @@ QRect ControlView::Place() const {
   const int top = ToPixels(control_.Top);
   const int right = ToPixels(control_.Left + control_.Width);
   const int bottom = ToPixels(control_.Top + control_.Height);
-  return {left, top, right - left, bottom - top};
+  const int thinnest = control_.GetKind() == forms::Kind::kLine ? 1 : 0;
+  return {left, top, std::max(right - left, thinnest), std::max(bottom - top, thinnest)};
 }
 
 // What stands wholly outside of its panel, as a program's storage does, is no part of what a person sees or
@@ -105,13 +107,16 @@ void ControlView::MakeWidget() {
 }
 
 void ControlView::ApplyPointer() {
+  if (pointer_ == control_.MousePointer) return;
   pointer_ = control_.MousePointer;
   if (pointer_ == forms::kPointerDefault) {
     widget_->unsetCursor();
-  } else if (pointer_ != forms::kPointerCustom) {
-    widget_->setCursor(PointerOf(pointer_));
+  } else {
+    widget_->setCursor(Pointer());
   }
 }
+
+QCursor ControlView::Pointer() const { return PointerOf(control_.MousePointer()); }
 
 QFont ControlView::WantedFont() const {
   const auto* const text = dynamic_cast<const forms::TextControl*>(&control_);

@@ -4,6 +4,7 @@
 // A view belongs to the view of its window or panel and ends with it, ahead of the control.
 #pragma once
 
+#include <QCursor>
 #include <QFont>
 #include <QMouseEvent>
 #include <QWidget>
@@ -55,6 +56,7 @@ class ControlView : public QObject, public LayerView {
   virtual void Resized() {}
   virtual Ground GetGround() const { return Ground::kTransparent; }
   virtual QFont WantedFont() const;  // of a control with text
+  virtual QCursor Pointer() const;
 
   // Whether a screen reader is told what stands on it, so that it wants no other name.
   virtual bool SpeaksForItself() const { return false; }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "ui/desktop/icon.h"
+#include "ui/desktop/theme.h"
 
 namespace lectern::desktop {
 
@@ -55,10 +56,14 @@ void Desktop::JoinPlatform() {
     return FrontFrame();
   };
   platform_.with_face = [this](forms::Window& window, const std::function<void(QWidget&)>& print) {
+    const QPalette theme = QApplication::palette();
+    const bool is_dark = IsDark(theme.color(QPalette::Base));
+    if (is_dark) QApplication::setPalette(OwnPalette());
     events_.ShowAll();
     for (const auto& view : windows_) {
       if (view->IsOf(window)) print(view->Face());
     }
+    if (is_dark) QApplication::setPalette(theme);
   };
 }
 

@@ -26,8 +26,9 @@ class MenuBarView::Entry : public LayerView {
 
   void Refresh() override {
     if (view_.IsAbandoned()) return;
-    action_.setSeparator(menu_.Caption == "-");
-    action_.setText(ToQString(menu_.Caption));
+    const bool is_line = menu_.Caption == "-";
+    action_.setSeparator(is_line);
+    action_.setText(is_line ? QString() : ToQString(menu_.Caption));
     action_.setEnabled(menu_.Enabled);
     action_.setVisible(menu_.Visible);
     if (menu_.Checked) action_.setCheckable(true);

@@ -106,10 +106,14 @@ void PictureBoxView::Apply() {
   if (!changed.Empty()) {
     Widget()->update(changed.left, changed.top, changed.right - changed.left, changed.bottom - changed.top);
   }
-  if (box_.MousePointer == forms::kPointerCustom && pointer_ != box_.MouseIcon()) {
-    pointer_ = box_.MouseIcon;
-    Widget()->setCursor(PointerOf(pointer_));
+  if (icon_ != box_.MouseIcon()) {
+    icon_ = box_.MouseIcon;
+    if (box_.MousePointer == forms::kPointerCustom) Widget()->setCursor(Pointer());
   }
+}
+
+QCursor PictureBoxView::Pointer() const {
+  return box_.MousePointer == forms::kPointerCustom ? PointerOf(box_.MouseIcon()) : PanelView::Pointer();
 }
 
 void PictureBoxView::Paint(QPainter& painter, const QRect& exposed) {

@@ -63,10 +63,11 @@ class PictureBoxView : public PanelView {
   void Apply() override;
   void Paint(QPainter& painter, const QRect& exposed) override;
   forms::MouseEvent InScale(forms::MouseEvent mouse) const override;
+  QCursor Pointer() const override;
 
  private:
   forms::PictureBox& box_;
-  forms::Picture pointer_;
+  forms::Picture icon_;  // of its pointer
 };
 
 }  // namespace lectern::desktop

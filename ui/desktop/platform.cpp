@@ -47,7 +47,6 @@ void DesktopPlatform::Message(std::string_view text, std::string_view title) {
 bool DesktopPlatform::Question(std::string_view text, std::string_view title) {
   QMessageBox box(before_box());
   Prepare(box, text, title);
-  box.setIcon(QMessageBox::Question);
   box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton(QMessageBox::Yes);
   return box.exec() == QMessageBox::Yes;

@@ -27,6 +27,8 @@ double Contrast(const QColor& a, const QColor& b) {
   return (brighter + 0.05) / (darker + 0.05);
 }
 
+}  // namespace
+
 QPalette OwnPalette() {
   const QColor ink(0x24, 0x27, 0x2b);
   const QColor faint(0x9a, 0x9c, 0x9f);
@@ -44,8 +46,6 @@ QPalette OwnPalette() {
   palette.setColor(QPalette::Disabled, QPalette::Highlight, faint);
   return palette;
 }
-
-}  // namespace
 
 void Dress() {
   auto* const style = new Style;

@@ -18,6 +18,10 @@ void Dress();
 // it.
 QFont OwnFont();
 
+// Dark ink on a light ground: the program's own colours, and what goes to a printer whatever the screen looks
+// like.
+QPalette OwnPalette();
+
 // The colour that a number of the forms stands for.
 QColor ToColor(forms::Colour colour, const QPalette& palette);
 

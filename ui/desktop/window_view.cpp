@@ -83,7 +83,7 @@ void WindowView::Abandon() {
 // A pointer is shown at once: it tells of the very handler that is at work.
 void WindowView::Changed() {
   LayerView::Changed();
-  if (frame_ && pointer_ != window_.MousePointer) ApplyPointer();
+  if (frame_) ApplyPointer();
 }
 
 void WindowView::Refresh() {
