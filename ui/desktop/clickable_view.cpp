@@ -1,5 +1,6 @@
 #include "ui/desktop/clickable_view.h"
 
+#include <QCoreApplication>
 #include <utility>
 
 #include "ui/desktop/keys.h"
@@ -7,6 +8,16 @@
 #include "ui/desktop/window_view.h"
 
 namespace lectern::desktop {
+
+namespace {
+
+// A stroke is made of every movement of the mouse; whatever else follows it wants its latest place, so that
+// nothing piles up.
+void WantEveryMovement(bool wanted) {
+  QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, !wanted);
+}
+
+}  // namespace
 
 void ClickableView::PrepareForInput(QWidget& widget) {
   if (Control().Click) {
@@ -28,12 +39,14 @@ bool ClickableView::HandleKey(const QKeyEvent& key) {
 bool ClickableView::Pressed(const QMouseEvent& event) {
   if (!Control().Click && !Control().MouseDown) return false;
   pressed_ = event.button() == Qt::LeftButton;
+  WantEveryMovement(static_cast<bool>(Control().MouseMove));
   const forms::MouseEvent mouse = InScale(ToMouseEvent(event, event.button()));
   Act([this, mouse] { Control().PersonPresses(mouse); });
   return true;
 }
 
 bool ClickableView::Released(const QMouseEvent& event) {
+  WantEveryMovement(false);
   if (!std::exchange(pressed_, false) || event.button() != Qt::LeftButton) return false;
   if (Control().Click && Widget()->rect().contains(event.position().toPoint())) {
     Act([this] { Control().Click(); });

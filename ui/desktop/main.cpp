@@ -8,8 +8,6 @@
 #include "ui/desktop/theme.h"
 
 int main(int /*argc*/, char** argv) {
-  // A stroke of the brush wants every movement of the mouse.
-  QApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication::setApplicationName("lectern");
   QApplication::setDesktopFileName("lectern");

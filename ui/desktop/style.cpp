@@ -14,6 +14,7 @@ namespace {
 
 constexpr double kCorner = 4;  // radius
 constexpr int kScrollBarThickness = 14;
+constexpr int kBesideText = 5;  // in the rows of a list
 
 // A rectangle whose outline falls on whole pixels.
 QRectF OutlineOf(const QRect& rect) { return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5); }
@@ -185,6 +186,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
   switch (metric) {
     case PM_ScrollBarExtent:
       return kScrollBarThickness;
+    case PM_FocusFrameHMargin:
+      return kBesideText;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
       return 0;
