@@ -11,7 +11,7 @@ Form1::Form1(forms::Services services)
       tools(panels),
       reader(*this, panels),
       second_pane(panels),
-      settings(panels),
+      settings(reader, panels, second_pane, menus, tools),
       error_report(reader),
       chapter_store(reader),
       catalogue(reader),
@@ -29,6 +29,8 @@ Form1::Form1(forms::Services services)
                {maintenance.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
                 concordance_builder.Text2, settings.Combo1, settings.Combo2, settings.Combo3}),
       exits(reader, menus, tools, {settings.Combo1, settings.Combo2, settings.Combo3}) {
+  start_up.ReadSettings = [this] { settings.ReadSettings(); };
+  settings.PointAtSearchButton = [this](int pointer) { text_search.Command22.MousePointer = pointer; };
   for (const std::span<const Place> table : kForm1Places) Apply(table, *this);
 }
 

@@ -13,7 +13,10 @@ extern const std::span<const Place> kReaderPlaces;
 extern const std::span<const Place> kSearchPlaces;
 extern const std::span<const Place> kConcordancePlaces;
 extern const std::span<const Place> kStoragePlaces;
+extern const std::span<const Place> kSettingsPlaces;
 
-inline const std::array kForm1Places = {kReaderPlaces, kSearchPlaces, kConcordancePlaces, kStoragePlaces};
+inline const std::array kForm1Places = {
+    kReaderPlaces, kSearchPlaces, kConcordancePlaces, kStoragePlaces, kSettingsPlaces,
+};
 
 }  // namespace lectern::ui
