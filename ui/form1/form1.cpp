@@ -16,6 +16,7 @@ Form1::Form1(forms::Services services)
       chapter_store(reader),
       catalogue(reader),
       navigation(reader, panels, catalogue),
+      stories(reader, menus),
       text_search(reader, panels, tools, menus),
       result_navigation(reader, panels, text_search),
       concordance_viewer(reader, panels, tools, menus, text_search),

@@ -15,6 +15,7 @@
 #include "core/second_pane.h"
 #include "core/settings.h"
 #include "core/start_up.h"
+#include "core/stories.h"
 #include "core/tool_buttons.h"
 #include "gallery/maintenance.h"
 #include "search/concordance_builder.h"
@@ -44,6 +45,7 @@ class Form1 : public forms::Window {
   core::ChapterStore chapter_store;
   core::Catalogue catalogue;
   core::Navigation navigation;
+  core::Stories stories;
   search::TextSearch text_search;
   search::ResultNavigation result_navigation;
   search::ConcordanceViewer concordance_viewer;
