@@ -21,6 +21,7 @@
 #include "search/concordance_builder.h"
 #include "search/concordance_editing.h"
 #include "search/concordance_viewer.h"
+#include "search/dictionary.h"
 #include "search/one_pass_builder.h"
 #include "search/result_navigation.h"
 #include "search/text_search.h"
@@ -52,6 +53,7 @@ class Form1 : public forms::Window {
   search::ConcordanceEditing concordance_editing;
   search::ConcordanceBuilder concordance_builder;
   search::OnePassBuilder one_pass_builder;
+  search::Dictionary dictionary;
   aids::Bookmarks bookmarks;
   aids::PagePrinting page_printing;
   gallery::Maintenance maintenance;

@@ -14,9 +14,10 @@ extern const std::span<const Place> kSearchPlaces;
 extern const std::span<const Place> kConcordancePlaces;
 extern const std::span<const Place> kStoragePlaces;
 extern const std::span<const Place> kSettingsPlaces;
+extern const std::span<const Place> kDictionaryPlaces;
 
 inline const std::array kForm1Places = {
-    kReaderPlaces, kSearchPlaces, kConcordancePlaces, kStoragePlaces, kSettingsPlaces,
+    kReaderPlaces, kSearchPlaces, kConcordancePlaces, kStoragePlaces, kSettingsPlaces, kDictionaryPlaces,
 };
 
 }  // namespace lectern::ui
