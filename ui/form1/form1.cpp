@@ -24,6 +24,7 @@ Form1::Form1(forms::Services services)
       concordance_builder(reader, panels, text_search),
       one_pass_builder(reader, panels, text_search, concordance_builder),
       dictionary(reader, panels, tools, menus, error_report),
+      trivia(reader, panels, tools, menus, error_report),
       bookmarks(panels),
       page_printing(panels),
       maintenance(panels),

@@ -25,6 +25,7 @@
 #include "search/one_pass_builder.h"
 #include "search/result_navigation.h"
 #include "search/text_search.h"
+#include "search/trivia.h"
 
 namespace lectern::ui {
 
@@ -54,6 +55,7 @@ class Form1 : public forms::Window {
   search::ConcordanceBuilder concordance_builder;
   search::OnePassBuilder one_pass_builder;
   search::Dictionary dictionary;
+  search::Trivia trivia;
   aids::Bookmarks bookmarks;
   aids::PagePrinting page_printing;
   gallery::Maintenance maintenance;

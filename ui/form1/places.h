@@ -15,9 +15,11 @@ extern const std::span<const Place> kConcordancePlaces;
 extern const std::span<const Place> kStoragePlaces;
 extern const std::span<const Place> kSettingsPlaces;
 extern const std::span<const Place> kDictionaryPlaces;
+extern const std::span<const Place> kTriviaPlaces;
 
 inline const std::array kForm1Places = {
-    kReaderPlaces, kSearchPlaces, kConcordancePlaces, kStoragePlaces, kSettingsPlaces, kDictionaryPlaces,
+    kReaderPlaces,   kSearchPlaces,     kConcordancePlaces, kStoragePlaces,
+    kSettingsPlaces, kDictionaryPlaces, kTriviaPlaces,
 };
 
 }  // namespace lectern::ui
