@@ -15,11 +15,7 @@ Program::Program(forms::Services services)
       known_{Knowing("Form1", Form1_)} {}
 
 void Program::Start() {
-  try {
-    Form1_().Visible = true;
-  } catch (const core::ProgramEnd& end) {
-    End(end.status);
-  }
+  Guard(forms::AfterFailure::kEndProgram, [this] { Form1_().Visible = true; });
 }
 
 // What handlers had written so far goes to the disk.
@@ -33,22 +29,29 @@ void Program::End(int status) {
 }
 
 void Program::Deliver(forms::Window& window, const std::function<void()>& event) {
-  if (ended_) return;
-  const bool goes_on = window.AfterUntrappedFailure() == forms::AfterFailure::kGoOn;
+  // Asked ahead: the event may let its window go.
+  if (!ended_) Guard(window.AfterUntrappedFailure(), event);
+}
+
+void Program::Guard(forms::AfterFailure after, const std::function<void()>& event) {
   try {
     event();
   } catch (const core::RunTimeError& error) {
     report_failure(error);
-    if (!goes_on) End(1);
+    if (after == forms::AfterFailure::kEndProgram) End(1);
   } catch (const core::ProgramEnd& end) {
     End(end.status);
   }
 }
 
 bool Program::Tick() {
+  return Tick([](const forms::Timer&) { return true; });
+}
+
+bool Program::Tick(const std::function<bool(const forms::Timer&)>& due) {
   std::vector<forms::Timer*> ticking;
   for (forms::Timer* timer : windows.Timers()) {
-    if (timer->IsTicking()) ticking.push_back(timer);
+    if (timer->IsTicking() && due(*timer)) ticking.push_back(timer);
   }
   for (forms::Timer* timer : ticking) {
     if (timer->IsTicking()) Deliver(timer->HostWindow(), [timer] { timer->Tick(); });

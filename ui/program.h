@@ -18,15 +18,17 @@ class Program {
  public:
   explicit Program(forms::Services services);
 
-  // Makes Form1, which runs the start-up, and shows it.
+  // Makes Form1, which runs the start-up, and shows it. A failure ends the program, as in any event.
   void Start();
 
   // Runs an event of a window to its end. A failure that nothing traps is handed to `report_failure`;
   // unless the window goes on after failures, it ends the program.
   void Deliver(forms::Window& window, const std::function<void()>& event);
 
-  // One tick of every timer that is on when the round begins; whether there was one.
+  // One tick of every timer that is on when the round begins, or of those among them that are due; whether
+  // there was one.
   bool Tick();
+  bool Tick(const std::function<bool(const forms::Timer&)>& due);
 
   // The close box of a window: its Form_Unload runs, and the window goes.
   void Close(forms::Window& window);
@@ -59,6 +61,7 @@ class Program {
     return {name, [&window]() -> forms::Window& { return window(); }, [&window] { window.LetGo(); }};
   }
   const Known* FindKnown(std::string_view name) const;
+  void Guard(forms::AfterFailure after, const std::function<void()>& event);
   void End(int status);
 
   forms::OnTouch<Form1> Form1_;

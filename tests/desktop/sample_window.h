@@ -1,0 +1,150 @@
+// A window with every kind of control on it, for trying the desktop layer without the program.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/forms/buttons.h"
+#include "core/forms/combo_box.h"
+#include "core/forms/folder_lists.h"
+#include "core/forms/frame.h"
+#include "core/forms/image.h"
+#include "core/forms/label.h"
+#include "core/forms/list_box.h"
+#include "core/forms/menu.h"
+#include "core/forms/picture_box.h"
+#include "core/forms/progress_bar.h"
+#include "core/forms/rich_text_box.h"
+#include "core/forms/scroll_bar.h"
+#include "core/forms/shape.h"
+#include "core/forms/text_box.h"
+#include "core/forms/timer.h"
+#include "core/forms/window.h"
+
+namespace lectern::desktop {
+
+// Every handler writes down what happened.
+class SampleWindow : public forms::Window {
+ public:
+  explicit SampleWindow(forms::Services services) : Window(services, "Sample", "Every kind of control") {
+    constexpr double kPixel = forms::kTwipsPerPixel;
+    Width = 860 * kPixel + forms::kFrameWidth;
+    Height = 600 * kPixel + forms::kFrameHeight + forms::kMenuBarHeight;
+    const auto place = [](forms::PlacedControl& control, double left, double top, double width,
+                          double height) {
+      control.Left = left * kPixel;
+      control.Top = top * kPixel;
+      control.Width = width * kPixel;
+      control.Height = height * kPixel;
+    };
+    place(label, 10, 10, 90, 20);
+    place(line_box, 110, 8, 150, 24);
+    place(page_box, 10, 40, 250, 70);
+    place(command, 10, 120, 110, 28);
+    place(search, 130, 120, 130, 28);
+    place(option, 10, 155, 110, 22);
+    place(bare_option, 130, 155, 20, 22);
+    place(option_text, 152, 157, 108, 20);
+    place(combo, 10, 185, 250, 26);
+    place(bar, 10, 220, 250, 22);
+    place(progress, 10, 250, 250, 16);
+    place(list, 280, 10, 180, 180);
+    place(files, 280, 200, 180, 66);
+    place(folders, 470, 10, 180, 180);
+    place(drives, 470, 200, 180, 26);
+    place(image, 670, 10, 80, 60);
+    place(clickable_image, 760, 10, 80, 60);
+    place(shape, 670, 80, 40, 40);
+    place(swatch_label, 680, 90, 30, 20);
+    place(line, 720, 100, 120, 1);
+    place(frame, 670, 130, 180, 136);
+    place(in_frame, 10, 30, 160, 20);
+    place(ss_option, 10, 56, 100, 22);
+    place(ss_option2, 10, 80, 100, 22);
+    place(ss_command, 10, 104, 100, 26);
+    place(canvas, 10, 280, 250, 200);
+    place(page, 280, 280, 280, 200);
+    place(sheet, 570, 280, 280, 200);
+    place(panel, 300, 250, 300, 160);
+    place(cancel, 180, 120, 100, 28);
+    place(in_panel, 10, 10, 200, 24);
+    place(far_away, 1200, 10, 100, 20);
+    JoinHandlers();
+    for (const char* book : {"Genesis", "Exodus", "Leviticus", "Job", "Joel", "John"}) list.AddItem(book);
+    for (const char* size : {"8", "10", "12"}) combo.AddItem(size);
+    option.Value = true;
+  }
+
+  std::vector<std::string> log;
+
+  forms::Menu file{*this, "file", {.caption = "&File"}};
+  forms::Menu open{file, "open", {.caption = "&Open", .shortcut = "Ctrl+O"}};
+  forms::Menu gap{file, "gap", {.caption = "-"}};
+  forms::Menu mark{file, "mark", {.caption = "&Mark", .value = 1}};
+  forms::Menu stories{*this, "stories", {.caption = "Codex &Stories"}};
+  forms::Menu flood{stories, "flood", {.caption = "Flood"}};
+
+  // Stands ahead of all others, so that only being shown later puts it on top of them.
+  forms::Frame panel{*this, "panel", {.visible = false, .name = "Panel"}};
+  forms::TextBox in_panel{panel, "in_panel", {.name = "For"}};
+  forms::CommandButton cancel{panel, "cancel", {.caption = "Close", .is_cancel = true}};
+
+  forms::Label label{*this, "label", {.caption = "A label"}};
+  forms::TextBox line_box{*this, "line_box", {.caption = "one line", .name = "Line"}};
+  forms::TextBox page_box{*this, "page_box", {.caption = "two\r\nlines", .multi_line = true, .name = "Page"}};
+  forms::CommandButton command{*this, "command", {.caption = "&Press", .is_default = true}};
+  forms::CommandButton search{*this, "search", {.caption = "&Search with a long text"}};
+  forms::OptionButton option{*this, "option", {.caption = "Option"}};
+  forms::OptionButton bare_option{*this, "bare_option", {.name = "Bare"}};
+  forms::Label option_text{*this, "option_text", {.caption = "its text"}};
+  forms::ComboBox combo{*this, "combo", {.caption = "10", .name = "Size"}};
+  forms::HScrollBar bar{*this, "bar", {.value = 1, .min = 1, .max = 50, .name = "Chapter"}};
+  forms::ProgressBar progress{*this, "progress", {.value = 40, .name = "Progress"}};
+  forms::ListBox list{*this, "list", {.name = "Books"}};
+  forms::FileListBox files{*this, "files", {.pattern = "*.txt", .name = "Files"}};
+  forms::DirListBox folders{*this, "folders", {.name = "Folders"}};
+  forms::DriveListBox drives{*this, "drives", {.name = "Drives"}};
+  forms::Image image{*this, "image", {.value = 1}};
+  forms::Image clickable_image{*this, "clickable_image", {.value = 1, .name = "Picture to press"}};
+  forms::Shape shape{*this, "shape", {.value = forms::kShapeCircle, .back_color = forms::Rgb(255, 128, 0)}};
+  forms::Label swatch_label{*this, "swatch_label", {.caption = "x", .name = "Orange"}};
+  forms::Line line{*this, "line"};
+  forms::Frame frame{*this, "frame", {.caption = "Frame"}};
+  forms::Label in_frame{frame, "in_frame", {.caption = "a text that is longer than its place allows"}};
+  forms::SSOption ss_option{frame, "ss_option", {.caption = "Book", .value = 1}};
+  forms::SSOption ss_option2{frame, "ss_option2", {.caption = "Codex"}};
+  forms::SSCommand ss_command{frame, "ss_command", {.caption = "Deep"}};
+  forms::PictureBox canvas{*this, "canvas", {.name = "Canvas"}};
+  forms::RichTextBox page{*this, "page", {.read_only = true, .name = "Text"}};
+  forms::RichTextBox sheet{*this, "sheet", {.caption = "Note", .name = "Note"}};
+  forms::Label far_away{*this, "far_away", {.caption = "storage"}};
+  forms::Timer timer{*this, "timer", {.enabled = false, .interval = 1}};
+
+ private:
+  void JoinHandlers() {
+    for (forms::Control* control : Controls()) {
+      if (control == &label || control == &option_text || control == &image || control == &page ||
+          control == &in_frame)
+        continue;
+      if (control->GetKind() == forms::Kind::kFrame || control->GetKind() == forms::Kind::kShape) continue;
+      control->Click = [this, control] { log.push_back(control->Name() + " click"); };
+    }
+    list.MouseDown = [this](const forms::MouseEvent&) { log.push_back("list press"); };
+    list.DblClick = [this] { log.push_back("list dblclick"); };
+    list.KeyDown = [this](int code) { log.push_back("list key " + std::to_string(code)); };
+    line_box.LostFocus = [this] { log.push_back("line_box left"); };
+    bar.Change = [this] { log.push_back("bar " + std::to_string(bar.Value)); };
+    sheet.Change = [this] { log.push_back("sheet change"); };
+    canvas.Click = nullptr;
+    canvas.ForeColor = forms::kBlack;
+    canvas.ScaleMode = forms::kScalePixels;
+    canvas.DrawWidth = 9;
+    canvas.MouseDown = [this](const forms::MouseEvent& mouse) { canvas.PSet(mouse.x, mouse.y); };
+    canvas.MouseMove = [this](const forms::MouseEvent& mouse) {
+      if (mouse.button != 0) canvas.PSet(mouse.x, mouse.y);
+    };
+    timer.Tick = [this] { log.push_back("tick"); };
+  }
+};
+
+}  // namespace lectern::desktop

@@ -1,0 +1,101 @@
+// The sample window on a screen, with whoever uses it standing before it.
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QTest>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <optional>
+#include <string>
+
+#include "core/run_time_error.h"
+#include "tests/desktop/sample_window.h"
+#include "ui/desktop/events.h"
+#include "ui/desktop/platform.h"
+#include "ui/desktop/timers.h"
+#include "ui/desktop/window_view.h"
+
+namespace lectern::desktop {
+
+class Stage : public testing::Test {
+ protected:
+  Stage() {
+    events.starting = [this] {
+      if (view) view->Commit();
+    };
+    events.settled = [this] {
+      if (view) view->Settle();
+      timers.Reckon();
+    };
+    view = std::make_unique<WindowView>(*window, events, [this](forms::Window&) { close(); });
+    timers.Watch(*window);
+    QObject::connect(qApp, &QApplication::focusChanged, &receiver, [this] {
+      if (view) view->FocusArrived();
+    });
+    Do([this] { window->Visible = true; });
+    EXPECT_TRUE(QTest::qWaitForWindowActive(view->Frame()));
+  }
+  ~Stage() override { LetGo(); }
+
+  // As the program lets a window go.
+  void LetGo() {
+    if (!window) return;
+    timers.Forget(*window);
+    view->Abandon();
+    view.release()->deleteLater();
+    window.reset();
+  }
+
+  // What the program's own code does in an event.
+  void Do(const std::function<void()>& act) { events.Deliver(*window, act); }
+
+  template <class Widget>
+  Widget* Find(const char* name) {
+    auto* const widget = view->Frame()->findChild<Widget*>(name);
+    EXPECT_NE(widget, nullptr) << name;
+    return widget;
+  }
+  QWidget* Find(const char* name) { return Find<QWidget>(name); }
+
+  // Where a mouse meets the widget.
+  QWidget* Target(const char* name) {
+    QWidget* const widget = Find(name);
+    auto* const area = qobject_cast<QAbstractScrollArea*>(widget);
+    return area == nullptr ? widget : area->viewport();
+  }
+
+  void Click(const char* name) { QTest::mouseClick(Target(name), Qt::LeftButton); }
+  void Click(const char* name, int x, int y) {
+    QTest::mouseClick(Target(name), Qt::LeftButton, {}, QPoint(x, y));
+  }
+
+  // What the handlers wrote down since the last time.
+  std::string Log() {
+    std::string joined;
+    for (const std::string& line : std::exchange(window->log, {})) {
+      joined += (joined.empty() ? "" : ", ") + line;
+    }
+    return joined;
+  }
+
+  DesktopPlatform platform;
+  files::FileSystem files{std::filesystem::temp_directory_path().string()};
+  std::unique_ptr<SampleWindow> window = std::make_unique<SampleWindow>(forms::Services{platform, files});
+  std::optional<core::RunTimeError> failure;
+  std::function<void()> close = [] {};
+  Events events{[this](forms::Window&, const std::function<void()>& event) {
+    try {
+      event();
+    } catch (const core::RunTimeError& error) {
+      failure = error;
+    }
+  }};
+  Timers timers{events, [this](const auto& due) {
+                  if (window && window->timer.IsTicking() && due(window->timer)) window->timer.Tick();
+                }};
+  std::unique_ptr<WindowView> view;
+  QObject receiver;
+};
+
+}  // namespace lectern::desktop

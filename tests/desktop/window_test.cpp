@@ -1,0 +1,200 @@
+#include <QAbstractScrollArea>
+#include <QAccessible>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+
+#include "tests/desktop/stage.h"
+#include "ui/desktop/control_view.h"
+#include "ui/desktop/theme.h"
+
+namespace lectern::desktop {
+namespace {
+
+TEST_F(Stage, EveryKindOfControlInReachHasAWidget) {
+  for (forms::Control* control : window->Controls()) {
+    if (control->GetKind() == forms::Kind::kMenu || control->GetKind() == forms::Kind::kTimer) continue;
+    const QString name = ToQString(control->FullName());
+    const bool is_seen = control->IsShown() && control != &window->far_away;
+    const auto* const widget = view->Frame()->findChild<QWidget*>(name);
+    EXPECT_EQ(widget != nullptr && widget->isVisible(), is_seen) << name.toStdString();
+  }
+  EXPECT_EQ(view->Face().size(), QSize(860, 600));
+  EXPECT_EQ(view->Frame()->height(), 600 + Find<QMenuBar>("")->height());
+}
+
+TEST_F(Stage, EverythingThatTakesTheKeyboardHasANameToBeReadOut) {
+  Do([this] { window->panel.Visible = true; });
+  for (QWidget* widget : view->Face().findChildren<QWidget*>()) {
+    if (widget->objectName().isEmpty() || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+    if (dynamic_cast<forms::Control*>(window->Find(widget->objectName().toStdString())) == nullptr) continue;
+    QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(read, nullptr);
+    EXPECT_FALSE(read->text(QAccessible::Name).isEmpty()) << widget->objectName().toStdString();
+  }
+}
+
+TEST_F(Stage, AScreenReaderCanPressAPicture) {
+  QAccessibleInterface* const picture = QAccessible::queryAccessibleInterface(Find("clickable_image"));
+  EXPECT_EQ(picture->role(), QAccessible::Button);
+  picture->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(Log(), "clickable_image click");
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(view->Frame())->role(), QAccessible::Window);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(Find("option"))->role(), QAccessible::RadioButton);
+}
+
+TEST_F(Stage, ThePanelShownLastLiesOnTopAndIsFilledWhenItIsFirstSeen) {
+  EXPECT_EQ(view->Frame()->findChild<QWidget*>("cancel"), nullptr);
+  const QPoint in_panel(400, 300);  // over the page, which was made behind the panel
+  EXPECT_FALSE(Find("page")->isHidden());
+  Do([this] { window->panel.Visible = true; });
+  const QWidget* const on_top = view->Face().childAt(in_panel);
+  EXPECT_TRUE(on_top == Find("panel") || Find("panel")->isAncestorOf(on_top));
+  // A label that comes into sight meanwhile stays below.
+  Do([this] {
+    window->far_away.Left = 310 * forms::kTwipsPerPixel;
+    window->far_away.Top = 300 * forms::kTwipsPerPixel;
+  });
+  EXPECT_NE(view->Face().childAt(320, 310), Find("far_away"));
+}
+
+TEST_F(Stage, WhatStoodForAMomentNeverShows) {
+  auto* const edit = Find<QLineEdit>("line_box");
+  int changes = 0;
+  QObject::connect(edit, &QLineEdit::textChanged, [&changes] { ++changes; });
+  Do([this] {
+    window->line_box.Text = "";
+    window->line_box.Text = "1";
+    window->label.Caption = "";
+  });
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(edit->text(), "1");
+  EXPECT_EQ(Find<QLabel>("label")->text(), "");
+}
+
+TEST_F(Stage, TheKeyboardGoesFromLineToLine) {
+  Find("line_box")->setFocus();
+  std::string order;
+  for (int i = 0; i < 12; ++i) {
+    order += view->Frame()->focusWidget()->objectName().toStdString() + " ";
+    QTest::keyClick(view->Frame()->focusWidget(), Qt::Key_Tab);
+  }
+  // Options are one stop; the arrows go through them.
+  EXPECT_EQ(order,
+            "line_box list folders clickable_image page_box swatch_label command search ss_option ss_command "
+            "option combo ");
+}
+
+TEST_F(Stage, FocusMovesBothWays) {
+  Find("line_box")->setFocus();
+  EXPECT_EQ(window->Focus(), &window->line_box);
+  Find("list")->setFocus();
+  EXPECT_EQ(Log(), "line_box left");
+  // Into a panel that is shown in the same event.
+  Do([this] {
+    window->panel.Visible = true;
+    window->in_panel.SetFocus();
+  });
+  EXPECT_EQ(view->Frame()->focusWidget(), Find("in_panel"));
+  // Hiding it takes the focus along, to something that is seen.
+  Do([this] { window->panel.Visible = false; });
+  ASSERT_NE(window->Focus(), nullptr);
+  EXPECT_TRUE(window->Focus()->IsShown());
+}
+
+TEST_F(Stage, EnterAndEscapePressTheButtonsMeantForThem) {
+  QTest::keyClick(Find("line_box"), Qt::Key_Return);
+  EXPECT_EQ(Log(), "command click");
+  QTest::keyClick(Find("search"), Qt::Key_Return);
+  EXPECT_EQ(Log(), "search click");
+  QTest::keyClick(Find("page_box"), Qt::Key_Return);  // writes a line
+  EXPECT_EQ(Log(), "");
+  EXPECT_EQ(window->page_box.Text, "\r\ntwo\r\nlines");
+  QTest::keyClick(view->Frame(), Qt::Key_Escape);
+  EXPECT_EQ(Log(), "");
+  Do([this] { window->panel.Visible = true; });
+  QTest::keyClick(view->Frame(), Qt::Key_Escape);
+  EXPECT_EQ(Log(), "cancel click");
+}
+
+TEST_F(Stage, AButtonComesBeforeAMenuWithTheSameLetter) {
+  for (int i = 0; i < 3; ++i) {
+    QTest::keyClick(Find("sheet"), Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Log(), "search click");
+  }
+  EXPECT_EQ(window->sheet.Text, "Note");
+  EXPECT_EQ(view->Frame()->focusWidget(), Find("search"));
+  Do([this] { window->search.Enabled = false; });
+  EXPECT_FALSE(view->HasAccessKey(Qt::Key_S));  // now it is the menu's
+}
+
+TEST_F(Stage, MenusShowTheirStateAndPress) {
+  auto* const mark = view->Frame()->findChild<QAction*>("mark");
+  EXPECT_TRUE(mark->isChecked());
+  mark->trigger();
+  EXPECT_EQ(Log(), "mark click");
+  EXPECT_TRUE(mark->isChecked());  // the handler left it as it was
+  Do([this] { window->mark.Checked = false; });
+  EXPECT_FALSE(mark->isChecked());
+  QTest::keyClick(view->Frame(), Qt::Key_O, Qt::ControlModifier);
+  EXPECT_EQ(Log(), "open click");
+}
+
+TEST_F(Stage, NothingIsDeliveredWhileAHandlerIsAtWork) {
+  Do([this] {
+    // As from the loop of a modal box.
+    Click("search");
+    window->timer.Enabled = true;
+    QTest::qWait(20);
+    EXPECT_EQ(Log(), "");
+  });
+  QTest::qWait(20);
+  EXPECT_TRUE(Log().starts_with("tick"));
+}
+
+TEST_F(Stage, TicksThatFellDueTogetherAreOne) {
+  Do([this] {
+    window->timer.Interval = 300;
+    window->timer.Enabled = true;
+  });
+  Do([] { QTest::qSleep(1000); });  // three fell due, and the next is far off
+  QCoreApplication::processEvents();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Log(), "tick");
+}
+
+TEST_F(Stage, TheCloseBoxAsksTheProgram) {
+  int asked = 0;
+  close = [&asked] { ++asked; };
+  view->Frame()->close();
+  EXPECT_EQ(asked, 1);
+  EXPECT_TRUE(view->Frame()->isVisible());
+}
+
+TEST_F(Stage, AWindowMayBeLetGoByItsOwnCloseBox) {
+  Do([this] { window->label.Caption = "not shown any more"; });
+  close = [this] {
+    window->label.Caption = "nor this";
+    LetGo();
+  };
+  view->Frame()->close();
+  EXPECT_EQ(window, nullptr);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+}
+
+TEST(Colours, TextIsLightenedOnADarkGroundOnly) {
+  const QColor blue(0, 0, 255);
+  EXPECT_EQ(Legible(blue, Qt::white), blue);
+  const QColor on_dark = Legible(blue, QColor(30, 30, 30));
+  EXPECT_GT(on_dark.lightness(), blue.lightness());
+  EXPECT_EQ(Legible(QColor(1, 2, 3), QColor(1, 2, 3)), QColor(1, 2, 3));  // meant to vanish
+  EXPECT_EQ(TextOn(QColor(255, 255, 0)), QColor(Qt::black));
+  EXPECT_EQ(ToColor(forms::kWindowBackground, QPalette(Qt::black, Qt::white, Qt::white, Qt::white, Qt::white,
+                                                       Qt::black, Qt::white, Qt::yellow, Qt::gray)),
+            QColor(Qt::yellow));
+}
+
+}  // namespace
+}  // namespace lectern::desktop

@@ -1,0 +1,99 @@
+#include "ui/desktop/child_views.h"
+
+#include <algorithm>
+
+#include "ui/desktop/control_view.h"
+#include "ui/desktop/view_factory.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+enum class Layer { kFigure, kLabel, kInput, kPanel };
+
+Layer LayerOf(const forms::Control& control) {
+  switch (control.GetKind()) {
+    case forms::Kind::kShape:
+    case forms::Kind::kLine:
+      return Layer::kFigure;
+    case forms::Kind::kLabel:
+    case forms::Kind::kImage:
+      return Layer::kLabel;
+    case forms::Kind::kFrame:
+    case forms::Kind::kPictureBox:
+      return Layer::kPanel;
+    default:
+      return Layer::kInput;
+  }
+}
+
+// Whether one control lies below another of the same panel.
+bool LiesBelow(const ControlView* a, const ControlView* b) {
+  const Layer layer_of_a = LayerOf(a->Control());
+  const Layer layer_of_b = LayerOf(b->Control());
+  if (layer_of_a != layer_of_b) return layer_of_a < layer_of_b;
+  return layer_of_a == Layer::kPanel && a->Control().ShownAt() < b->Control().ShownAt();
+}
+
+}  // namespace
+
+ChildViews::ChildViews(forms::Container& container, WindowView& window, QWidget& parent) : parent_(parent) {
+  for (forms::Control* control : container.Children()) {
+    if (auto view = MakeView(*control, window, parent)) views_.push_back(std::move(view));
+  }
+  MarkStale();
+}
+
+ChildViews::~ChildViews() = default;
+
+void ChildViews::MarkStale() {
+  for (const auto& view : views_) view->Changed();
+}
+
+void ChildViews::Recolour() {
+  for (const auto& view : views_) view->Recolour();
+}
+
+void ChildViews::Stack() {
+  std::vector<ControlView*> wanted;
+  for (const auto& view : views_) {
+    if (view->IsSeen()) wanted.push_back(view.get());
+  }
+  std::stable_sort(wanted.begin(), wanted.end(), LiesBelow);
+  // As many as are in order already stay as they are; the rest is put on top of them one after another.
+  auto next = wanted.begin();
+  for (QObject* child : parent_.children()) {
+    if (next != wanted.end() && (*next)->Widget() == child) ++next;
+  }
+  for (; next != wanted.end(); ++next) (*next)->Widget()->raise();
+  for (ControlView* view : wanted) {
+    view->Stacked();
+    if (ChildViews* inner = view->Children()) inner->Stack();
+  }
+}
+
+void ChildViews::AppendInTabOrder(std::vector<ControlView*>& order) const {
+  std::vector<ControlView*> seen;
+  for (const auto& view : views_) {
+    if (view->IsSeen()) seen.push_back(view.get());
+  }
+  const auto top = [](const ControlView* view) { return view->Place().top(); };
+  std::stable_sort(seen.begin(), seen.end(),
+                   [&](const ControlView* a, const ControlView* b) { return top(a) < top(b); });
+  // A line reaches to the middle of its first control.
+  for (auto line = seen.begin(); line != seen.end();) {
+    const int reach = (*line)->Place().center().y();
+    const auto end =
+        std::find_if(line, seen.end(), [&](const ControlView* view) { return top(view) > reach; });
+    std::stable_sort(line, end, [](const ControlView* a, const ControlView* b) {
+      return a->Place().left() < b->Place().left();
+    });
+    line = end;
+  }
+  for (ControlView* view : seen) {
+    if ((view->Widget()->focusPolicy() & Qt::TabFocus) != 0) order.push_back(view);
+    if (const ChildViews* inner = view->Children()) inner->AppendInTabOrder(order);
+  }
+}
+
+}  // namespace lectern::desktop

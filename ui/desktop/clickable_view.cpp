@@ -1,0 +1,72 @@
+#include "ui/desktop/clickable_view.h"
+
+#include <utility>
+
+#include "ui/desktop/keys.h"
+#include "ui/desktop/painted_widget.h"
+#include "ui/desktop/window_view.h"
+
+namespace lectern::desktop {
+
+void ClickableView::PrepareForInput(QWidget& widget) {
+  if (Control().Click) {
+    widget.setFocusPolicy(Qt::StrongFocus);
+    if (auto* painted = dynamic_cast<PaintedWidget*>(&widget)) {
+      painted->press = [this] { Act([this] { Control().PersonClicks(); }); };
+    }
+  }
+  widget.setMouseTracking(static_cast<bool>(Control().MouseMove));
+}
+
+bool ClickableView::HandleKey(const QKeyEvent& key) {
+  const bool presses = key.key() == Qt::Key_Space || KeyCode(key) == forms::kEnterKey;
+  if (!presses || !Control().Click || key.modifiers() != Qt::NoModifier) return false;
+  if (!key.isAutoRepeat()) Act([this] { Control().PersonClicks(); });
+  return true;
+}
+
+bool ClickableView::Pressed(const QMouseEvent& event) {
+  if (!Control().Click && !Control().MouseDown) return false;
+  pressed_ = event.button() == Qt::LeftButton;
+  const forms::MouseEvent mouse = InScale(ToMouseEvent(event, event.button()));
+  Act([this, mouse] { Control().PersonPresses(mouse); });
+  return true;
+}
+
+bool ClickableView::Released(const QMouseEvent& event) {
+  if (!std::exchange(pressed_, false) || event.button() != Qt::LeftButton) return false;
+  if (Control().Click && Widget()->rect().contains(event.position().toPoint())) {
+    Act([this] { Control().Click(); });
+  }
+  return true;
+}
+
+bool ClickableView::Moved(const QMouseEvent& event) {
+  if (!Control().MouseMove) return false;
+  const forms::MouseEvent mouse = InScale(ToMouseEvent(event, event.buttons()));
+  Act([this, mouse] { Control().PersonMoves(mouse); });
+  return true;
+}
+
+bool ClickableView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == Widget() && !GetWindow().IsAbandoned()) {
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+        return Pressed(static_cast<const QMouseEvent&>(*event));
+      case QEvent::MouseButtonDblClick: {
+        const bool taken = Pressed(static_cast<const QMouseEvent&>(*event));
+        if (Control().DblClick) Act([this] { Control().DblClick(); });
+        return taken;
+      }
+      case QEvent::MouseButtonRelease:
+        return Released(static_cast<const QMouseEvent&>(*event));
+      case QEvent::MouseMove:
+        return Moved(static_cast<const QMouseEvent&>(*event));
+      default:
+        break;
+    }
+  }
+  return ControlView::eventFilter(watched, event);
+}
+
+}  // namespace lectern::desktop

@@ -1,0 +1,44 @@
+// The program with its face: owns the program, shows its windows, brings in what a person does and gives the
+// timers their ticks, until the program ends.
+#pragma once
+
+#include <QObject>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/files/file_system.h"
+#include "ui/desktop/events.h"
+#include "ui/desktop/platform.h"
+#include "ui/desktop/timers.h"
+#include "ui/desktop/window_view.h"
+#include "ui/program.h"
+
+namespace lectern::desktop {
+
+class Desktop {
+ public:
+  // An application must stand.
+  explicit Desktop(std::string data_folder);
+  ~Desktop();
+
+  // Starts the program and stays until it ends; the exit status.
+  int Run();
+
+ private:
+  void JoinWindows();
+  void JoinPlatform();
+  void Settle();
+  void Leave();
+  QWidget* FrontFrame() const;
+
+  DesktopPlatform platform_;
+  files::FileSystem files_;
+  ui::Program program_;
+  Events events_;
+  Timers timers_;
+  std::vector<std::unique_ptr<WindowView>> windows_;
+  QObject receiver_;  // of signals that outlive nothing here
+};
+
+}  // namespace lectern::desktop

@@ -1,0 +1,104 @@
+#include "ui/desktop/label_view.h"
+
+#include <QLabel>
+#include <QPainter>
+
+#include "core/forms/buttons.h"
+#include "core/forms/window.h"
+#include "ui/desktop/style.h"
+#include "ui/desktop/text_fit.h"
+#include "ui/desktop/window_view.h"
+
+namespace lectern::desktop {
+
+// A QLabel for those who have it read to them, with its text fitted for those who see it.
+class LabelView::Text : public QLabel {
+ public:
+  explicit Text(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
+
+  void Show(const QString& text, Qt::Alignment alignment) {
+    if (text != this->text()) {
+      setText(text);
+      fitted_ = false;
+      update();
+    }
+    if (alignment != this->alignment()) setAlignment(alignment);
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QLabel::resizeEvent(event);
+    fitted_ = false;
+  }
+
+  void changeEvent(QEvent* event) override {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange) fitted_ = false;
+  }
+
+  void paintEvent(QPaintEvent* /*event*/) override {
+    if (!fitted_) {
+      fit_ = Fit(text(), font(), size());
+      fitted_ = true;
+      setToolTip(fit_.cut ? text() : QString());
+    }
+    QPainter painter(this);
+    painter.setFont(fit_.font);
+    painter.setPen(
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    const auto across = static_cast<int>(alignment() & Qt::AlignHorizontal_Mask);
+    const int down =
+        fit_.several_lines ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter | Qt::TextSingleLine;
+    painter.drawText(rect(), across | down, fit_.text);
+    if (hasFocus()) DrawFocusRing(painter, rect(), palette());
+  }
+
+ private:
+  FittedText fit_;
+  bool fitted_ = false;
+};
+
+QWidget* LabelView::Make(QWidget* parent) {
+  text_ = new Text(parent);
+  PrepareForInput(*text_);
+  return text_;
+}
+
+void LabelView::Apply() {
+  Qt::Alignment alignment = Qt::AlignLeft;
+  if (label_.Alignment == forms::kAlignRight) alignment = Qt::AlignRight;
+  if (label_.Alignment == forms::kAlignCentre) alignment = Qt::AlignHCenter;
+  text_->Show(ToQString(label_.Caption), alignment);
+}
+
+// The option without a caption that stands at the label's left side, as close as its own text would.
+forms::Control* LabelView::OptionBeside() const {
+  constexpr int kNear = 8;  // pixels
+  const QRect place = Place();
+  for (forms::Control* sibling : label_.Parent().Children()) {
+    auto* const option = dynamic_cast<forms::Option*>(sibling);
+    if (option == nullptr || option->Caption != "") continue;
+    const double right = (option->Left + option->Width) / forms::kTwipsPerPixel;
+    const double top = option->Top / forms::kTwipsPerPixel;
+    const double bottom = (option->Top + option->Height) / forms::kTwipsPerPixel;
+    const int middle = place.center().y();
+    if (right <= place.left() + kNear && place.left() - right <= kNear && middle >= top && middle <= bottom) {
+      return option;
+    }
+  }
+  return nullptr;
+}
+
+bool LabelView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonPress && !GetWindow().IsAbandoned() && !label_.Click &&
+      !label_.MouseDown && static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton) {
+    forms::Control* const option = OptionBeside();
+    if (option != nullptr && option->RefusesPerson() == forms::Refusal::kNone) {
+      Act([option] { option->PersonClicks(); });
+      return true;
+    }
+  }
+  return ClickableView::eventFilter(watched, event);
+}
+
+}  // namespace lectern::desktop

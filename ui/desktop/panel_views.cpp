@@ -1,0 +1,131 @@
+#include "ui/desktop/panel_views.h"
+
+#include <QPainter>
+
+#include "core/forms/window.h"
+#include "ui/desktop/painted_widget.h"
+#include "ui/desktop/pictures.h"
+#include "ui/desktop/style.h"
+#include "ui/desktop/window_view.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+constexpr int kShadow = 10;  // pixels that it reaches out
+
+void PaintShadow(QPainter& painter, const QRect& /*exposed*/) {
+  const auto& widget = *static_cast<const QWidget*>(painter.device());
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0, 0, 0, 9));
+  for (int inset = 0; inset < kShadow; ++inset) {
+    painter.drawRoundedRect(widget.rect().adjusted(inset, inset, -inset, -inset), kShadow - inset,
+                            kShadow - inset);
+  }
+}
+
+}  // namespace
+
+QWidget* PanelView::Make(QWidget* parent) {
+  auto* const widget =
+      new PaintedWidget(parent, [this](QPainter& painter, const QRect& exposed) { Paint(painter, exposed); });
+  widget->setAutoFillBackground(true);
+  PrepareForInput(*widget);
+  return widget;
+}
+
+void PanelView::Refresh() {
+  ClickableView::Refresh();
+  if (Widget() != nullptr && !GetWindow().IsAbandoned()) CastShadow();
+}
+
+// What is there from the start is part of the window's face and lies flat.
+void PanelView::CastShadow() {
+  if (Control().ShownAt() == 0 || Control().Parent().Outer() != nullptr) return;
+  if (shadow_ == nullptr) {
+    shadow_ = new PaintedWidget(Widget()->parentWidget(), PaintShadow);
+    shadow_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+  shadow_->setGeometry(Widget()->geometry().adjusted(-kShadow, -kShadow / 2, kShadow, kShadow));
+  shadow_->setVisible(IsSeen());
+}
+
+void PanelView::Stacked() {
+  if (shadow_ != nullptr) shadow_->stackUnder(Widget());
+}
+
+void PanelView::Apply() {
+  const QRgb ground = Widget()->palette().color(QPalette::Window).rgb();
+  if (!children_) {
+    children_ = std::make_unique<ChildViews>(container_, GetWindow(), *Widget());
+  } else if (ground != ground_) {
+    children_->Recolour();
+  }
+  ground_ = ground;
+  if (std::exchange(shown_at_, Control().ShownAt()) != Control().ShownAt()) GetWindow().NeedsArranging();
+}
+
+void PanelView::Resized() {
+  if (children_) children_->MarkStale();
+}
+
+void PanelView::PaintEdges(QPainter& painter) const {
+  const QRect area = Widget()->rect();
+  const QRect place = Widget()->geometry();
+  const QRect around = Widget()->parentWidget()->rect();
+  painter.setPen(Qt::NoPen);
+  const QColor line = LineColor(Widget()->palette());
+  if (place.top() > around.top()) painter.fillRect(0, 0, area.width(), 1, line);
+  if (place.bottom() < around.bottom()) painter.fillRect(0, area.bottom(), area.width(), 1, line);
+  if (place.left() > around.left()) painter.fillRect(0, 0, 1, area.height(), line);
+  if (place.right() < around.right()) painter.fillRect(area.right(), 0, 1, area.height(), line);
+}
+
+void FrameView::Apply() {
+  PanelView::Apply();
+  Widget()->update();
+}
+
+// A heading stands in the frame's upper line, which leaves room for it.
+void FrameView::Paint(QPainter& painter, const QRect& /*exposed*/) {
+  PaintEdges(painter);
+  const QString caption = ToQString(frame_.Caption);
+  if (caption.trimmed().isEmpty()) return;
+  constexpr int kIndent = 10;
+  const QFontMetrics metrics(Widget()->font());
+  const QRect heading(kIndent, 2, Widget()->width() - 2 * kIndent, metrics.height());
+  painter.setPen(Widget()->palette().color(QPalette::WindowText));
+  painter.drawText(heading, Qt::AlignLeft | Qt::AlignVCenter,
+                   metrics.elidedText(caption, Qt::ElideRight, heading.width()));
+}
+
+void PictureBoxView::Apply() {
+  PanelView::Apply();
+  const forms::Area changed = box_.TakeChangedArea();
+  if (!changed.Empty()) {
+    Widget()->update(changed.left, changed.top, changed.right - changed.left, changed.bottom - changed.top);
+  }
+  if (box_.MousePointer == forms::kPointerCustom && pointer_ != box_.MouseIcon()) {
+    pointer_ = box_.MouseIcon;
+    Widget()->setCursor(PointerOf(pointer_));
+  }
+}
+
+void PictureBoxView::Paint(QPainter& painter, const QRect& exposed) {
+  if (const forms::Bitmap& shown = box_.Shown(); !shown.Empty()) {
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QRect part = exposed.intersected(QRect(0, 0, shown.Width(), shown.Height()));
+    painter.drawImage(part, ImageOf(shown), part);
+  }
+  if (box_.BorderStyle != 0) PaintEdges(painter);
+}
+
+forms::MouseEvent PictureBoxView::InScale(forms::MouseEvent mouse) const {
+  if (box_.ScaleMode != forms::kScalePixels) return mouse;
+  mouse.x /= forms::kTwipsPerPixel;
+  mouse.y /= forms::kTwipsPerPixel;
+  return mouse;
+}
+
+}  // namespace lectern::desktop

@@ -1,0 +1,13 @@
+// Boxes of plain text, of one line and of several.
+#pragma once
+
+#include <memory>
+
+#include "core/forms/text_box.h"
+#include "ui/desktop/control_view.h"
+
+namespace lectern::desktop {
+
+std::unique_ptr<ControlView> MakeTextBoxView(forms::TextBox& box, WindowView& window, QWidget& parent);
+
+}  // namespace lectern::desktop

@@ -1,0 +1,288 @@
+#include "ui/desktop/window_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "core/forms/buttons.h"
+#include "ui/desktop/child_views.h"
+#include "ui/desktop/control_view.h"
+#include "ui/desktop/keys.h"
+#include "ui/desktop/menu_views.h"
+#include "ui/desktop/pictures.h"
+#include "ui/desktop/theme.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+int ToPixels(double twips) { return static_cast<int>(std::lround(twips / forms::kTwipsPerPixel)); }
+
+}  // namespace
+
+class WindowView::FrameWidget : public QWidget {
+ public:
+  explicit FrameWidget(WindowView& view) : view_(view) {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();  // it is for the program to say what becomes of the window
+    view_.CloseAsked();
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const int letter = AccessKey(*event);
+    const bool taken = letter != 0 ? view_.PressAccessKey(letter) : view_.KeyPressed(event->key());
+    if (!taken) QWidget::keyPressEvent(event);
+  }
+
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::ShortcutOverride) {
+      // Qt would let a menu and a button with the same letter take turns.
+      const int letter = AccessKey(static_cast<const QKeyEvent&>(*event));
+      if (letter != 0 && view_.HasAccessKey(letter)) {
+        event->accept();
+        return true;
+      }
+    }
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ApplicationFontChange) {
+      view_.ThemeChanged();
+    }
+    return QWidget::event(event);
+  }
+
+ private:
+  WindowView& view_;
+};
+
+WindowView::WindowView(forms::Window& window, Events& events, std::function<void(forms::Window&)> close)
+    : LayerView(events), window_(window), close_(std::move(close)) {
+  window_.Attach(this);
+  LayerView::Changed();
+}
+
+// The widgets go first, while the views that they report to still stand.
+WindowView::~WindowView() {
+  if (!abandoned_) Abandon();
+  frame_.reset();
+}
+
+void WindowView::Abandon() {
+  for (forms::Control* control : window_.Controls()) {
+    if (control->GetKind() != forms::Kind::kTimer) control->Attach(nullptr);
+  }
+  window_.Attach(nullptr);
+  abandoned_ = true;
+  if (frame_) frame_->hide();
+}
+
+// A pointer is shown at once: it tells of the very handler that is at work.
+void WindowView::Changed() {
+  LayerView::Changed();
+  if (frame_ && pointer_ != window_.MousePointer) ApplyPointer();
+}
+
+void WindowView::Refresh() {
+  if (abandoned_) return;
+  if (!frame_) {
+    if (!window_.Visible) return;
+    Build();
+  }
+  frame_->setWindowTitle(ToQString(window_.Caption));
+  ApplySize();
+  ApplyPlace();
+  ApplyPointer();
+  ApplyColours();
+  if (frame_->isHidden() == window_.Visible) {
+    frame_->setVisible(window_.Visible);
+    if (window_.Visible) {
+      frame_->raise();
+      frame_->activateWindow();
+    }
+  }
+}
+
+void WindowView::Build() {
+  frame_ = std::make_unique<FrameWidget>(*this);
+  frame_->setObjectName(ToQString(window_.Name()));
+  face_ = new QWidget(frame_.get());
+  face_->setAutoFillBackground(true);
+  if (window_.HasMenuBar()) menu_bar_ = std::make_unique<MenuBarView>(window_, *this, *frame_);
+  ApplySize();
+  children_ = std::make_unique<ChildViews>(window_, *this, *face_);
+  needs_arranging_ = true;
+}
+
+QWidget& WindowView::Face() {
+  if (!frame_) {
+    Build();
+    GetEvents().ShowAll();
+  }
+  return *face_;
+}
+
+// Around the client area, which is what the window's size means; the menu bar takes its height above it.
+void WindowView::ApplySize() {
+  const QSize client(ToPixels(window_.ClientWidth()), ToPixels(window_.ClientHeight()));
+  const int above = menu_bar_ ? menu_bar_->Place(client.width()) : 0;
+  const QSize size = client + QSize(0, above);
+  if (frame_->size() == size && face_->size() == client) return;
+  frame_->setFixedSize(size);
+  face_->setGeometry(0, above, client.width(), client.height());
+  if (children_) children_->MarkStale();
+}
+
+// Only when the program moves the window: where a person has put it, it stays.
+void WindowView::ApplyPlace() {
+  const std::pair<double, double> wanted{window_.Left, window_.Top};
+  if (place_ == wanted) return;
+  place_ = wanted;
+  frame_->move(std::max(ToPixels(wanted.first), 0), std::max(ToPixels(wanted.second), 0));
+}
+
+void WindowView::ApplyPointer() {
+  if (pointer_ == window_.MousePointer) return;
+  pointer_ = window_.MousePointer;
+  if (pointer_ == forms::kPointerDefault) {
+    frame_->unsetCursor();
+  } else {
+    frame_->setCursor(PointerOf(pointer_));
+  }
+}
+
+void WindowView::ApplyColours() {
+  const QPalette theme = QApplication::palette();
+  QPalette palette;
+  if (window_.BackColor != forms::kButtonFace) {
+    const QColor ground = ToColor(window_.BackColor, theme);
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::WindowText, TextOn(ground));
+  }
+  if (face_->palette().color(QPalette::Window) == ToColor(window_.BackColor, theme)) return;
+  face_->setPalette(palette);
+  if (children_) children_->Recolour();
+}
+
+// The desktop's own programs change while they are looked at, too.
+void WindowView::ThemeChanged() {
+  if (abandoned_ || !children_) return;
+  Changed();
+  children_->Recolour();
+  if (!GetEvents().AtWork()) GetEvents().Run([] {});
+}
+
+void WindowView::Made(ControlView& view) { views_[view.Widget()] = &view; }
+
+void WindowView::Arrange() {
+  children_->Stack();
+  std::vector<ControlView*> order;
+  children_->AppendInTabOrder(order);
+  for (std::size_t i = 1; i < order.size(); ++i) {
+    QWidget::setTabOrder(order[i - 1]->Widget(), order[i]->Widget());
+  }
+}
+
+void WindowView::WantsToCommit(ControlView& view) {
+  if (std::find(uncommitted_.begin(), uncommitted_.end(), &view) == uncommitted_.end()) {
+    uncommitted_.push_back(&view);
+  }
+}
+
+void WindowView::Commit() {
+  for (ControlView* view : std::exchange(uncommitted_, {})) {
+    if (!abandoned_) view->Commit();
+  }
+}
+
+void WindowView::Settle() {
+  if (abandoned_ || !frame_ || frame_->isHidden()) return;
+  if (std::exchange(needs_arranging_, false)) Arrange();
+  if (std::exchange(focus_is_wanted_, false) || window_.Focus() != focus_shown_) {
+    focus_shown_ = window_.Focus();
+    if (ControlView* view = ViewOf(focus_shown_)) view->Widget()->setFocus(Qt::OtherFocusReason);
+  }
+  if (frame_->focusWidget() == nullptr) FocusOnMainControl();
+  FocusArrived();
+}
+
+// A window that gives the focus to nothing has it on the largest of its controls, which is what it is for.
+void WindowView::FocusOnMainControl() {
+  std::vector<ControlView*> order;
+  children_->AppendInTabOrder(order);
+  const auto area = [](const ControlView* view) { return view->Place().width() * view->Place().height(); };
+  const auto largest =
+      std::max_element(order.begin(), order.end(),
+                       [&](const ControlView* a, const ControlView* b) { return area(a) < area(b); });
+  if (largest != order.end()) (*largest)->Widget()->setFocus(Qt::OtherFocusReason);
+}
+
+ControlView* WindowView::ViewOf(const forms::Control* control) {
+  if (control == nullptr) return nullptr;
+  auto* const view = dynamic_cast<ControlView*>(control->AttachedView());
+  return view != nullptr && view->IsSeen() ? view : nullptr;
+}
+
+ControlView* WindowView::ViewOfFocus() const {
+  for (const QWidget* at = frame_->focusWidget(); at != nullptr; at = at->parentWidget()) {
+    const auto found = views_.find(at);
+    if (found != views_.end()) return found->second;
+  }
+  return nullptr;
+}
+
+void WindowView::FocusArrived() {
+  if (abandoned_ || !frame_ || GetEvents().AtWork()) return;
+  ControlView* const view = ViewOfFocus();
+  if (view == nullptr || &view->Control() == window_.Focus()) return;
+  focus_shown_ = &view->Control();
+  GetEvents().Deliver(window_, [&] { window_.PersonMovesFocus(&view->Control()); });
+}
+
+forms::Control* WindowView::ButtonWith(int letter) const {
+  if (abandoned_) return nullptr;
+  forms::Control* best = nullptr;
+  unsigned best_shown_at = 0;
+  for (forms::Control* control : window_.Controls()) {
+    const auto* const button = dynamic_cast<const forms::Button*>(control);
+    if (button == nullptr || AccessKey(button->Caption) != letter) continue;
+    if (control->RefusesPerson() != forms::Refusal::kNone) continue;
+    const auto* const panel = dynamic_cast<const forms::Control*>(&control->Parent());
+    const unsigned shown_at = panel == nullptr ? 0 : panel->ShownAt();
+    if (best != nullptr && shown_at <= best_shown_at) continue;
+    best = control;
+    best_shown_at = shown_at;
+  }
+  return best;
+}
+
+bool WindowView::PressAccessKey(int letter) {
+  forms::Control* const button = ButtonWith(letter);
+  if (button == nullptr) return false;
+  if (ControlView* view = ViewOf(button)) view->Widget()->setFocus(Qt::ShortcutFocusReason);
+  // Leaving the field that had the focus may have done away with the button.
+  if (abandoned_ || button->RefusesPerson() != forms::Refusal::kNone) return true;
+  GetEvents().Deliver(window_, [button] { button->PersonClicks(); });
+  return true;
+}
+
+void WindowView::CloseAsked() {
+  if (!abandoned_) GetEvents().Run([this] { close_(window_); });
+}
+
+bool WindowView::KeyPressed(int key) {
+  if (abandoned_) return false;
+  if (key == Qt::Key_Escape) {
+    GetEvents().Deliver(window_, [this] { window_.PressCancelOfFrontPanel(); });
+    return true;
+  }
+  if (key == Qt::Key_F10 && menu_bar_) {
+    menu_bar_->OpenFirst();
+    return true;
+  }
+  return false;
+}
+
+}  // namespace lectern::desktop
