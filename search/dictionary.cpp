@@ -6,8 +6,9 @@ namespace {
 
 constexpr int kWords = 1;  // slot
 
-constexpr forms::Colour kShadow = forms::Rgb(198, 198, 198);
-constexpr forms::Design Shadow(const char* caption) { return {.caption = caption, .fore_color = kShadow}; }
+constexpr forms::Design Shadow(const char* caption) {
+  return {.caption = caption, .fore_color = forms::Rgb(198, 198, 194)};
+}
 
 }  // namespace
 

@@ -6,18 +6,18 @@ namespace lectern::ui {
 namespace {
 
 constexpr Place kPlaces[] = {
-    {"frmd", 16, 24, 656, 480},
+    {"frmd", 16, 24, 652, 480},
 
-    {"lstd", 16, 16, 208, 448},
+    {"lstd", 16, 16, 192, 448},
 
-    {"dwd2", 241, 17, 400, 32, Look::kTitle},
-    {"dwd", 240, 16, 400, 32, Look::kTitle},
-    {"ddf2", 241, 57, 400, 152},
-    {"ddf", 240, 56, 400, 152},
-    {"dex2", 241, 225, 400, 192},
-    {"dex", 240, 224, 400, 192},
+    {"dwd2", 225, 17, 412, 32, Look::kTitle},
+    {"dwd", 224, 16, 412, 32, Look::kTitle},
+    {"ddf2", 225, 65, 412, 152, Look::kReading},
+    {"ddf", 224, 64, 412, 152, Look::kReading},
+    {"dex2", 225, 225, 412, 200, Look::kReading},
+    {"dex", 224, 224, 412, 200, Look::kReading},
 
-    {"Command19", 496, 436, 144, 28},
+    {"Command19", 492, 436, 144, 28},
 };
 
 }  // namespace

@@ -6,7 +6,7 @@ namespace lectern::ui {
 namespace {
 
 constexpr Place kPlaces[] = {
-    {"Picture23", 53, 120, 560, 336},
+    {"Picture23", 53, 120, 560, 344},
 
     {"lblsetting(0)", 16, 16, 528, 24, Look::kHeading},
 
@@ -36,8 +36,8 @@ constexpr Place kPlaces[] = {
     {"Picture34", 431, 8, 40, 32},
     {"Picture35", 478, 8, 40, 32},
 
-    {"Command36", 368, 292, 84, 28},
-    {"Command24", 460, 292, 84, 28},
+    {"Command36", 368, 300, 84, 28},
+    {"Command24", 460, 300, 84, 28},
 };
 
 }  // namespace

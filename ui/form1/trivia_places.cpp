@@ -6,16 +6,16 @@ namespace lectern::ui {
 namespace {
 
 constexpr Place kPlaces[] = {
-    {"Picture17", 7, 7, 656, 400},
+    {"Picture17", 7, 7, 656, 304},
 
-    {"lbltrivia", 16, 24, 624, 32, Look::kTitle},
-    {"Label25", 48, 88, 560, 96, Look::kHeading},
-    {"Label26", 48, 200, 560, 96, Look::kHeading},
-    {"List3", 16, 304, 64, 24},
+    {"lbltrivia", 16, 16, 624, 32, Look::kTitle},
+    {"Label25", 16, 72, 624, 64, Look::kHeading},
+    {"Label26", 16, 152, 624, 80, Look::kReading},
+    {"List3", 312, 260, 64, 28},
 
-    {"Command29", 16, 356, 112, 28},
-    {"Command31", 136, 356, 112, 28},
-    {"Command28", 528, 356, 112, 28},
+    {"Command29", 16, 260, 112, 28},
+    {"Command31", 136, 260, 112, 28},
+    {"Command28", 528, 260, 112, 28},
 };
 
 }  // namespace
