@@ -5,7 +5,7 @@ namespace lectern::core {
 Menus::Menus(forms::Window& form)
     : ff(form, "ff", {.caption = "&File"}),
       xb(ff, "xb", {.caption = "&Bookmarker"}),
-      ff1(ff, "ff1", {.caption = "-"}),
+      ff0(ff, "ff0", {.caption = "-"}),
       xx(ff, "xx", {.caption = "E&xit"}),
       cc(form, "cc", {.caption = "C&odex"}),
       cc0(cc, "cc0", {.caption = "&Notes"}),

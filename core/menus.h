@@ -13,7 +13,7 @@ class Menus {
 
   forms::Menu ff;  // File
   forms::Menu xb;
-  forms::Menu ff1;
+  forms::Menu ff0;  // line
   forms::Menu xx;
 
   forms::Menu cc;  // Codex: doors to the panels that leave the tool buttons as they are

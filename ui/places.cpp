@@ -21,6 +21,7 @@ forms::Control* FindByFullName(const forms::Window& window, std::string_view nam
 void Set(forms::TextControl& control, Look look) {
   constexpr double kTitleSize = 18;  // points
   constexpr double kHeadingSize = 12;
+  constexpr double kReadingSize = 11;
   constexpr double kSmallSize = 8;
   const bool right = look == Look::kRight;
   const bool centre = look == Look::kCentre || look == Look::kCentreStrong || look == Look::kCentreSmall;
@@ -29,6 +30,7 @@ void Set(forms::TextControl& control, Look look) {
   }
   if (look == Look::kTitle) control.FontSize = kTitleSize;
   if (look == Look::kHeading) control.FontSize = kHeadingSize;
+  if (look == Look::kReading) control.FontSize = kReadingSize;
   if (look == Look::kSmall || look == Look::kCentreSmall) control.FontSize = kSmallSize;
   if (look == Look::kStrong || look == Look::kHeading || look == Look::kTitle ||
       look == Look::kCentreStrong) {

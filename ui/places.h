@@ -11,7 +11,18 @@
 namespace lectern::ui {
 
 // How a text is set, beyond the window's own font.
-enum class Look { kPlain, kStrong, kHeading, kTitle, kSmall, kRight, kCentre, kCentreStrong, kCentreSmall };
+enum class Look {
+  kPlain,
+  kReading,
+  kStrong,
+  kHeading,
+  kTitle,
+  kSmall,
+  kRight,
+  kCentre,
+  kCentreStrong,
+  kCentreSmall
+};
 
 struct Place {
   std::string_view control;  // "lblc", "LBLMRK(2)"

@@ -59,11 +59,6 @@ double RoundWithin(double number, double lowest, double highest) {
   return whole;
 }
 
-int RoundToInteger(double number) {
-  return static_cast<int>(RoundWithin(number, std::numeric_limits<std::int16_t>::min(),
-                                      std::numeric_limits<std::int16_t>::max()));
-}
-
 }  // namespace
 
 double NumberValue(std::string_view text) {
@@ -91,6 +86,11 @@ std::int32_t ToLong(std::string_view text) { return RoundToLong(ToNumber(text));
 std::int32_t RoundToLong(double number) {
   return static_cast<std::int32_t>(RoundWithin(number, std::numeric_limits<std::int32_t>::min(),
                                                std::numeric_limits<std::int32_t>::max()));
+}
+
+std::int16_t RoundToInteger(double number) {
+  return static_cast<std::int16_t>(RoundWithin(number, std::numeric_limits<std::int16_t>::min(),
+                                               std::numeric_limits<std::int16_t>::max()));
 }
 
 std::string NumberText(double number) {

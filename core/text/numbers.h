@@ -19,6 +19,7 @@ double ToNumber(std::string_view text);
 int ToInteger(std::string_view text);        // 16 bits
 std::int32_t ToLong(std::string_view text);  // 32 bits; also &H… hexadecimal
 std::int32_t RoundToLong(double number);     // error 6 where it does not fit
+std::int16_t RoundToInteger(double number);
 
 // The shortest text that gives the number back: "5", "-3", "8.5".
 std::string NumberText(double number);

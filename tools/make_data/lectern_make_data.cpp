@@ -14,7 +14,10 @@
 #include "core/canon.h"
 #include "tools/make_data/book_files.h"
 #include "tools/make_data/concordance.h"
+#include "tools/make_data/dictionary_file.h"
 #include "tools/make_data/sources.h"
+#include "tools/make_data/topics.h"
+#include "tools/make_data/trivia_file.h"
 
 namespace lectern::make_data {
 
@@ -60,6 +63,10 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   MakeSecondVersion(world_english, folder);
   Progress("Chapter counts …");
   WriteChapterCounts(king_james, folder);
+  Progress("Dictionary …");
+  WriteFile(folder + "/cdxdic.dat", DictionaryRecords(ReadTopics(), king_james));
+  Progress("Questions …");
+  WriteFile(folder + "/codex.trv", TriviaRecords(ParseTrivia(kTriviaText)));
   MakeSettings(folder);
   Progress("Concordance of the first version …");
   MakeConcordance(folder, king_james, WhichVersion::kFirst, concordance_words);

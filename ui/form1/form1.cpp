@@ -11,17 +11,20 @@ Form1::Form1(forms::Services services)
       tools(panels),
       reader(*this, panels),
       second_pane(panels),
-      settings(panels),
+      settings(reader, panels, second_pane, menus, tools),
       error_report(reader),
       chapter_store(reader),
       catalogue(reader),
       navigation(reader, panels, catalogue),
+      stories(reader, menus),
       text_search(reader, panels, tools, menus),
       result_navigation(reader, panels, text_search),
       concordance_viewer(reader, panels, tools, menus, text_search),
       concordance_editing(reader, panels, error_report, text_search, result_navigation, concordance_viewer),
       concordance_builder(reader, panels, text_search),
       one_pass_builder(reader, panels, text_search, concordance_builder),
+      dictionary(reader, panels, tools, menus, error_report),
+      trivia(reader, panels, tools, menus, error_report),
       bookmarks(panels),
       page_printing(panels),
       maintenance(panels),
@@ -29,6 +32,8 @@ Form1::Form1(forms::Services services)
                {maintenance.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
                 concordance_builder.Text2, settings.Combo1, settings.Combo2, settings.Combo3}),
       exits(reader, menus, tools, {settings.Combo1, settings.Combo2, settings.Combo3}) {
+  start_up.ReadSettings = [this] { settings.ReadSettings(); };
+  settings.PointAtSearchButton = [this](int pointer) { text_search.Command22.MousePointer = pointer; };
   for (const std::span<const Place> table : kForm1Places) Apply(table, *this);
 }
 

@@ -15,14 +15,17 @@
 #include "core/second_pane.h"
 #include "core/settings.h"
 #include "core/start_up.h"
+#include "core/stories.h"
 #include "core/tool_buttons.h"
 #include "gallery/maintenance.h"
 #include "search/concordance_builder.h"
 #include "search/concordance_editing.h"
 #include "search/concordance_viewer.h"
+#include "search/dictionary.h"
 #include "search/one_pass_builder.h"
 #include "search/result_navigation.h"
 #include "search/text_search.h"
+#include "search/trivia.h"
 
 namespace lectern::ui {
 
@@ -44,12 +47,15 @@ class Form1 : public forms::Window {
   core::ChapterStore chapter_store;
   core::Catalogue catalogue;
   core::Navigation navigation;
+  core::Stories stories;
   search::TextSearch text_search;
   search::ResultNavigation result_navigation;
   search::ConcordanceViewer concordance_viewer;
   search::ConcordanceEditing concordance_editing;
   search::ConcordanceBuilder concordance_builder;
   search::OnePassBuilder one_pass_builder;
+  search::Dictionary dictionary;
+  search::Trivia trivia;
   aids::Bookmarks bookmarks;
   aids::PagePrinting page_printing;
   gallery::Maintenance maintenance;

@@ -13,7 +13,13 @@ extern const std::span<const Place> kReaderPlaces;
 extern const std::span<const Place> kSearchPlaces;
 extern const std::span<const Place> kConcordancePlaces;
 extern const std::span<const Place> kStoragePlaces;
+extern const std::span<const Place> kSettingsPlaces;
+extern const std::span<const Place> kDictionaryPlaces;
+extern const std::span<const Place> kTriviaPlaces;
 
-inline const std::array kForm1Places = {kReaderPlaces, kSearchPlaces, kConcordancePlaces, kStoragePlaces};
+inline const std::array kForm1Places = {
+    kReaderPlaces,   kSearchPlaces,     kConcordancePlaces, kStoragePlaces,
+    kSettingsPlaces, kDictionaryPlaces, kTriviaPlaces,
+};
 
 }  // namespace lectern::ui

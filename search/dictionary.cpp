@@ -1,0 +1,108 @@
+#include "search/dictionary.h"
+
+namespace lectern::search {
+
+namespace {
+
+constexpr int kWords = 1;  // slot
+
+constexpr forms::Design Shadow(const char* caption) {
+  return {.caption = caption, .fore_color = forms::Rgb(198, 198, 194)};
+}
+
+}  // namespace
+
+Dictionary::Dictionary(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
+                       core::Menus& menus, core::ErrorReport& the_error_report)
+    : reader(the_reader),
+      panels(the_panels),
+      tools(the_tools),
+      error_report(the_error_report),
+      lstd(panels.frmd, "lstd", {.name = "Words of the dictionary"}),
+      dwd2(panels.frmd, "dwd2", Shadow("Word")),
+      ddf2(panels.frmd, "ddf2", Shadow("Definition")),
+      dex2(panels.frmd, "dex2", Shadow("used in a verce")),
+      dwd(panels.frmd, "dwd", {.caption = "Word"}),
+      ddf(panels.frmd, "ddf", {.caption = "Definition"}),
+      dex(panels.frmd, "dex", {.caption = "used in a verce"}),  // ODDITY(kept-spelling)
+      Command19(panels.frmd, "Command19", {.caption = "Close Dictionary", .is_cancel = true}) {
+  tools.Command17.Click = [this] { Command17_Click(); };
+  menus.cc2.Click = [this] { cc2_Click(); };
+  lstd.MouseDown = [this](const forms::MouseEvent&) { lstd_MouseDown(); };
+  lstd.Click = [this] { lstd_Click(); };
+  dwd.Change = [this] { dwd2.Caption = dwd.Caption; };
+  ddf.Change = [this] { ddf2.Caption = ddf.Caption; };
+  dex.Change = [this] { dex2.Caption = dex.Caption; };
+  Command19.Click = [this] { Command19_Click(); };
+}
+
+std::string Dictionary::DataFile() const { return reader.Dir1.Path + "\\cdxdic.dat"; }
+
+// ODDITY(dictionary-grows): the list is not cleared first, so that each opening adds all words once more; it
+// is meant.
+bool Dictionary::LoadWords() {
+  files::FileSlots& slots = reader.form.Slots();
+  try {
+    slots.OpenForReading(kWords, DataFile());
+    while (!slots.EndOfFile(kWords)) {
+      const std::string word(slots.ReadField(kWords));
+      for (int rest = 0; rest < 3; ++rest) slots.ReadField(kWords);
+      lstd.AddItem(word);
+    }
+    slots.Close(kWords);
+    return true;
+  } catch (const core::RunTimeError& error) {
+    slots.Close(kWords);
+    error_report.ReportError(error);
+    return false;
+  }
+}
+
+// Whether the panel is open now: it stays closed where the words cannot be read.
+bool Dictionary::Open() {
+  const bool loaded = LoadWords();
+  if (loaded) panels.frmd.Visible = true;
+  tools.Command17.MousePointer = forms::kPointerDefault;
+  return loaded;
+}
+
+void Dictionary::Command17_Click() {
+  panels.picp.Visible = false;
+  if (Open()) tools.Disable();
+}
+
+void Dictionary::cc2_Click() { Open(); }
+
+// ODDITY(dictionary-hourglass): the pointer comes back with the click alone, so that a press that becomes
+// none leaves it; it is meant.
+void Dictionary::lstd_MouseDown() { lstd.MousePointer = forms::kPointerHourglass; }
+
+void Dictionary::lstd_Click() {
+  for (int i = 0; i < lstd.ListCount(); ++i) {
+    if (!lstd.Selected(i)) continue;
+    dwd.Caption = lstd.List(i);
+    break;
+  }
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForReading(kWords, DataFile());
+  bool found = false;
+  while (!found && !slots.EndOfFile(kWords)) {
+    const std::string word(slots.ReadField(kWords));
+    const std::string definition(slots.ReadField(kWords));
+    const std::string verse(slots.ReadField(kWords));
+    const std::string place(slots.ReadField(kWords));
+    if (dwd.Caption != word) continue;
+    ddf.Caption = definition;
+    dex.Caption = verse + " :  " + place;
+    found = true;
+  }
+  slots.Close(kWords);
+  lstd.MousePointer = forms::kPointerDefault;
+}
+
+void Dictionary::Command19_Click() {
+  panels.frmd.Visible = false;
+  tools.Enable();
+}
+
+}  // namespace lectern::search

@@ -1,0 +1,49 @@
+// The dictionary: a list of words, each with a definition and a verse that uses it, read from `cdxdic.dat`.
+// A click on a word shows its entry; the verse is text only, and nothing leads from it into the reader.
+//
+// The file is read again for every opening and every click. Of two records of one word the first is shown.
+#pragma once
+
+#include "core/error_report.h"
+#include "core/forms/label.h"
+#include "core/menus.h"
+#include "core/reader.h"
+#include "core/tool_buttons.h"
+
+namespace lectern::search {
+
+class Dictionary {
+ public:
+  Dictionary(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
+             core::Menus& menus, core::ErrorReport& the_error_report);
+
+ private:
+  void Command17_Click();
+  void cc2_Click();
+  void lstd_MouseDown();
+  void lstd_Click();
+  void Command19_Click();
+
+  bool Open();
+  bool LoadWords();
+  std::string DataFile() const;
+
+  core::Reader& reader;
+  core::Panels& panels;
+  core::ToolButtons& tools;
+  core::ErrorReport& error_report;
+
+  forms::ListBox lstd;  // the words, in file order
+
+  // Each text stands twice, the second one below and a little aside, as the shadow of the first.
+  forms::Label dwd2;
+  forms::Label ddf2;
+  forms::Label dex2;
+  forms::Label dwd;  // the word that was chosen
+  forms::Label ddf;  // its definition
+  forms::Label dex;  // a verse that uses it, and where that stands
+
+  forms::CommandButton Command19;
+};
+
+}  // namespace lectern::search

@@ -1,0 +1,57 @@
+// The question game: a random question from `codex.trv`, and its answer when it is asked for. There is no
+// score and no end; a history of about a hundred numbers keeps a question from coming back soon.
+//
+// The file is read anew at each press. The numbers of questions count from 1.
+#pragma once
+
+#include <cstdint>
+
+#include "core/error_report.h"
+#include "core/forms/label.h"
+#include "core/menus.h"
+#include "core/reader.h"
+#include "core/tool_buttons.h"
+
+namespace lectern::search {
+
+class Trivia {
+ public:
+  Trivia(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools, core::Menus& menus,
+         core::ErrorReport& the_error_report);
+
+ private:
+  // What a question and its answer are read into.
+  struct Record {
+    std::string question;
+    std::string answer;
+  };
+
+  void Command2_Click();
+  void cc4_Click();
+  void Command29_Click();
+  void Command31_Click();
+  void Command28_Click();
+
+  void AskQuestion();
+  std::int16_t Draw(int records);
+  void KeepFromRepeating(int records);
+  void ReadRecord(Record& record);
+  std::string DataFile() const;
+
+  core::Reader& reader;
+  core::Panels& panels;
+  core::ToolButtons& tools;
+  core::ErrorReport& error_report;
+
+  forms::Label lbltrivia;  // heading
+  forms::Label Label25;    // the question, which is the key to its answer
+  forms::Label Label26;    // the answer
+  forms::ListBox List3;    // numbers of the questions asked, the oldest first
+  forms::CommandButton Command29;
+  forms::CommandButton Command31;
+  forms::CommandButton Command28;
+
+  std::int16_t QuestionNumber = 0;
+};
+
+}  // namespace lectern::search

@@ -1,0 +1,149 @@
+#include "tools/make_data/topics.h"
+
+#include <algorithm>
+#include <charconv>
+#include <map>
+
+#include "core/files/record_reader.h"
+#include "tools/make_data/markup.h"
+#include "tools/make_data/sources.h"
+#include "tools/make_data/verses.h"
+
+namespace lectern::make_data {
+
+namespace {
+
+constexpr std::string_view kHeadingMark = "$$$";
+
+// "Exod.6.16", "Num.17".
+struct Point {
+  int book = -1;
+  int chapter = 0;
+  int verse = 0;
+};
+
+Point ParsePoint(std::string_view id) {
+  Point point;
+  const std::size_t first = std::min(id.find('.'), id.size());
+  point.book = BookPosition(std::string(id.substr(0, first)));
+  const char* const end = id.data() + id.size();
+  if (first == id.size()) return point;
+  const auto [after, failure] = std::from_chars(id.data() + first + 1, end, point.chapter);
+  if (failure == std::errc{} && after != end && *after == '.') std::from_chars(after + 1, end, point.verse);
+  return point;
+}
+
+// The value behind `start` up to the next quote; empty where the tag does not begin so.
+std::string_view ValueOf(std::string_view tag, std::string_view start) {
+  if (!tag.starts_with(start)) return {};
+  const std::string_view value = tag.substr(start.size());
+  return value.substr(0, value.find('"'));
+}
+
+// The text of one topic taken apart: a tag at a time.
+class ItemReader {
+ public:
+  std::vector<Item> Read(std::string_view markup) {
+    while (!markup.empty()) {
+      const std::size_t open = std::min(markup.find('<'), markup.size());
+      if (!inside_passage_ && !behind_passage_) words_.append(markup.substr(0, open));
+      markup.remove_prefix(open);
+      const std::size_t close = markup.find('>');
+      if (close == std::string_view::npos) break;
+      TakeTag(markup.substr(1, close - 1));
+      markup.remove_prefix(close + 1);
+    }
+    Finish();
+    return std::move(items_);
+  }
+
+ private:
+  void TakeTag(std::string_view tag) {
+    if (tag.starts_with("lb") || tag == "item" || tag == "/item" || tag == "list" || tag == "/list") {
+      Finish();
+      item_.nested = tag == "item";
+    } else if (const std::string_view id = ValueOf(tag, "ref osisRef=\""); !id.empty()) {
+      TakePassage(id);
+      inside_passage_ = true;
+    } else if (const std::string_view target = ValueOf(tag, "ref target=\"Nave:"); !target.empty()) {
+      item_.see.emplace_back(target);
+    } else if (tag == "/ref" && inside_passage_) {
+      inside_passage_ = false;
+      // What follows is punctuation, and verses that the source forgot to mark.
+      behind_passage_ = true;
+    }
+  }
+
+  void TakePassage(std::string_view id) {
+    const std::size_t dash = std::min(id.find('-'), id.size());
+    const Point first = ParsePoint(id.substr(0, dash));
+    const Point last = dash == id.size() ? first : ParsePoint(id.substr(dash + 1));
+    if (first.book < 0 || first.book != last.book) return;
+    item_.passages.push_back({first.book, first.chapter, first.verse, last.chapter, last.verse});
+  }
+
+  void Finish() {
+    item_.words = PlainWords(words_);
+    constexpr std::string_view kArrow = "→";
+    if (item_.words.starts_with(kArrow)) item_.words.erase(0, kArrow.size() + 1);
+    // Now and then one item holds two, the second behind a dash.
+    constexpr std::string_view kDash = " -";
+    for (std::size_t at = item_.words.find(kDash); at != std::string::npos; at = item_.words.find(kDash)) {
+      items_.push_back({item_.nested, item_.words.substr(0, at), {}, {}});
+      item_.words.erase(0, at + kDash.size());
+    }
+    if (!item_.words.empty() || !item_.passages.empty()) items_.push_back(std::move(item_));
+    item_ = {};
+    words_.clear();
+    behind_passage_ = false;
+  }
+
+  std::vector<Item> items_;
+  Item item_;
+  std::string words_;
+  bool inside_passage_ = false;
+  bool behind_passage_ = false;
+};
+
+}  // namespace
+
+std::vector<Topic> ParseTopics(std::string_view module_text) {
+  std::vector<Topic> topics;
+  std::map<std::string, std::size_t> positions;
+  std::string heading;
+  std::string markup;
+  const auto put = [&] {
+    std::vector<Item> items = ItemReader().Read(markup);
+    markup.clear();
+    if (items.empty()) return;
+    const auto [found, fresh] = positions.emplace(heading, topics.size());
+    if (fresh) topics.push_back({heading, {}});
+    std::vector<Item>& all = topics[found->second].items;
+    all.insert(all.end(), std::make_move_iterator(items.begin()), std::make_move_iterator(items.end()));
+  };
+  files::RecordReader lines(module_text);
+  while (!lines.AtEnd()) {
+    const std::string_view line = lines.Line();
+    if (line.starts_with(kHeadingMark)) {
+      put();
+      heading = line.substr(kHeadingMark.size());
+    } else {
+      markup.append(line).append(1, ' ');
+    }
+  }
+  put();
+  return topics;
+}
+
+std::vector<Topic> ReadTopics() {
+  constexpr std::size_t kTopics = 5000;
+  std::vector<Topic> topics =
+      ParseTopics(OutputOf("mod2imp Nave </dev/null", "mod2imp", "libsword-utils sword-dict-naves"));
+  if (topics.size() < kTopics) {
+    throw Obstacle("The dictionary's source gives " + std::to_string(topics.size()) + " topics, where " +
+                   std::to_string(kTopics) + " and more are wanted.");
+  }
+  return topics;
+}
+
+}  // namespace lectern::make_data
