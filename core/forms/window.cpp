@@ -10,6 +10,7 @@ namespace lectern::forms {
 
 Window::Window(Services services, std::string name, std::string_view caption)
     : Caption(*this, "Caption", std::string(caption)),
+      Title(*this, "Title"),
       Visible(*this, "Visible", false,
               {.change =
                    [this] {
@@ -67,6 +68,10 @@ void Window::PersonMovesFocus(PlacedControl* control) {
 void Window::GiveFocus(PlacedControl& control) {
   PersonMovesFocus(&control);
   if (View* view = control.AttachedView()) view->TakeFocus();
+}
+
+void Window::BringToFront() const {
+  if (View* view = AttachedView()) view->TakeFocus();
 }
 
 bool Window::PressButtonIn(const Container& panel, const std::function<bool(const Control*)>& meant) {
