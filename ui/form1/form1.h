@@ -3,6 +3,7 @@
 #pragma once
 
 #include "aids/bookmarks.h"
+#include "aids/help.h"
 #include "aids/page_printing.h"
 #include "core/catalogue.h"
 #include "core/chapter_store.h"
@@ -52,6 +53,7 @@ class Form1 : public forms::Window {
   search::OnePassBuilder one_pass_builder;
   aids::Bookmarks bookmarks;
   aids::PagePrinting page_printing;
+  aids::Help help;
   gallery::Maintenance maintenance;
   core::StartUp start_up;
   core::Exits exits;

@@ -12,8 +12,11 @@ namespace lectern::ui {
 extern const std::span<const Place> kReaderPlaces;
 extern const std::span<const Place> kSearchPlaces;
 extern const std::span<const Place> kConcordancePlaces;
+extern const std::span<const Place> kBookmarkPlaces;
+extern const std::span<const Place> kHelpPlaces;
 extern const std::span<const Place> kStoragePlaces;
 
-inline const std::array kForm1Places = {kReaderPlaces, kSearchPlaces, kConcordancePlaces, kStoragePlaces};
+inline const std::array kForm1Places = {kReaderPlaces,   kSearchPlaces, kConcordancePlaces,
+                                        kBookmarkPlaces, kHelpPlaces,   kStoragePlaces};
 
 }  // namespace lectern::ui
