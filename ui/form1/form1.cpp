@@ -4,7 +4,7 @@
 
 namespace lectern::ui {
 
-Form1::Form1(forms::Services services)
+Form1::Form1(forms::Services services, const OtherWindows& others)
     : Window(services, "Form1", core::kProgramName),
       menus(*this),
       panels(*this),
@@ -23,7 +23,8 @@ Form1::Form1(forms::Services services)
       concordance_builder(reader, panels, text_search),
       one_pass_builder(reader, panels, text_search, concordance_builder),
       bookmarks(reader, panels, tools, menus),
-      page_printing(panels),
+      page_printing(reader, panels, others.Form2),
+      notes_doors(panels, tools, menus, others.notes),
       help(reader, panels, tools, menus),
       maintenance(panels),
       start_up(reader, panels, catalogue,
