@@ -14,6 +14,7 @@
 #include "core/canon.h"
 #include "tools/make_data/book_files.h"
 #include "tools/make_data/concordance.h"
+#include "tools/make_data/help_topics.h"
 #include "tools/make_data/sources.h"
 
 namespace lectern::make_data {
@@ -60,6 +61,8 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   MakeSecondVersion(world_english, folder);
   Progress("Chapter counts …");
   WriteChapterCounts(king_james, folder);
+  Progress("Help …");
+  WriteHelpTopics(folder);
   MakeSettings(folder);
   Progress("Concordance of the first version …");
   MakeConcordance(folder, king_james, WhichVersion::kFirst, concordance_words);
