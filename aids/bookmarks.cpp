@@ -1,5 +1,9 @@
 #include "aids/bookmarks.h"
 
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
 #include "aids/asked_name.h"
 #include "core/error_modes.h"
 #include "core/text/numbers.h"
@@ -9,6 +13,31 @@ namespace lectern::aids {
 namespace {
 
 constexpr int kBookmark = 1;  // slot
+
+// What shows that the strip is for sweeping: a row of arrow heads that grow darker to the right.
+forms::Picture Arrows() {
+  constexpr int kWidth = 190;  // pixels
+  constexpr int kHeight = 44;
+  constexpr int kHeads = 6;
+  constexpr double kBetween = 28;
+  constexpr double kFirst = 22;
+  constexpr double kHalf = 8;
+  constexpr double kPen = 1.3;
+  constexpr int kDarkest = 110;
+  forms::Bitmap strip(kWidth, kHeight);
+  for (int y = 0; y < kHeight; ++y) {
+    const double down = std::abs(y - (kHeight - 1) / 2.0);
+    for (int x = 0; x < kWidth && down <= kHalf; ++x) {
+      for (int head = 0; head < kHeads; ++head) {
+        const double away = std::abs(x - (kFirst + kBetween * head + kHalf - down));
+        const double ink = std::clamp(kPen + 0.5 - away, 0.0, 1.0) * (head + 2) / (kHeads + 1);
+        const auto grey = static_cast<forms::Pixel>(std::lround(255 - kDarkest * ink));
+        if (ink > 0) strip.Set(x, y, forms::kOpaque | grey << 16 | grey << 8 | grey);
+      }
+    }
+  }
+  return forms::Picture(std::move(strip));
+}
 
 }  // namespace
 
@@ -27,6 +56,7 @@ Bookmarks::Bookmarks(core::Reader& the_reader, core::Panels& the_panels, core::T
       tools(the_tools) {
   Label19_3.PutInArray(3);
   C_4.PutInArray(4);
+  panels.Picture2.Picture = Arrows();
   tools.Command3.Click = [this] { Command3_Click(); };
   menus.xb.Click = [this] { xb_Click(); };
   File1.Click = [this] { File1_Click(); };

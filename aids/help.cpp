@@ -13,6 +13,8 @@ namespace {
 constexpr std::array kTopicFiles = {"bookmark.txt",    "search.txt",     "notes.txt",  "pictures.txt",
                                     "concordance.txt", "dictionary.txt", "trivia.txt", "paint.txt"};
 
+constexpr forms::Colour kLink = forms::Rgb(28, 84, 150);
+
 constexpr std::string_view kDefaultHost = "www.example.org";
 
 }  // namespace
@@ -21,14 +23,14 @@ Help::Help(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons
            core::Menus& menus)
     : Label19_4(the_panels.frmhelp, "Label19", {.caption = "HELP"}),
       lblhp(the_panels.frmhelp, "lblhp",
-            {{.caption = "Book Mark"},
-             {.caption = "Search"},
-             {.caption = "Notes"},
-             {.caption = "Pictures"},
-             {.caption = "Concordance"},
-             {.caption = "Dictionary"},
-             {.caption = "Trivia"},
-             {.caption = "Paint"}}),
+            {{.caption = "Book Mark", .fore_color = kLink},
+             {.caption = "Search", .fore_color = kLink},
+             {.caption = "Notes", .fore_color = kLink},
+             {.caption = "Pictures", .fore_color = kLink},
+             {.caption = "Concordance", .fore_color = kLink},
+             {.caption = "Dictionary", .fore_color = kLink},
+             {.caption = "Trivia", .fore_color = kLink},
+             {.caption = "Paint", .fore_color = kLink}}),
       txthelp(the_panels.frmhelp, "txthelp", {.read_only = true, .name = "Help text"}),
       Command4(the_panels.frmhelp, "Command4", {.caption = "Close", .is_cancel = true}),
       Command44(the_panels.frmhelp, "Command44",

@@ -21,8 +21,8 @@ forms::Picture RuledPaper() {
   constexpr int kWidth = 423;  // pixels
   constexpr int kHeight = 554;
   constexpr int kBetweenRules = 24;
-  constexpr forms::Pixel kPaper = 0xFFFBF8EF;
-  constexpr forms::Pixel kRule = 0xFFE6EAF0;
+  constexpr forms::Pixel kPaper = forms::kOpaque | 0xEFF8FB;
+  constexpr forms::Pixel kRule = forms::kOpaque | 0xF0E8E2;
   forms::Bitmap paper(kWidth, kHeight, kPaper);
   for (int y = kBetweenRules - 1; y < kHeight; y += kBetweenRules) {
     std::fill_n(paper.Row(y), kWidth, kRule);
