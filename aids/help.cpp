@@ -99,6 +99,11 @@ bool Help::OpenWebPage(const std::string& address) {
   return reader.form.Platform().OpenInBrowser(has_scheme ? address : "http://" + std::string(kDefaultHost));
 }
 
+void Help::ShowNote(const std::string& text) {
+  panels.frmhelp.Visible = true;
+  txthelp.Text = text;
+}
+
 void Help::HelpChangingBook() { txthelp.Text = std::string(StoredNoteText("HelpChangingBook")); }
 
 }  // namespace lectern::aids

@@ -24,7 +24,10 @@ class Help {
   // is replaced as a whole.
   bool OpenWebPage(const std::string& address);
 
-  // The stored note on changing the book, in the pane.
+  // A note of another feature: the panel opens with that text in the pane.
+  void ShowNote(const std::string& text);
+
+  // The stored note on changing the book, in the pane, whether or not the panel is open.
   void HelpChangingBook();
 
   forms::Label Label19_4;  // Label19(4), the heading

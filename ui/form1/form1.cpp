@@ -31,6 +31,7 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
                {maintenance.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
                 concordance_builder.Text2, settings.Combo1, settings.Combo2, settings.Combo3}),
       exits(reader, menus, tools, {settings.Combo1, settings.Combo2, settings.Combo3}) {
+  text_search.ShowHelpNote = [this](const std::string& text) { help.ShowNote(text); };
   for (const std::span<const Place> table : kForm1Places) Apply(table, *this);
 }
 
