@@ -90,12 +90,11 @@ void Window::PressCancelOfFrontPanel() {
   }
   std::stable_sort(panels.begin(), panels.end(),
                    [](const Control* a, const Control* b) { return a->ShownAt() > b->ShownAt(); });
+  const auto cancels = [](const Control* button) { return button->IsCancelButton(); };
   for (Control* panel : panels) {
-    if (PressButtonIn(dynamic_cast<Container&>(*panel),
-                      [](const Control* button) { return button->IsCancelButton(); })) {
-      return;
-    }
+    if (PressButtonIn(dynamic_cast<Container&>(*panel), cancels)) return;
   }
+  PressButtonIn(*this, cancels);
 }
 
 }  // namespace lectern::forms

@@ -66,6 +66,7 @@ class Window : public PropertyOwner, public Container {
 
   // Presses the first button of a panel that is meant, can be seen and is enabled; whether there was one.
   bool PressButtonIn(const Container& panel, const std::function<bool(const Control*)>& meant);
+  // The cancel button of the panel that lies in front, or the window's own where no panel has one.
   void PressCancelOfFrontPanel();
 
   Window& HostWindow() override { return *this; }
