@@ -66,8 +66,8 @@ Notes::Notes(forms::Window& window)
   lblname.Change = [this] { lblname_Change(); };
   lblc.Change = [this] { ShowTitle(); };
   txthelp.Change = [this] { lblc.Caption = std::string(kAltered); };
-  Command1.Click = [this] { picopen.Visible = true; };
-  f2.Click = [this] { picopen.Visible = true; };
+  Command1.Click = [this] { ShowChooser(); };
+  f2.Click = [this] { ShowChooser(); };
   Command13.Click = [this] { SaveNoteFile(); };
   f3.Click = [this] { SaveNoteFile(); };
   f4.Click = [this] { f4_Click(); };
@@ -79,7 +79,7 @@ Notes::Notes(forms::Window& window)
   Dir1.Change = [this] { File1.Path = Dir1.Path; };
   File1.Click = [this] { File1_Click(); };
   Command2.Click = [this] { Command2_Click(); };
-  Command3.Click = [this] { picopen.Visible = false; };
+  Command3.Click = [this] { HideChooser(); };
 }
 
 void Notes::Form_Load() {
@@ -94,10 +94,20 @@ void Notes::Form_Load() {
 void Notes::Open() {
   if (lblname.Caption == kNoNote) {
     form.Platform().Message("Open file to add to, or create new file");
-    picopen.Visible = true;
+    ShowChooser();
   }
   form.Visible = true;
   form.BringToFront();
+}
+
+void Notes::ShowChooser() {
+  picopen.Visible = true;
+  File1.SetFocus();
+}
+
+void Notes::HideChooser() {
+  picopen.Visible = false;
+  txthelp.SetFocus();
 }
 
 // ODDITY(notes-folder-now): a note is written to the folder that the chooser shows now, not to the one that
@@ -122,7 +132,7 @@ void Notes::File1_Click() {
     lblname.Caption = "";
     lblname.Caption = std::string(text::Left(entry, text::Length(entry) - kEnding));
   }
-  picopen.Visible = false;
+  HideChooser();
 }
 
 // The load marks the text as altered, and the mark is taken away behind it.
@@ -142,7 +152,7 @@ void Notes::Command2_Click() {
   AppendText(name);
   lblname.Caption = name;
   File1.Refresh();
-  picopen.Visible = false;
+  HideChooser();
 }
 
 void Notes::SaveNoteFile() {
@@ -174,7 +184,7 @@ void Notes::f4_Click() {
   // ODDITY(deleted-note-stays): the note's name and text stay in the editor; saving it then fails, as there
   // is no file to replace. It is meant.
   form.Files().DeleteKeepingBackup(PathOf(lblname.Caption));
-  picopen.Visible = true;
+  ShowChooser();
   File1.Refresh();
 }
 

@@ -71,6 +71,8 @@ class Notes {
 
   std::string PathOf(const std::string& name) const;
   void AppendText(const std::string& name);
+  void ShowChooser();
+  void HideChooser();
   void ShowTitle();
 };
 
