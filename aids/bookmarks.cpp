@@ -1,8 +1,169 @@
 #include "aids/bookmarks.h"
 
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "aids/asked_name.h"
+#include "core/error_modes.h"
+#include "core/text/numbers.h"
+
 namespace lectern::aids {
 
-Bookmarks::Bookmarks(core::Panels& panels)
-    : File1(panels.Picture1, "File1", {.pattern = "*.bkm", .name = "Bookmarks"}) {}
+namespace {
+
+constexpr int kBookmark = 1;  // slot
+
+// What shows that the strip is for sweeping: a row of arrow heads that grow darker to the right.
+forms::Picture Arrows() {
+  constexpr int kWidth = 190;  // pixels
+  constexpr int kHeight = 44;
+  constexpr int kHeads = 6;
+  constexpr double kBetween = 28;
+  constexpr double kFirst = 22;
+  constexpr double kHalf = 8;
+  constexpr double kPen = 1.3;
+  constexpr int kDarkest = 110;
+  forms::Bitmap strip(kWidth, kHeight);
+  for (int y = 0; y < kHeight; ++y) {
+    const double down = std::abs(y - (kHeight - 1) / 2.0);
+    for (int x = 0; x < kWidth && down <= kHalf; ++x) {
+      for (int head = 0; head < kHeads; ++head) {
+        const double away = std::abs(x - (kFirst + kBetween * head + kHalf - down));
+        const double ink = std::clamp(kPen + 0.5 - away, 0.0, 1.0) * (head + 2) / (kHeads + 1);
+        const auto grey = static_cast<forms::Pixel>(std::lround(255 - kDarkest * ink));
+        if (ink > 0) strip.Set(x, y, forms::kOpaque | grey << 16 | grey << 8 | grey);
+      }
+    }
+  }
+  return forms::Picture(std::move(strip));
+}
+
+}  // namespace
+
+Bookmarks::Bookmarks(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
+                     core::Menus& menus)
+    : Label19_3(the_panels.Picture1, "Label19", {.caption = "BOOK MARKER"}),
+      C_4(the_panels.Picture1, "C", {.caption = "Chapter"}),
+      File1(the_panels.Picture1, "File1", {.pattern = "*.bkm", .name = "Bookmarks"}),
+      Command5(the_panels.Picture1, "Command5", {.caption = "Open", .is_default = true}),
+      Command6(the_panels.Picture1, "Command6", {.caption = "Update"}),
+      Command10(the_panels.Picture1, "Command10", {.caption = "New"}),
+      Command11(the_panels.Picture1, "Command11", {.caption = "Delete"}),
+      Command7(the_panels.Picture1, "Command7", {.caption = "Close", .is_cancel = true}),
+      reader(the_reader),
+      panels(the_panels),
+      tools(the_tools) {
+  Label19_3.PutInArray(3);
+  C_4.PutInArray(4);
+  panels.Picture2.Picture = Arrows();
+  tools.Command3.Click = [this] { Command3_Click(); };
+  menus.xb.Click = [this] { xb_Click(); };
+  File1.Click = [this] { File1_Click(); };
+  Command5.Click = [this] { Command5_Click(); };
+  Command6.Click = [this] { Command6_Click(); };
+  Command7.Click = [this] { Command7_Click(); };
+  Command10.Click = [this] { Command10_Click(); };
+  Command11.Click = [this] { Command11_Click(); };
+  panels.Picture2.MouseMove = [this](const forms::MouseEvent&) { Picture2_MouseMove(); };
+}
+
+void Bookmarks::Command3_Click() {
+  panels.picp.Visible = false;
+  xb_Click();
+  tools.Disable();
+}
+
+// ODDITY(bookmark-doors): the menu's door leaves the picture open and the tool buttons enabled, the tool
+// button's own does not; it is meant.
+void Bookmarks::xb_Click() {
+  panels.Picture1.Visible = true;
+  reader.LBLMRK(1).Caption = reader.lblbook.Caption;
+  reader.LBLMRK(2).Caption = reader.lblc.Caption;
+}
+
+void Bookmarks::File1_Click() {
+  const int selected = File1.SelectedIndex();
+  if (selected < 0) return;
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForReading(kBookmark, reader.Dir1.Path + "\\" + File1.List(selected));
+  const std::string name(slots.ReadField(kBookmark));
+  const std::string book(slots.ReadField(kBookmark));
+  const std::string chapter(slots.ReadField(kBookmark));
+  slots.Close(kBookmark);
+  reader.LBLMRK(0).Caption = name;
+  reader.LBLMRK(1).Caption = book;
+  reader.LBLMRK(2).Caption = chapter;
+}
+
+std::string Bookmarks::PathOf(const std::string& name) const {
+  return reader.Dir1.Path + "\\" + name + ".bkm";
+}
+
+// Writes the reader's place behind whatever the bookmark's file holds.
+void Bookmarks::AppendPlace(const std::string& name) {
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForAppending(kBookmark, PathOf(name));
+  slots.WriteRecord(kBookmark, name, reader.lblbk.Caption(), reader.lblc.Caption());
+  slots.Close(kBookmark);
+}
+
+void Bookmarks::Command10_Click() {
+  const std::string name = AskForName(reader.form.Platform(), "Enter a name for bookmark", "Enter Name");
+  if (name.empty()) return;
+  // ODDITY(new-keeps-place): under a name that exists the record goes behind the one that is there, which
+  // alone is ever read, so that the old place stays in force; it is meant. Update replaces a place.
+  AppendPlace(name);
+  File1.Refresh();
+  reader.LBLMRK(0).Caption = name;
+  reader.LBLMRK(1).Caption = reader.lblbk.Caption;
+  reader.LBLMRK(2).Caption = reader.lblc.Caption;
+}
+
+// ODDITY(update-by-label): the file is the one that the label names. With no bookmark in hand that is
+// `.bkm`; after a Delete it comes back; where a file's first field is not its name, another file is
+// written. The labels stay. It is meant.
+void Bookmarks::Command6_Click() {
+  const core::Ignoring ignore;
+  const std::string& name = reader.LBLMRK(0).Caption;
+  ignore([&] { reader.form.Files().DeleteKeepingBackup(PathOf(name)); });
+  ignore([&] { AppendPlace(name); });
+  ignore([&] { File1.Refresh(); });
+}
+
+void Bookmarks::Command11_Click() {
+  if (const int selected = File1.SelectedIndex(); selected >= 0) {
+    reader.form.Files().DeleteKeepingBackup(reader.Dir1.Path + "\\" + File1.List(selected));
+  }
+  File1.Refresh();
+}
+
+// The empty writes make each later one a change. The book's name, written while the chapter stands, sends
+// the chapter bar to 1 and loads that; the last write shows the chapter that is wanted.
+void Bookmarks::Command5_Click() {
+  const std::string chapter = reader.LBLMRK(2).Caption;
+  reader.lblbook.Caption = "";
+  reader.lblc.Caption = "";
+  reader.lblbk.Caption = "";
+  reader.lblc.Caption = chapter;
+  reader.lblbook.Caption = reader.LBLMRK(1).Caption;
+  reader.lblbk.Caption = reader.LBLMRK(1).Caption;
+  reader.lblc.Caption = "";
+  reader.lblc.Caption = chapter;
+  Leave();
+}
+
+void Bookmarks::Command7_Click() { Leave(); }
+
+void Bookmarks::Leave() {
+  panels.Picture1.Visible = false;
+  tools.Enable();
+}
+
+// ODDITY(sweeping-chapters): every movement of the pointer over the box is a chapter further, and nothing
+// stops it behind the last one; it is meant.
+void Bookmarks::Picture2_MouseMove() {
+  reader.lblc.Caption = text::NumberText(text::NumberValue(reader.lblc.Caption()) + 1);
+}
 
 }  // namespace lectern::aids

@@ -1,8 +1,40 @@
 #include "aids/page_printing.h"
 
+#include <utility>
+
+#include "core/error_modes.h"
+
 namespace lectern::aids {
 
-PagePrinting::PagePrinting(core::Panels& panels)
-    : Command30(panels.Picture1, "Command30", {.caption = "Print Page"}) {}
+namespace {
+
+constexpr int kNote = 1;  // slot
+
+}  // namespace
+
+PagePrinting::PagePrinting(core::Reader& the_reader, core::Panels& panels,
+                           std::function<forms::Window&()> page)
+    : Command30(panels.Picture1, "Command30", {.caption = "Print Page"}),
+      reader(the_reader),
+      page_(std::move(page)) {
+  Command30.Click = [this] { Command30_Click(); };
+}
+
+// ODDITY(print-page-empty): the button sees to it that there is a note of the bookmark's name, or of the name
+// NAME, and reads its first field; but nothing of it comes to the page, which shows what it showed before.
+// It is meant.
+void PagePrinting::Command30_Click() {
+  const core::Ignoring ignore;
+  files::FileSlots& slots = reader.form.Slots();
+  const std::string& bookmark = reader.LBLMRK(0).Caption;
+  const std::string note = reader.Dir1.Path + "\\" + (bookmark.empty() ? "NAME" : bookmark) + ".NOT";
+  ignore([&] { slots.OpenForAppending(kNote, note); });
+  ignore([&] { slots.Close(kNote); });
+  ignore([&] { slots.OpenForReading(kNote, note); });
+  ignore([&] { slots.ReadField(kNote); });
+  ignore([&] { slots.Close(kNote); });
+  ignore([&] { page_().Visible = true; });
+  ignore([&] { page_().BringToFront(); });
+}
 
 }  // namespace lectern::aids

@@ -21,7 +21,7 @@ Menus::Menus(forms::Window& form)
       webb1(webb, "webb1", {.caption = "Lectern"}),
       webb2(webb, "webb2", {.caption = "My Main Page"}),
       xh(form, "xh", {.caption = "&Help"}),
-      xh2(xh, "xh2", {.caption = "Help"}),
-      aboutlt(xh, "aboutlt", {.caption = "About"}) {}
+      aboutlt(xh, "aboutlt", {.caption = "About"}),
+      xh2(xh, "xh2", {.caption = "Help"}) {}
 
 }  // namespace lectern::core

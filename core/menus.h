@@ -34,8 +34,8 @@ class Menus {
   forms::Menu webb2;
 
   forms::Menu xh;  // help
-  forms::Menu xh2;
   forms::Menu aboutlt;
+  forms::Menu xh2;
 };
 
 }  // namespace lectern::core

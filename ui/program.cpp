@@ -11,8 +11,17 @@ namespace lectern::ui {
 
 Program::Program(forms::Services services)
     : report_failure([](const core::RunTimeError&) {}),
-      Form1_(windows, [services] { return std::make_unique<Form1>(services); }),
-      known_{Knowing("Form1", Form1_)} {}
+      Form1_(windows,
+             [this, services] {
+               return std::make_unique<Form1>(
+                   services, OtherWindows{.Form2 = [this]() -> forms::Window& { return Form2_(); },
+                                          .notes = [this]() -> aids::Notes& { return Form3_().notes; }});
+             }),
+      Form2_(windows, [services] { return std::make_unique<Form2>(services); }),
+      Form3_(windows, [services] { return std::make_unique<Form3>(services); }),
+      Form5_(windows, [services] { return std::make_unique<Form5>(services); }),
+      known_{Knowing("Form1", Form1_), Knowing("Form2", Form2_), Knowing("Form3", Form3_),
+             Knowing("Form5", Form5_)} {}
 
 void Program::Start() {
   Guard(forms::AfterFailure::kEndProgram, [this] { Form1_().Visible = true; });

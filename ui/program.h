@@ -11,6 +11,9 @@
 #include "core/program_end.h"
 #include "core/run_time_error.h"
 #include "ui/form1/form1.h"
+#include "ui/form2.h"
+#include "ui/form3.h"
+#include "ui/form5.h"
 
 namespace lectern::ui {
 
@@ -65,6 +68,9 @@ class Program {
   void End(int status);
 
   forms::OnTouch<Form1> Form1_;
+  forms::OnTouch<Form2> Form2_;
+  forms::OnTouch<Form3> Form3_;
+  forms::OnTouch<Form5> Form5_;
   std::vector<Known> known_;
   bool ended_ = false;
   int status_ = 0;

@@ -99,7 +99,12 @@ std::int32_t FileSlots::ReadNumber(int slot) { return text::RoundToLong(text::Nu
 void FileSlots::Write(int slot, std::string_view text) {
   const auto found = appending_.find(slot);
   if (found == appending_.end()) throw RunTimeError(ErrorNumber::kBadFileName);
-  found->second.Write(text::IsAscii(text) ? text : std::string_view(Encode(text)));
+  try {
+    found->second.Write(text::IsAscii(text) ? text : std::string_view(Encode(text)));
+  } catch (const RunTimeError&) {
+    appending_.erase(found);  // what could not be written has let the file go
+    throw;
+  }
 }
 
 void FileSlots::PrintLine(int slot, std::string_view line) { Write(slot, std::string(line).append("\r\n")); }

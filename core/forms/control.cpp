@@ -125,6 +125,8 @@ void Control::PersonKeys(int code) {
     return code == kEnterKey ? button->IsDefaultButton() : button->IsCancelButton();
   };
   for (Container* panel = &parent_; panel != nullptr; panel = panel->Outer()) {
+    // A panel that lies over the window is closed before the window itself.
+    if (code == kEscapeKey && panel->Outer() == nullptr) break;
     if (HostWindow().PressButtonIn(*panel, pressed_by)) return;
   }
   if (code == kEscapeKey) HostWindow().PressCancelOfFrontPanel();

@@ -75,7 +75,7 @@ Bitmap& PictureBox::Persistent() {
 
 // Another size keeps what is drawn; new room shows the background.
 void PictureBox::SizeWritten() {
-  if (persistent_.Empty()) return;
+  if (persistent_.Empty() && !Picture()) return;
   Bitmap resized = Blank();
   resized.Copy(persistent_);
   persistent_ = std::move(resized);

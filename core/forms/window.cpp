@@ -10,6 +10,7 @@ namespace lectern::forms {
 
 Window::Window(Services services, std::string name, std::string_view caption)
     : Caption(*this, "Caption", std::string(caption)),
+      Title(*this, "Title"),
       Visible(*this, "Visible", false,
               {.change =
                    [this] {
@@ -69,6 +70,10 @@ void Window::GiveFocus(PlacedControl& control) {
   if (View* view = control.AttachedView()) view->TakeFocus();
 }
 
+void Window::BringToFront() const {
+  if (View* view = AttachedView()) view->TakeFocus();
+}
+
 bool Window::PressButtonIn(const Container& panel, const std::function<bool(const Control*)>& meant) {
   const auto found = std::find_if(
       panel.Children().begin(), panel.Children().end(),
@@ -85,12 +90,11 @@ void Window::PressCancelOfFrontPanel() {
   }
   std::stable_sort(panels.begin(), panels.end(),
                    [](const Control* a, const Control* b) { return a->ShownAt() > b->ShownAt(); });
+  const auto cancels = [](const Control* button) { return button->IsCancelButton(); };
   for (Control* panel : panels) {
-    if (PressButtonIn(dynamic_cast<Container&>(*panel),
-                      [](const Control* button) { return button->IsCancelButton(); })) {
-      return;
-    }
+    if (PressButtonIn(dynamic_cast<Container&>(*panel), cancels)) return;
   }
+  PressButtonIn(*this, cancels);
 }
 
 }  // namespace lectern::forms

@@ -61,8 +61,12 @@ class Window : public PropertyOwner, public Container {
   void GiveFocus(PlacedControl& control);
   void PersonMovesFocus(PlacedControl* control);
 
+  // Puts a window that is to be seen before the others.
+  void BringToFront() const;
+
   // Presses the first button of a panel that is meant, can be seen and is enabled; whether there was one.
   bool PressButtonIn(const Container& panel, const std::function<bool(const Control*)>& meant);
+  // The cancel button of the panel that lies in front, or the window's own where no panel has one.
   void PressCancelOfFrontPanel();
 
   Window& HostWindow() override { return *this; }
@@ -71,6 +75,7 @@ class Window : public PropertyOwner, public Container {
   Container* Outer() const override { return nullptr; }
 
   Property<std::string> Caption;
+  Property<std::string> Title;  // what the title bar says; the Caption where it is empty
   RuledProperty<bool> Visible;
   Property<double> Left;
   Property<double> Top;
@@ -79,7 +84,7 @@ class Window : public PropertyOwner, public Container {
   Property<Colour> BackColor;
   Property<Colour> ForeColor;
   Property<int> MousePointer;
-  Property<double> CurrentX;  // where drawing on the window's own face would go on; nothing moves it
+  Property<double> CurrentX;  // where drawing on the window's own face would go on
   Property<double> CurrentY;
 
  private:

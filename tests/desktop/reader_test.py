@@ -206,10 +206,10 @@ def leave_by_the_close_box(reader, _folder):
     reader.sees_it_end(0)
 
 
-def main():
+def play(visits):
+    """Each visit with a program and a data folder of its own, on a display and a message bus that are ours."""
     program = os.path.abspath(sys.argv[1])
     if "LECTERN_TEST_STAGE" not in os.environ:
-        # Once more, on a display and a message bus that are ours.
         display = subprocess.Popen(
             ["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"],
             stdout=subprocess.PIPE,
@@ -226,12 +226,12 @@ def main():
                     QT_QPA_PLATFORM="xcb",
                     XDG_RUNTIME_DIR=runtime,
                 )
-                again = ["dbus-run-session", sys.executable, os.path.abspath(__file__), program]
+                again = ["dbus-run-session", sys.executable, os.path.abspath(sys.argv[0]), program, *sys.argv[2:]]
                 sys.exit(subprocess.run(again, env=environment).returncode)
         finally:
             display.terminate()
             display.wait()
-    for visit in (read_a_while, leave_by_the_menu, leave_by_the_close_box):
+    for visit in visits:
         with tempfile.TemporaryDirectory() as folder:
             make_data(folder)
             reader = Reader(program, folder)
@@ -243,4 +243,4 @@ def main():
 
 
 if __name__ == "__main__":
-    main()
+    play((read_a_while, leave_by_the_menu, leave_by_the_close_box))

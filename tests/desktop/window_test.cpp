@@ -24,6 +24,17 @@ TEST_F(Stage, EveryKindOfControlInReachHasAWidget) {
   EXPECT_EQ(view->Frame()->height(), 600 + Find<QMenuBar>("")->height());
 }
 
+TEST_F(Stage, TheTitleBarSaysTheTitleAndAWindowThatIsAskedForComesBack) {
+  EXPECT_EQ(view->Frame()->windowTitle(), ToQString(window->Caption));
+  Do([this] { window->Title = "*Ruth - Sample"; });
+  EXPECT_EQ(view->Frame()->windowTitle(), "*Ruth - Sample");
+  view->Frame()->setWindowState(Qt::WindowMinimized);
+  Do([] {});
+  EXPECT_TRUE(view->Frame()->isMinimized());
+  Do([this] { window->BringToFront(); });
+  EXPECT_FALSE(view->Frame()->isMinimized());
+}
+
 TEST_F(Stage, EverythingThatTakesTheKeyboardHasANameToBeReadOut) {
   Do([this] { window->panel.Visible = true; });
   for (QWidget* widget : view->Face().findChildren<QWidget*>()) {

@@ -115,6 +115,17 @@ TEST(Keys, PressTheDefaultAndTheCancelButtonOfThePanelAroundOrOfTheFrontOne) {
   front.Visible = false;
   test.form.PressCancelOfFrontPanel();
   EXPECT_EQ(pressed, "go close_back close_front close_back ");
+
+  // From below an open panel Escape closes that, and the window only when none is left.
+  TextBox below(test.form, "below");
+  CommandButton leave(test.form, "leave", {.is_cancel = true});
+  leave.Click = [&] { pressed += "leave "; };
+  pressed.clear();
+  below.PersonKeys(kEscapeKey);
+  back.Visible = false;
+  below.PersonKeys(kEscapeKey);
+  test.form.PressCancelOfFrontPanel();
+  EXPECT_EQ(pressed, "close_back leave leave ");
 }
 
 TEST(Control, IsOutOfReachWhenItOrWhatItLiesInIsHiddenOrItIsDisabled) {

@@ -125,6 +125,12 @@ TEST_F(PictureBoxTest, GrowsToItsPictureAndShowsMoreOfItInNewRoom) {
   EXPECT_EQ(ErrorOf([&] { box.DrawWidth = 0; }), 380);
   EXPECT_EQ(ErrorOf([&] { box.PaintPicture({}, 0, 0, 5, 5); }), 481);
   box.PSet(1e300, -1e300);  // far outside is nowhere
+
+  PictureBox panel(test.form, "panel");
+  panel.Picture = picture;
+  panel.Width = 60;
+  panel.Height = 60;
+  EXPECT_EQ(panel.Shown().At(0, 0), kRedPixel);  // a picture that was there before there was room for it
 }
 
 TEST(Image, TakesThePicturesSizeUnlessItStretches) {

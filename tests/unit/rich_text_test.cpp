@@ -112,5 +112,36 @@ TEST(RichTextBox, LoadsPlainAndRichTextAndTellsItEachTime) {
   EXPECT_EQ(ErrorOf([&] { pane.LoadFile(test.folder.Path() + "\\none.txt"); }), 53);
 }
 
+// A page with a heading, a link, a list and signs, as two word processors of different habits write it.
+TEST(ReadRtf, TakesASimplePageOfAWordProcessor) {
+  const RichText terse = ReadRtf(
+      "{\\rtf1\\ansi\\ansicpg1252\\deff0\\nouicompat\\deflang1033{\\fonttbl{\\f0\\fnil\\fcharset0 Calibri;}"
+      "{\\f1\\fnil\\fcharset2 Symbol;}}\r\n{\\colortbl ;\\red0\\green0\\blue255;}\r\n"
+      "{\\*\\generator Editor 10.0}\\viewkind4\\uc1 \r\n\\pard\\sa200\\sl276\\slmult1\\b\\f0\\fs28\\lang9 "
+      "Ruth\\b0\\fs22\\par\r\n\\pard{\\pntext\\f1\\'B7\\tab}{\\*\\pn\\pnlvlblt\\pnf1\\pnindent0{\\pntxtb"
+      "\\'B7}}\\fi-360\\li720 Naomi\\rquote s \\cf1\\ul friend\\cf0\\ulnone\\par\r\n}\r\n");
+  EXPECT_EQ(terse.text, "Ruth\r\n·\tNaomi’s friend\r\n");
+  EXPECT_EQ(terse.runs.At(0).bold, true);
+  EXPECT_EQ(terse.runs.At(0).size, 14);
+  EXPECT_EQ(terse.runs.At(17).colour, kBlue);
+  EXPECT_EQ(terse.runs.At(17).underline, true);
+  EXPECT_EQ(terse.runs.At(8).colour, std::nullopt);
+
+  const RichText wordy = ReadRtf(
+      "{\\rtf1\\ansi\\deff3\\adeflang1025\n{\\fonttbl{\\f0\\froman\\fprq2\\fcharset0 Times New Roman;}{\\f3"
+      "\\froman\\fprq2\\fcharset0 Liberation Serif{\\*\\falt Times New Roman};}}\n{\\colortbl;\\red0\\green0"
+      "\\blue0;}\n{\\stylesheet{\\s0\\snext0\\rtlch\\af7 \\ltrch\\lang1033\\fs24 Normal;}}{\\info{\\creatim"
+      "\\yr2026\\mo11}}{\\*\\userprops}\\deftab709\n\\viewscale100\\formshade{\\header \\pard page\\par}\n"
+      "\\pgndec\\pard\\plain \\s0\\rtlch\\af7 \\ltrch\\lang1033\\fs24{\\rtlch \\ltrch\\loch\\b\nBoaz}"
+      "{\\rtlch \\ltrch\\loch \\u8211\\'96 kinsman}\n\\par \\pard\\plain {\\field{\\*\\fldinst HYPERLINK "
+      "\"http://x/\" }{\\fldrslt {\\i gleaning}}}\\line \\u1512?\\u1493?\\u1514?{\\pict\\wmetafile8 0100}\n"
+      "\\par }");
+  EXPECT_EQ(wordy.text, "Boaz– kinsman\r\ngleaning\r\nרות\r\n");
+  EXPECT_EQ(wordy.runs.At(0).bold, true);
+  EXPECT_EQ(wordy.runs.At(6).bold, std::nullopt);
+  EXPECT_EQ(wordy.runs.At(6).size, 12);
+  EXPECT_EQ(wordy.runs.At(16).italic, true);
+}
+
 }  // namespace
 }  // namespace lectern::forms

@@ -15,6 +15,7 @@
 #include "tools/make_data/book_files.h"
 #include "tools/make_data/concordance.h"
 #include "tools/make_data/dictionary_file.h"
+#include "tools/make_data/help_topics.h"
 #include "tools/make_data/sources.h"
 #include "tools/make_data/topics.h"
 #include "tools/make_data/trivia_file.h"
@@ -67,6 +68,8 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   WriteFile(folder + "/cdxdic.dat", DictionaryRecords(ReadTopics(), king_james));
   Progress("Questions …");
   WriteFile(folder + "/codex.trv", TriviaRecords(ParseTrivia(kTriviaText)));
+  Progress("Help …");
+  WriteHelpTopics(folder);
   MakeSettings(folder);
   Progress("Concordance of the first version …");
   MakeConcordance(folder, king_james, WhichVersion::kFirst, concordance_words);

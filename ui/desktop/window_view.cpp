@@ -92,18 +92,25 @@ void WindowView::Refresh() {
     if (!window_.Visible) return;
     Build();
   }
-  frame_->setWindowTitle(ToQString(window_.Caption));
+  frame_->setWindowTitle(ToQString(window_.Title == "" ? window_.Caption() : window_.Title()));
   ApplySize();
   ApplyPlace();
   ApplyPointer();
   ApplyColours();
-  if (frame_->isHidden() == window_.Visible) {
-    frame_->setVisible(window_.Visible);
-    if (window_.Visible) {
-      frame_->raise();
-      frame_->activateWindow();
-    }
-  }
+  const bool appears = window_.Visible && frame_->isHidden();
+  frame_->setVisible(window_.Visible);
+  if (std::exchange(front_is_wanted_, false) || appears) ComeToFront();
+}
+
+void WindowView::ComeToFront() {
+  frame_->setWindowState(frame_->windowState() & ~Qt::WindowMinimized);
+  frame_->raise();
+  frame_->activateWindow();
+}
+
+void WindowView::TakeFocus() {
+  front_is_wanted_ = true;
+  LayerView::Changed();
 }
 
 void WindowView::Build() {

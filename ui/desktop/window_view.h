@@ -30,6 +30,7 @@ class WindowView : public QObject, public LayerView {
 
   void Changed() override;
   void Refresh() override;
+  void TakeFocus() override;
 
   // Ahead of an event.
   void Commit();
@@ -71,6 +72,7 @@ class WindowView : public QObject, public LayerView {
   void ApplyPointer();
   void ApplyColours();
   void Arrange();
+  void ComeToFront();
   forms::Control* ButtonWith(int letter) const;
 
   forms::Window& window_;
@@ -83,6 +85,7 @@ class WindowView : public QObject, public LayerView {
   std::vector<ControlView*> uncommitted_;
   std::optional<std::pair<double, double>> place_;  // as applied, in twips
   int pointer_ = forms::kPointerDefault;
+  bool front_is_wanted_ = false;
   bool needs_arranging_ = false;
   bool abandoned_ = false;
 };

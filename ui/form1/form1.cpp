@@ -4,7 +4,7 @@
 
 namespace lectern::ui {
 
-Form1::Form1(forms::Services services)
+Form1::Form1(forms::Services services, const OtherWindows& others)
     : Window(services, "Form1", core::kProgramName),
       menus(*this),
       panels(*this),
@@ -25,8 +25,10 @@ Form1::Form1(forms::Services services)
       one_pass_builder(reader, panels, text_search, concordance_builder),
       dictionary(reader, panels, tools, menus, error_report),
       trivia(reader, panels, tools, menus, error_report),
-      bookmarks(panels),
-      page_printing(panels),
+      bookmarks(reader, panels, tools, menus),
+      page_printing(reader, panels, others.Form2),
+      notes_doors(panels, tools, menus, others.notes),
+      help(reader, panels, tools, menus),
       maintenance(panels),
       start_up(reader, panels, catalogue,
                {maintenance.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
@@ -34,6 +36,7 @@ Form1::Form1(forms::Services services)
       exits(reader, menus, tools, {settings.Combo1, settings.Combo2, settings.Combo3}) {
   start_up.ReadSettings = [this] { settings.ReadSettings(); };
   settings.PointAtSearchButton = [this](int pointer) { text_search.Command22.MousePointer = pointer; };
+  text_search.ShowHelpNote = [this](const std::string& text) { help.ShowNote(text); };
   for (const std::span<const Place> table : kForm1Places) Apply(table, *this);
 }
 

@@ -2,7 +2,11 @@
 // which their controls are made.
 #pragma once
 
+#include <functional>
+
 #include "aids/bookmarks.h"
+#include "aids/help.h"
+#include "aids/notes_doors.h"
 #include "aids/page_printing.h"
 #include "core/catalogue.h"
 #include "core/chapter_store.h"
@@ -29,9 +33,15 @@
 
 namespace lectern::ui {
 
+// How the main window's doors reach the other windows: each makes its window where there is none yet.
+struct OtherWindows {
+  std::function<forms::Window&()> Form2;
+  std::function<aids::Notes&()> notes;
+};
+
 class Form1 : public forms::Window {
  public:
-  explicit Form1(forms::Services services);
+  Form1(forms::Services services, const OtherWindows& others);
 
   void Form_Load() override { start_up.Form_Load(); }
   void Form_Unload() override { exits.Form_Unload(); }
@@ -58,6 +68,8 @@ class Form1 : public forms::Window {
   search::Trivia trivia;
   aids::Bookmarks bookmarks;
   aids::PagePrinting page_printing;
+  aids::NotesDoors notes_doors;
+  aids::Help help;
   gallery::Maintenance maintenance;
   core::StartUp start_up;
   core::Exits exits;

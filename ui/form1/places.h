@@ -12,14 +12,25 @@ namespace lectern::ui {
 extern const std::span<const Place> kReaderPlaces;
 extern const std::span<const Place> kSearchPlaces;
 extern const std::span<const Place> kConcordancePlaces;
-extern const std::span<const Place> kStoragePlaces;
-extern const std::span<const Place> kSettingsPlaces;
 extern const std::span<const Place> kDictionaryPlaces;
 extern const std::span<const Place> kTriviaPlaces;
+extern const std::span<const Place> kBookmarkPlaces;
+extern const std::span<const Place> kHelpPlaces;
+extern const std::span<const Place> kSettingsPlaces;
+extern const std::span<const Place> kStoragePlaces;
 
+// clang-format off
 inline const std::array kForm1Places = {
-    kReaderPlaces,   kSearchPlaces,     kConcordancePlaces, kStoragePlaces,
-    kSettingsPlaces, kDictionaryPlaces, kTriviaPlaces,
+    kReaderPlaces,
+    kSearchPlaces,
+    kConcordancePlaces,
+    kDictionaryPlaces,
+    kTriviaPlaces,
+    kBookmarkPlaces,
+    kHelpPlaces,
+    kSettingsPlaces,
+    kStoragePlaces,
 };
+// clang-format on
 
 }  // namespace lectern::ui

@@ -1,0 +1,109 @@
+#include "aids/help.h"
+
+#include <array>
+
+#include "aids/stored_notes.h"
+#include "core/text/letter_case.h"
+
+namespace lectern::aids {
+
+namespace {
+
+// The file of each topic, in the order of their labels.
+constexpr std::array kTopicFiles = {"bookmark.txt",    "search.txt",     "notes.txt",  "pictures.txt",
+                                    "concordance.txt", "dictionary.txt", "trivia.txt", "paint.txt"};
+
+constexpr forms::Colour kLink = forms::Rgb(28, 84, 150);
+
+constexpr std::string_view kDefaultHost = "www.example.org";
+
+}  // namespace
+
+Help::Help(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
+           core::Menus& menus)
+    : Label19_4(the_panels.frmhelp, "Label19", {.caption = "HELP"}),
+      lblhp(the_panels.frmhelp, "lblhp",
+            {{.caption = "Book Mark", .fore_color = kLink},
+             {.caption = "Search", .fore_color = kLink},
+             {.caption = "Notes", .fore_color = kLink},
+             {.caption = "Pictures", .fore_color = kLink},
+             {.caption = "Concordance", .fore_color = kLink},
+             {.caption = "Dictionary", .fore_color = kLink},
+             {.caption = "Trivia", .fore_color = kLink},
+             {.caption = "Paint", .fore_color = kLink}}),
+      txthelp(the_panels.frmhelp, "txthelp", {.read_only = true, .name = "Help text"}),
+      Command4(the_panels.frmhelp, "Command4", {.caption = "Close", .is_cancel = true}),
+      Command44(the_panels.frmhelp, "Command44",
+                {.caption = "Close", .name = "Close, and unlock the tool buttons"}),
+      Timer1(the_reader.form, "Timer1"),
+      reader(the_reader),
+      panels(the_panels),
+      tools(the_tools) {
+  Label19_4.PutInArray(4);
+  menus.xh2.Click = [this] { xh2_Click(); };
+  menus.aboutlt.Click = [this] { aboutlt_Click(); };
+  menus.webb1.Click = [this] { webb1_Click(); };
+  menus.webb2.Click = [this] { webb2_Click(); };
+  lblhp.ForEach(
+      [this](int index, forms::Label& label) { label.Click = [this, index] { lblhp_Click(index); }; });
+  Command4.Click = [this] { Command4_Click(); };
+  Command44.Click = [this] { Command44_Click(); };
+
+  for (const StoredNote& note : kStoredNotes) {
+    reader.form.routines[std::string(note.routine)] = [this, &note](const std::string&) {
+      txthelp.Text = std::string(note.text);
+    };
+  }
+  reader.form.routines["OpenWebPage"] = [this](const std::string& address) { OpenWebPage(address); };
+  ShowAbout();
+}
+
+// What a first opening shows.
+void Help::ShowAbout() {
+  forms::RichText about;
+  about.text = kAboutText;
+  forms::TextRun run;
+  run.length = kAboutText.size();  // of ASCII alone
+  run.style.bold = true;
+  run.style.size = 12;
+  about.runs.Append(run);
+  txthelp.Show(std::move(about));
+}
+
+void Help::xh2_Click() { panels.frmhelp.Visible = true; }
+
+void Help::lblhp_Click(int index) {
+  if (index < 0 || index >= static_cast<int>(kTopicFiles.size())) return;
+  txthelp.LoadFile(reader.Dir1.Path + "\\" + kTopicFiles[static_cast<std::size_t>(index)]);
+}
+
+// ODDITY(help-close-unlocks): one of the two Close buttons enables the tool buttons, also where another open
+// panel has disabled them; it is meant.
+void Help::Command4_Click() { panels.frmhelp.Visible = false; }
+
+void Help::Command44_Click() {
+  panels.frmhelp.Visible = false;
+  tools.Enable();
+}
+
+void Help::aboutlt_Click() { reader.form.Platform().Message(kAboutText); }
+
+void Help::webb1_Click() { OpenWebPage("http://" + std::string(kDefaultHost) + "/lectern/"); }
+void Help::webb2_Click() { OpenWebPage("http://" + std::string(kDefaultHost) + "/"); }
+
+bool Help::OpenWebPage(const std::string& address) {
+  constexpr std::string_view kScheme = "http";
+  const bool has_scheme = text::EqualFolded(std::string_view(address).substr(0, kScheme.size()), kScheme);
+  // ODDITY(bare-address-replaced): an address without its "http" is not completed but replaced by the default
+  // host; it is meant.
+  return reader.form.Platform().OpenInBrowser(has_scheme ? address : "http://" + std::string(kDefaultHost));
+}
+
+void Help::ShowNote(const std::string& text) {
+  panels.frmhelp.Visible = true;
+  txthelp.Text = text;
+}
+
+void Help::HelpChangingBook() { txthelp.Text = std::string(StoredNoteText("HelpChangingBook")); }
+
+}  // namespace lectern::aids

@@ -1,0 +1,55 @@
+// Help: a panel with a list of topics and the text of one of them, each from a file of its own in the data
+// folder; the About message; and the two web pages. The pane serves others too: the search writes into it
+// how long things take, the pictures how to change the book.
+#pragma once
+
+#include <string>
+
+#include "core/forms/buttons.h"
+#include "core/forms/label.h"
+#include "core/forms/rich_text_box.h"
+#include "core/forms/timer.h"
+#include "core/menus.h"
+#include "core/panels.h"
+#include "core/reader.h"
+#include "core/tool_buttons.h"
+
+namespace lectern::aids {
+
+class Help {
+ public:
+  Help(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools, core::Menus& menus);
+
+  // Hands an address to the default browser; whether it was accepted. One that does not begin with "http"
+  // is replaced as a whole.
+  bool OpenWebPage(const std::string& address);
+
+  // A note of another feature: the panel opens with that text in the pane.
+  void ShowNote(const std::string& text);
+
+  // The stored note on changing the book, in the pane, whether or not the panel is open.
+  void HelpChangingBook();
+
+  forms::Label Label19_4;  // Label19(4), the heading
+  forms::ControlArray<forms::Label> lblhp;
+  forms::RichTextBox txthelp;
+  forms::CommandButton Command4;
+  forms::CommandButton Command44;
+  forms::Timer Timer1;  // never ticks
+
+ private:
+  void xh2_Click();
+  void lblhp_Click(int index);
+  void Command4_Click();
+  void Command44_Click();
+  void aboutlt_Click();
+  void webb1_Click();
+  void webb2_Click();
+  void ShowAbout();
+
+  core::Reader& reader;
+  core::Panels& panels;
+  core::ToolButtons& tools;
+};
+
+}  // namespace lectern::aids

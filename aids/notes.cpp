@@ -1,0 +1,211 @@
+#include "aids/notes.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "aids/asked_name.h"
+#include "core/run_time_error.h"
+#include "core/text/characters.h"
+
+namespace lectern::aids {
+
+namespace {
+
+constexpr int kNote = 1;  // slot
+
+constexpr std::string_view kNoNote = "NAME";
+constexpr std::string_view kAltered = "c";
+
+// The chooser's ground: a sheet of ruled paper.
+forms::Picture RuledPaper() {
+  constexpr int kWidth = 423;  // pixels
+  constexpr int kHeight = 554;
+  constexpr int kBetweenRules = 24;
+  constexpr forms::Pixel kPaper = forms::kOpaque | 0xEFF8FB;
+  constexpr forms::Pixel kRule = forms::kOpaque | 0xF0E8E2;
+  forms::Bitmap paper(kWidth, kHeight, kPaper);
+  for (int y = kBetweenRules - 1; y < kHeight; y += kBetweenRules) {
+    std::fill_n(paper.Row(y), kWidth, kRule);
+  }
+  return forms::Picture(std::move(paper));
+}
+
+}  // namespace
+
+Notes::Notes(forms::Window& window)
+    : form(window),
+      f1(form, "f1", {.caption = "File"}),
+      f2(f1, "f2", {.caption = "&Open", .shortcut = "Ctrl+O"}),
+      f3(f1, "f3", {.caption = "&Save", .shortcut = "Ctrl+S"}),
+      f4(f1, "f4", {.caption = "Delete"}),
+      f5(f1, "f5", {.caption = "-"}),
+      f6(f1, "f6", {.caption = "Print"}),
+      f7(f1, "f7", {.caption = "-"}),
+      f8(f1, "f8", {.caption = "E&xit"}),
+      lblname(form, "lblname", {.caption = kNoNote}),
+      lblc(form, "lblc", {.caption = "Label1", .visible = false}),
+      txthelp(form, "txthelp", {.caption = "RichTextBox1\r\n", .name = "Text of the note"}),
+      Command1(form, "Command1", {.caption = "Open"}),
+      Command13(form, "Command13", {.caption = "Save"}),
+      Command12(form, "Command12", {.caption = "Close", .is_cancel = true}),
+      FRMNOTE(form, "FRMNOTE", {.visible = false}),
+      Label17(FRMNOTE, "Label17", {.caption = "Notes"}),
+      Text42(FRMNOTE, "Text42", {.name = "Notes"}),
+      picopen(form, "picopen", {.visible = false, .name = "Open a note"}),
+      Drive1(picopen, "Drive1", {.name = "Drive"}),
+      Dir1(picopen, "Dir1", {.name = "Folder of the notes"}),
+      File1(picopen, "File1", {.pattern = "*.not", .name = "Notes in the folder"}),
+      Label2(picopen, "Label2",
+             {.caption = "Click file above to open or Create New File", .fore_color = forms::kBlack}),
+      Command2(picopen, "Command2", {.caption = "Create New File"}),
+      Command3(picopen, "Command3", {.caption = "Close", .is_cancel = true}) {
+  txthelp.FontName = "MS Sans Serif";
+  txthelp.FontSize = 8.5;
+  picopen.Picture = RuledPaper();
+
+  lblname.Change = [this] { lblname_Change(); };
+  lblc.Change = [this] { ShowTitle(); };
+  txthelp.Change = [this] { lblc.Caption = std::string(kAltered); };
+  Command1.Click = [this] { ShowChooser(); };
+  f2.Click = [this] { ShowChooser(); };
+  Command13.Click = [this] { SaveNoteFile(); };
+  f3.Click = [this] { SaveNoteFile(); };
+  f4.Click = [this] { f4_Click(); };
+  f6.Click = [this] { f6_Click(); };
+  Command12.Click = [this] { Command12_Click(); };
+  f8.Click = [this] { Command12_Click(); };
+
+  Drive1.Change = [this] { Drive1_Change(); };
+  Dir1.Change = [this] { File1.Path = Dir1.Path; };
+  File1.Click = [this] { File1_Click(); };
+  Command2.Click = [this] { Command2_Click(); };
+  Command3.Click = [this] { HideChooser(); };
+}
+
+void Notes::Form_Load() {
+  picopen.Left = 0;
+  picopen.Top = 0;
+  form.Width = 6465;
+  form.Left = 10;
+  form.Top = (form.Platform().Screen().height - form.Height) / 2;
+  form.Left = 1;
+}
+
+void Notes::Open() {
+  if (lblname.Caption == kNoNote) {
+    form.Platform().Message("Open file to add to, or create new file");
+    ShowChooser();
+  }
+  form.Visible = true;
+  form.BringToFront();
+}
+
+void Notes::ShowChooser() {
+  picopen.Visible = true;
+  File1.SetFocus();
+}
+
+void Notes::HideChooser() {
+  picopen.Visible = false;
+  txthelp.SetFocus();
+}
+
+// ODDITY(notes-folder-now): a note is written to the folder that the chooser shows now, not to the one that
+// it came from; it is meant.
+std::string Notes::PathOf(const std::string& name) const { return Dir1.Path + "\\" + name + ".not"; }
+
+// ODDITY(note-grows): the line end behind the text is written each time, also where the text has brought
+// the one from the last time; so a note grows by an empty line with each load and save. It is meant.
+void Notes::AppendText(const std::string& name) {
+  files::FileSlots& slots = form.Slots();
+  slots.OpenForAppending(kNote, PathOf(name));
+  slots.PrintLine(kNote, txthelp.Text());
+  slots.Close(kNote);
+}
+
+void Notes::File1_Click() {
+  if (const int selected = File1.SelectedIndex(); selected >= 0) {
+    // ODDITY(note-switch-drops): what was changed in the note before is dropped without a question; it is
+    // meant. The blank makes a click on the note that is open load it anew.
+    constexpr std::size_t kEnding = 4;  // characters of ".not"
+    const std::string& entry = File1.List(selected);
+    lblname.Caption = "";
+    lblname.Caption = std::string(text::Left(entry, text::Length(entry) - kEnding));
+  }
+  HideChooser();
+}
+
+// The load marks the text as altered, and the mark is taken away behind it.
+void Notes::lblname_Change() {
+  ShowTitle();
+  if (lblname.Caption == "") return;
+  txthelp.LoadFile(PathOf(lblname.Caption));
+  lblc.Caption = "";
+}
+
+void Notes::Command2_Click() {
+  const std::string name = AskForName(form.Platform(), "Enter a name for file", "InputBox Demo");
+  if (name.empty()) return;
+  // ODDITY(new-note-copies): a new note begins as a copy of what the editor holds; where there is a note of
+  // that name, the text goes to its end, and where that is the note that is open, the editor goes on
+  // showing the old text. It is meant.
+  AppendText(name);
+  lblname.Caption = name;
+  File1.Refresh();
+  HideChooser();
+}
+
+void Notes::SaveNoteFile() {
+  form.Files().DeleteKeepingBackup(PathOf(lblname.Caption));
+  AppendText(lblname.Caption);
+  lblc.Caption = "";
+}
+
+// ODDITY(unsaved-stays-unsaved): a No leaves the text and its mark as they are, and the question comes again
+// at the next leaving; it is meant.
+void Notes::ConfirmSaveNote() {
+  const std::string question =
+      "File has been altered. Do you want to save changes to the file: " + lblname.Caption + "?";
+  if (form.Platform().Question(question, "Save File")) SaveNoteFile();
+}
+
+void Notes::Command12_Click() {
+  Form_Unload();
+  form.Visible = false;
+}
+
+void Notes::Form_Unload() {
+  if (lblc.Caption == kAltered) ConfirmSaveNote();
+}
+
+void Notes::f4_Click() {
+  if (!form.Platform().Question("Do you want to delete file: " + lblname.Caption + "?", "Delete File"))
+    return;
+  // ODDITY(deleted-note-stays): the note's name and text stay in the editor; saving it then fails, as there
+  // is no file to replace. It is meant.
+  form.Files().DeleteKeepingBackup(PathOf(lblname.Caption));
+  ShowChooser();
+  File1.Refresh();
+}
+
+// ODDITY(notes-print-nothing): what is printed is one empty line, and on the window's own face, where it is
+// not to be seen; it is meant.
+void Notes::f6_Click() {
+  constexpr double kLineHeight = 195;  // twips, in the window's font
+  form.CurrentX = 0;
+  form.CurrentY = form.CurrentY + kLineHeight;
+}
+
+// ODDITY(drive-fails): the choice of a drive is handed to something that does not exist; the folder is
+// chosen in its own list. It is meant.
+void Notes::Drive1_Change() { throw core::RunTimeError(core::ErrorNumber::kObjectRequired); }
+
+// What a person sees in the title bar: which note this is, and whether something in it is not saved yet.
+void Notes::ShowTitle() {
+  const std::string& name = lblname.Caption;
+  std::string title = lblc.Caption == kAltered ? "*" : "";
+  if (!name.empty() && name != kNoNote) title += name + " - ";
+  form.Title = title + form.Caption();
+}
+
+}  // namespace lectern::aids

@@ -1,0 +1,40 @@
+#include "aids/printed_page.h"
+
+#include "core/error_modes.h"
+
+namespace lectern::aids {
+
+PrintedPage::PrintedPage(forms::Window& window)
+    : form(window),
+      Text1(form, "Text1", {.caption = "Text1", .multi_line = true, .name = "Page"}),
+      Command1(form, "Command1", {.caption = "Print"}),
+      Command2(form, "Command2", {.caption = "Cancel", .is_cancel = true}) {
+  Command1.Click = [this] { Command1_Click(); };
+  Command2.Click = [this] { form.Visible = false; };
+}
+
+void PrintedPage::Form_Load() {
+  const core::ScreenSize screen = form.Platform().Screen();
+  form.Left = (screen.width - form.Width) / 2;
+  form.Top = (screen.height - form.Height) / 2;
+}
+
+// The window grows while it is printed, so that more lines come onto the paper, and loses its buttons.
+void PrintedPage::Command1_Click() {
+  constexpr double kPrintedHeight = 14000;  // twips
+  constexpr double kMoreText = 7000;
+  constexpr double kHeight = 7050;
+  const core::Ignoring ignore;
+  Command1.Visible = false;
+  Command2.Visible = false;
+  form.Height = kPrintedHeight;
+  Text1.Height = Text1.Height + kMoreText;
+  // ODDITY(no-printer-untold): where no printer answers nothing is printed, and nothing is told; it is meant.
+  ignore([&] { form.Platform().PrintForm(form); });
+  Text1.Height = Text1.Height - kMoreText;
+  form.Height = kHeight;
+  Command1.Visible = true;
+  Command2.Visible = true;
+}
+
+}  // namespace lectern::aids

@@ -1,0 +1,35 @@
+#include "aids/printed_picture.h"
+
+#include "core/run_time_error.h"
+
+namespace lectern::aids {
+
+PrintedPicture::PrintedPicture(forms::Window& window)
+    : form(window), Image1(form, "Image1"), Command1(form, "Command1", {.caption = "Print"}) {
+  Command1.Click = [this] { Command1_Click(); };
+}
+
+// ODDITY(print-button-on-picture): the button stays where it is and so comes onto the paper; it is meant.
+void PrintedPicture::Command1_Click() {
+  try {
+    form.Platform().PrintForm(form);
+  } catch (const core::RunTimeError&) {
+    form.Platform().Message(
+        "Printer not found. Make sure that your printer is connected and turned on and ty again.");
+  }
+}
+
+void PrintedPicture::PrintPaintPicture(const forms::Picture& picture) {
+  const core::ScreenSize screen = form.Platform().Screen();
+  Image1.Picture = picture;
+  form.Visible = true;
+  // ODDITY(print-picture-cut): the window gets the picture's size, frame and title bar included, so that the
+  // picture's right and lower edges lie outside; it is meant.
+  form.Height = Image1.Height;
+  form.Width = Image1.Width;
+  form.Left = (screen.width - Image1.Width) / 2;
+  form.Top = (screen.height - Image1.Height) / 2;
+  Command1.Left = (Image1.Width - Command1.Width) / 2;
+}
+
+}  // namespace lectern::aids

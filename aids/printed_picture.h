@@ -1,0 +1,27 @@
+// A picture in a window of its own, with a button that sends it to the printer. No control opens the window:
+// it stands ready for whoever has a picture to print.
+#pragma once
+
+#include "core/forms/buttons.h"
+#include "core/forms/image.h"
+#include "core/forms/window.h"
+
+namespace lectern::aids {
+
+class PrintedPicture {
+ public:
+  explicit PrintedPicture(forms::Window& window);
+
+  // Shows the window around the picture, in the middle of the screen. Without a picture, it keeps the one
+  // that stands and its size.
+  void PrintPaintPicture(const forms::Picture& picture);
+
+  forms::Window& form;
+  forms::Image Image1;
+  forms::CommandButton Command1;
+
+ private:
+  void Command1_Click();
+};
+
+}  // namespace lectern::aids

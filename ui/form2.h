@@ -1,0 +1,18 @@
+// The window of the page that is printed.
+#pragma once
+
+#include "aids/printed_page.h"
+
+namespace lectern::ui {
+
+class Form2 : public forms::Window {
+ public:
+  explicit Form2(forms::Services services);
+
+  void Form_Load() override { page.Form_Load(); }
+
+ private:
+  aids::PrintedPage page;
+};
+
+}  // namespace lectern::ui
