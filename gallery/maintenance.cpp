@@ -2,12 +2,11 @@
 
 namespace lectern::gallery {
 
-Maintenance::Maintenance(core::Panels& panels)
-    : Dirpics(panels.Frame5, "Dirpics", {.name = "Folder of the pictures"}),
-      File3(panels.Frame5, "File3", {.name = "Files of the pictures"}),
+Maintenance::Maintenance(PictureCatalogue& catalogue, core::Panels& panels)
+    : File3(panels.Frame6, "File3", {.name = "Files of the pictures"}),
       Command26(panels.Frame5, "Command26", {.caption = "pictures"}),
       Command46(panels.Frame5, "Command46", {.caption = "Close"}) {
-  Dirpics.Change = [this] { File3.Path = Dirpics.Path; };
+  catalogue.Dirpics.Change = [this, &catalogue] { File3.Path = catalogue.Dirpics.Path; };
   Command26.Click = [&panels] { panels.Frame5.Visible = true; };
   Command46.Click = [&panels] { panels.Frame5.Visible = false; };
 }

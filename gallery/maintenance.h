@@ -4,16 +4,15 @@
 
 #include "core/forms/buttons.h"
 #include "core/forms/folder_lists.h"
-#include "core/panels.h"
+#include "gallery/picture_catalogue.h"
 
 namespace lectern::gallery {
 
 class Maintenance {
  public:
-  explicit Maintenance(core::Panels& panels);
+  Maintenance(PictureCatalogue& catalogue, core::Panels& panels);
 
-  forms::DirListBox Dirpics;  // the folder of the pictures
-  forms::FileListBox File3;
+  forms::FileListBox File3;  // the files of the pictures
   forms::CommandButton Command26;
   forms::CommandButton Command46;
 };

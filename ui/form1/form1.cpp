@@ -24,11 +24,23 @@ Form1::Form1(forms::Services services)
       one_pass_builder(reader, panels, text_search, concordance_builder),
       bookmarks(panels),
       page_printing(panels),
-      maintenance(panels),
+      pictures(reader, panels),
+      viewer(pictures, panels),
+      browser(pictures, viewer, panels),
+      maintenance(pictures, panels),
+      old_catalogue(pictures, viewer),
+      older_list(pictures, panels),
       start_up(reader, panels, catalogue,
-               {maintenance.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
+               {pictures.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
                 concordance_builder.Text2, settings.Combo1, settings.Combo2, settings.Combo3}),
       exits(reader, menus, tools, {settings.Combo1, settings.Combo2, settings.Combo3}) {
+  reader.ExtractBookPictures = [this] { pictures.ExtractBookPictures(); };
+  reader.FillPictureLists = [this] { pictures.FillPictureLists(); };
+  reader.SeekChapterPicture = [this] { pictures.SeekChapterPicture(); };
+  routines["ConvertPicsDat"] = [this](const std::string&) { old_catalogue.ConvertPicsDat(); };
+  routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue.ShowPicsDatPicture(); };
+  routines["ListChapterPictures"] = [this](const std::string&) { older_list.ListChapterPictures(); };
+
   for (const std::span<const Place> table : kForm1Places) Apply(table, *this);
 }
 

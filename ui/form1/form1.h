@@ -16,7 +16,12 @@
 #include "core/settings.h"
 #include "core/start_up.h"
 #include "core/tool_buttons.h"
+#include "gallery/browser.h"
 #include "gallery/maintenance.h"
+#include "gallery/old_catalogue.h"
+#include "gallery/older_list.h"
+#include "gallery/picture_catalogue.h"
+#include "gallery/viewer.h"
 #include "search/concordance_builder.h"
 #include "search/concordance_editing.h"
 #include "search/concordance_viewer.h"
@@ -52,7 +57,12 @@ class Form1 : public forms::Window {
   search::OnePassBuilder one_pass_builder;
   aids::Bookmarks bookmarks;
   aids::PagePrinting page_printing;
+  gallery::PictureCatalogue pictures;
+  gallery::Viewer viewer;
+  gallery::Browser browser;
   gallery::Maintenance maintenance;
+  gallery::OldCatalogue old_catalogue;
+  gallery::OlderList older_list;
   core::StartUp start_up;
   core::Exits exits;
 };

@@ -12,8 +12,11 @@ namespace lectern::ui {
 extern const std::span<const Place> kReaderPlaces;
 extern const std::span<const Place> kSearchPlaces;
 extern const std::span<const Place> kConcordancePlaces;
+extern const std::span<const Place> kGalleryPlaces;
+extern const std::span<const Place> kBenchPlaces;
 extern const std::span<const Place> kStoragePlaces;
 
-inline const std::array kForm1Places = {kReaderPlaces, kSearchPlaces, kConcordancePlaces, kStoragePlaces};
+inline const std::array kForm1Places = {kReaderPlaces,  kSearchPlaces, kConcordancePlaces,
+                                        kGalleryPlaces, kBenchPlaces,  kStoragePlaces};
 
 }  // namespace lectern::ui
