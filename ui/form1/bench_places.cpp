@@ -10,7 +10,17 @@ constexpr double kStartUpGrowth = 50.0 / 15;  // start-up moves the button down 
 
 constexpr Place kPlaces[] = {
     {"Frame5", 2000, -40, 916, 628},  {"Command26", 16, 32 - kStartUpGrowth, 120, 28},
+    {"Label2", 152, 37, 120, 20},     {"lblendpic", 288, 37, 80, 20},
     {"Command46", 804, 32, 96, 28},
+
+    {"Label3(0)", 16, 76, 160, 20},   {"selfile(0)", 184, 72, 264, 26},
+    {"Label3(1)", 16, 108, 160, 20},  {"selfile(1)", 184, 104, 264, 26},
+    {"Label3(2)", 16, 140, 160, 20},  {"selfile(2)", 184, 136, 264, 26},
+
+    {"Command49", 16, 176, 160, 28},  {"Command45", 184, 176, 160, 28},
+    {"Command47", 352, 176, 96, 28},  {"SSCommand1", 16, 212, 48, 28},
+    {"SSCommand2", 72, 212, 48, 28},  {"Command40", 184, 212, 160, 28},
+    {"Command48", 352, 212, 96, 28},
 
     {"Frame6", 464, 72, 436, 228},    {"lbltm", 16, 24, 64, 20},
     {"lstmc(0)", 16, 48, 128, 72},    {"lstmc(1)", 152, 48, 128, 72},

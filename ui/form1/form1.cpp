@@ -27,7 +27,7 @@ Form1::Form1(forms::Services services)
       pictures(reader, panels),
       viewer(pictures, panels),
       browser(pictures, viewer, panels),
-      maintenance(pictures, panels),
+      maintenance(pictures, browser, panels),
       old_catalogue(pictures, viewer),
       older_list(pictures, panels),
       start_up(reader, panels, catalogue,
