@@ -30,6 +30,7 @@ Form1::Form1(forms::Services services)
       maintenance(pictures, browser, panels),
       old_catalogue(pictures, viewer),
       older_list(pictures, panels),
+      book_converter(panels),
       start_up(reader, panels, catalogue,
                {pictures.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
                 concordance_builder.Text2, settings.Combo1, settings.Combo2, settings.Combo3}),

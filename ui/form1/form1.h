@@ -16,6 +16,7 @@
 #include "core/settings.h"
 #include "core/start_up.h"
 #include "core/tool_buttons.h"
+#include "gallery/book_converter.h"
 #include "gallery/browser.h"
 #include "gallery/maintenance.h"
 #include "gallery/old_catalogue.h"
@@ -63,6 +64,7 @@ class Form1 : public forms::Window {
   gallery::Maintenance maintenance;
   gallery::OldCatalogue old_catalogue;
   gallery::OlderList older_list;
+  gallery::BookConverter book_converter;
   core::StartUp start_up;
   core::Exits exits;
 };
