@@ -14,6 +14,7 @@
 #include "core/canon.h"
 #include "tools/make_data/book_files.h"
 #include "tools/make_data/concordance.h"
+#include "tools/make_data/pictures.h"
 #include "tools/make_data/sources.h"
 
 namespace lectern::make_data {
@@ -65,6 +66,8 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   MakeConcordance(folder, king_james, WhichVersion::kFirst, concordance_words);
   Progress("Concordance of the second version …");
   MakeConcordance(folder, world_english, WhichVersion::kSecond, concordance_words);
+  Progress("Pictures …");
+  MakePictures(folder);
   Progress("The data folder is ready.");
 }
 
