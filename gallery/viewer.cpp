@@ -15,6 +15,7 @@ Viewer::Viewer(PictureCatalogue& the_catalogue, core::Panels& the_panels)
       catalogue(the_catalogue),
       reader(catalogue.reader),
       panels(the_panels) {
+  pick.BorderStyle = 1;
   catalogue.picnm.Change = [this] { picnm_Change(); };
   reader.tmrpic.Tick = [this] { tmrpic_Timer(); };
   tmrpb.Tick = [this] { tmrpb_Timer(); };

@@ -64,7 +64,7 @@ QRect ControlView::Place() const {
   const int top = ToPixels(control_.Top);
   const int right = ToPixels(control_.Left + control_.Width);
   const int bottom = ToPixels(control_.Top + control_.Height);
-  return {left, top, right - left, bottom - top};
+  return {corner_.value_or(QPoint(left, top)), QSize(right - left, bottom - top)};
 }
 
 // What stands wholly outside of its panel, as a program's storage does, is no part of what a person sees or
