@@ -4,6 +4,7 @@
 #include "core/forms/image.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
+#include "ui/headless/picture_decoder.h"
 
 namespace lectern {
 namespace {
@@ -49,6 +50,14 @@ TEST(LargePicture, IsShownInTheStripAndTheViewer) {
   ASSERT_EQ(pick->Picture().Width(), kSide);
   EXPECT_EQ(pick->Picture().Height(), kSide);
   EXPECT_EQ(pick->Picture()->At(kSide - 1, kSide - 1), 0xFF604020U);
+}
+
+// A few hundred bytes can promise any size.
+TEST(LargePicture, BeyondAllReasonIsNone) {
+  std::string bytes = PackedBmp(1, 1);
+  for (const std::size_t place : {18U, 22U})
+    bytes.replace(place, 4, std::string("\x10\x40\0\0", 4));  // 16,400
+  EXPECT_EQ(ErrorOf([&] { headless::DecodePicture(bytes); }), 481);
 }
 
 }  // namespace
