@@ -66,7 +66,8 @@ QRect ControlView::Place() const {
   const int right = ToPixels(control_.Left + control_.Width);
   const int bottom = ToPixels(control_.Top + control_.Height);
   const int thinnest = control_.GetKind() == forms::Kind::kLine ? 1 : 0;
-  return {left, top, std::max(right - left, thinnest), std::max(bottom - top, thinnest)};
+  const QSize size(std::max(right - left, thinnest), std::max(bottom - top, thinnest));
+  return {corner_.value_or(QPoint(left, top)), size};
 }
 
 // What stands wholly outside of its panel, as a program's storage does, is no part of what a person sees or

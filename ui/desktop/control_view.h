@@ -41,6 +41,9 @@ class ControlView : public QObject, public LayerView {
   bool IsSeen() const { return widget_ != nullptr && !widget_->isHidden(); }
   QRect Place() const;
 
+  // The upper left corner of its parent widget is its place from now on, wherever the control stands.
+  void StandInTheCorner() { corner_ = QPoint(0, 0); }
+
   // Its widget has come to lie where it belongs, above or below its siblings.
   virtual void Stacked() {}
 
@@ -85,6 +88,7 @@ class ControlView : public QObject, public LayerView {
   WindowView& window_;
   QWidget& parent_;
   QWidget* widget_ = nullptr;
+  std::optional<QPoint> corner_;
   int pointer_ = forms::kPointerDefault;
   std::optional<std::pair<forms::Colour, forms::Colour>> colours_;  // as applied
 };

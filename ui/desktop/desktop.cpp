@@ -9,13 +9,14 @@
 
 namespace lectern::desktop {
 
-Desktop::Desktop(std::string data_folder)
+Desktop::Desktop(std::string data_folder, std::vector<std::string> bench)
     : files_(std::move(data_folder)),
       program_({platform_, files_}),
       events_([this](forms::Window& window, const std::function<void()>& event) {
         program_.Deliver(window, event);
       }),
-      timers_(events_, [this](const auto& due) { program_.Tick(due); }) {
+      timers_(events_, [this](const auto& due) { program_.Tick(due); }),
+      bench_controls_(std::move(bench)) {
   JoinWindows();
   JoinPlatform();
   events_.starting = [this] {
@@ -78,16 +79,23 @@ QWidget* Desktop::FrontFrame() const {
 int Desktop::Run() {
   events_.Run([this] { program_.Start(); });
   if (program_.HasEnded()) return program_.Status();
+  if (!bench_controls_.empty()) ShowBench();
   // A mark in the title bar is no reason to keep the reader from the text.
   constexpr int kWhenTextIsThere = 200;  // milliseconds
   QTimer::singleShot(kWhenTextIsThere, [] { QApplication::setWindowIcon(ProgramIcon()); });
   return QApplication::exec();
 }
 
+// The main window is the first that the program makes, and stands until it ends.
+void Desktop::ShowBench() {
+  bench_ = std::make_unique<BenchView>(*program_.windows.All().front(), *windows_.front(), bench_controls_);
+}
+
 void Desktop::Settle() {
   if (program_.HasEnded()) return Leave();
   // Settling a window may deliver an event, and that one make or end others.
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->Settle();
+  if (bench_) bench_->Settle();
   timers_.Reckon();
 }
 
@@ -95,6 +103,7 @@ void Desktop::Leave() {
   for (const auto& window : windows_) {
     if (window->Frame() != nullptr) window->Frame()->hide();
   }
+  if (bench_) bench_->Frame().hide();
   QApplication::exit(program_.Status());
 }
 

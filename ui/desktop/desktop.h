@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/files/file_system.h"
+#include "ui/desktop/bench_view.h"
 #include "ui/desktop/events.h"
 #include "ui/desktop/platform.h"
 #include "ui/desktop/timers.h"
@@ -18,8 +19,8 @@ namespace lectern::desktop {
 
 class Desktop {
  public:
-  // An application must stand.
-  explicit Desktop(std::string data_folder);
+  // An application must stand. The controls named in `bench` are shown in a second window.
+  explicit Desktop(std::string data_folder, std::vector<std::string> bench = {});
   ~Desktop();
 
   // Starts the program and stays until it ends; the exit status.
@@ -28,6 +29,7 @@ class Desktop {
  private:
   void JoinWindows();
   void JoinPlatform();
+  void ShowBench();
   void Settle();
   void Leave();
   QWidget* FrontFrame() const;
@@ -38,6 +40,8 @@ class Desktop {
   Events events_;
   Timers timers_;
   std::vector<std::unique_ptr<WindowView>> windows_;
+  std::vector<std::string> bench_controls_;
+  std::unique_ptr<BenchView> bench_;
   QObject receiver_;  // of signals that outlive nothing here
 };
 

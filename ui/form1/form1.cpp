@@ -29,14 +29,28 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
       page_printing(reader, panels, others.Form2),
       notes_doors(panels, tools, menus, others.notes),
       help(reader, panels, tools, menus),
-      maintenance(panels),
+      pictures(reader, panels),
+      viewer(pictures, panels),
+      browser(pictures, viewer, panels),
+      maintenance(pictures, browser, panels),
+      old_catalogue(pictures, viewer),
+      older_list(pictures, panels),
+      book_converter(panels),
       start_up(reader, panels, catalogue,
-               {maintenance.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
+               {pictures.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
                 concordance_builder.Text2, settings.Combo1, settings.Combo2, settings.Combo3}),
       exits(reader, menus, tools, {settings.Combo1, settings.Combo2, settings.Combo3}) {
   start_up.ReadSettings = [this] { settings.ReadSettings(); };
   settings.PointAtSearchButton = [this](int pointer) { text_search.Command22.MousePointer = pointer; };
   text_search.ShowHelpNote = [this](const std::string& text) { help.ShowNote(text); };
+  maintenance.HelpChangingBook = [this] { help.HelpChangingBook(); };
+  reader.ExtractBookPictures = [this] { pictures.ExtractBookPictures(); };
+  reader.FillPictureLists = [this] { pictures.FillPictureLists(); };
+  reader.SeekChapterPicture = [this] { pictures.SeekChapterPicture(); };
+  routines["ConvertPicsDat"] = [this](const std::string&) { old_catalogue.ConvertPicsDat(); };
+  routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue.ShowPicsDatPicture(); };
+  routines["ListChapterPictures"] = [this](const std::string&) { older_list.ListChapterPictures(); };
+
   for (const std::span<const Place> table : kForm1Places) Apply(table, *this);
 }
 

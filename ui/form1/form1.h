@@ -21,7 +21,13 @@
 #include "core/start_up.h"
 #include "core/stories.h"
 #include "core/tool_buttons.h"
+#include "gallery/book_converter.h"
+#include "gallery/browser.h"
 #include "gallery/maintenance.h"
+#include "gallery/old_catalogue.h"
+#include "gallery/older_list.h"
+#include "gallery/picture_catalogue.h"
+#include "gallery/viewer.h"
 #include "search/concordance_builder.h"
 #include "search/concordance_editing.h"
 #include "search/concordance_viewer.h"
@@ -70,7 +76,13 @@ class Form1 : public forms::Window {
   aids::PagePrinting page_printing;
   aids::NotesDoors notes_doors;
   aids::Help help;
+  gallery::PictureCatalogue pictures;
+  gallery::Viewer viewer;
+  gallery::Browser browser;
   gallery::Maintenance maintenance;
+  gallery::OldCatalogue old_catalogue;
+  gallery::OlderList older_list;
+  gallery::BookConverter book_converter;
   core::StartUp start_up;
   core::Exits exits;
 };

@@ -17,6 +17,8 @@ extern const std::span<const Place> kTriviaPlaces;
 extern const std::span<const Place> kBookmarkPlaces;
 extern const std::span<const Place> kHelpPlaces;
 extern const std::span<const Place> kSettingsPlaces;
+extern const std::span<const Place> kGalleryPlaces;
+extern const std::span<const Place> kBenchPlaces;
 extern const std::span<const Place> kStoragePlaces;
 
 // clang-format off
@@ -29,6 +31,8 @@ inline const std::array kForm1Places = {
     kBookmarkPlaces,
     kHelpPlaces,
     kSettingsPlaces,
+    kGalleryPlaces,
+    kBenchPlaces,
     kStoragePlaces,
 };
 // clang-format on

@@ -1,5 +1,6 @@
 #include "ui/headless/picture_decoder.h"
 
+#include <cstdint>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <memory>
 
@@ -32,15 +33,31 @@ forms::Picture FromPixbuf(const GdkPixbuf* pixbuf) {
   return forms::Picture(std::move(bitmap));
 }
 
+// The same limit as on the desktop: a gigabyte of pixels.
+void NoteSize(GdkPixbufLoader* /*loader*/, gint width, gint height, gpointer too_large) {
+  constexpr std::int64_t kMostPixels = std::int64_t{1024} * 1024 * 1024 / sizeof(forms::Pixel);
+  *static_cast<bool*>(too_large) = std::int64_t{width} * height > kMostPixels;
+}
+
 }  // namespace
 
 forms::Picture DecodePicture(std::string_view bytes) {
+  const core::RunTimeError none(core::ErrorNumber::kInvalidPicture);
   const std::unique_ptr<GdkPixbufLoader, Unreference> loader(gdk_pixbuf_loader_new());
-  const auto* const data = reinterpret_cast<const guchar*>(bytes.data());
-  const bool taken = gdk_pixbuf_loader_write(loader.get(), data, bytes.size(), nullptr) != FALSE;
+  bool too_large = false;
+  g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(NoteSize), &too_large);
+  // Piece by piece, so that a header that promises the moon is found out before the rest is decoded.
+  bool taken = true;
+  while (taken && !too_large && !bytes.empty()) {
+    constexpr std::size_t kPiece = 1 << 16;
+    const std::string_view piece = bytes.substr(0, kPiece);
+    const auto* const data = reinterpret_cast<const guchar*>(piece.data());
+    taken = gdk_pixbuf_loader_write(loader.get(), data, piece.size(), nullptr) != FALSE;
+    bytes.remove_prefix(piece.size());
+  }
   const bool closed = gdk_pixbuf_loader_close(loader.get(), nullptr) != FALSE;
   const GdkPixbuf* const pixbuf = gdk_pixbuf_loader_get_pixbuf(loader.get());
-  if (!taken || !closed || pixbuf == nullptr) throw core::RunTimeError(core::ErrorNumber::kInvalidPicture);
+  if (!taken || !closed || too_large || pixbuf == nullptr) throw none;
   return FromPixbuf(pixbuf);
 }
 

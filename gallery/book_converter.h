@@ -1,0 +1,46 @@
+// Turns a book's text as it comes from elsewhere, pasted into a pane, into a book file: a tool of the
+// keeper's. The source has a header line, a blank line, the book's name, and verses marked by their number in
+// square brackets:
+//
+//   Codex, King James Version
+//
+//   Ruth
+//   [1]Now it came to pass in the days when the judges ruled …
+//
+// A verse of number 1 begins a chapter. The file goes into the folder that is chosen beside the panes;
+// converting a book twice doubles its file. Nothing traps a failure.
+#pragma once
+
+#include <string>
+
+#include "core/forms/buttons.h"
+#include "core/forms/folder_lists.h"
+#include "core/forms/label.h"
+#include "core/forms/rich_text_box.h"
+#include "core/panels.h"
+
+namespace lectern::gallery {
+
+class BookConverter {
+ public:
+  explicit BookConverter(core::Panels& panels);
+
+  forms::DirListBox Dir2;  // where the book file goes
+  forms::FileListBox File2;
+  forms::RichTextBox RTB1;  // the source
+  forms::RichTextBox RTB2;  // the result
+  forms::Label NME;         // the book's name
+  forms::CommandButton Command33;
+
+ private:
+  void Command33_Click();
+
+  void LaySourceDown(const std::string& scratch);
+  std::string ReadBookName();
+  void ConvertVerses();
+  std::string WholeVerse(std::string line);
+
+  forms::Window& form;
+};
+
+}  // namespace lectern::gallery

@@ -1,0 +1,109 @@
+#include "gallery/browser.h"
+
+#include "core/error_modes.h"
+#include "core/text/characters.h"
+#include "core/text/numbers.h"
+#include "gallery/place.h"
+
+namespace lectern::gallery {
+
+namespace {
+
+constexpr int kFirstPage = 4;  // the index of its last slot
+constexpr const char* kPastTheList = "end";
+
+forms::Design Slot(std::string_view name) { return {.value = 1, .name = name}; }
+
+}  // namespace
+
+Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, core::Panels& the_panels)
+    : SSCommand4(the_panels.Picture5, "SSCommand4", {.caption = "‹", .name = "Pictures before these"}),
+      imgp(the_panels.Picture5, "imgp",
+           {Slot("First picture on the strip"), Slot("Second picture on the strip"),
+            Slot("Third picture on the strip"), Slot("Fourth picture on the strip"),
+            Slot("Fifth picture on the strip")}),
+      lblp(the_panels.Picture5, "lblp", 2 * kSlotsOnPage),
+      SSCommand3(the_panels.Picture5, "SSCommand3", {.caption = "›", .name = "Pictures after these"}),
+      catalogue(the_catalogue),
+      viewer(the_viewer),
+      panels(the_panels) {
+  catalogue.lblendpic.Change = [this] { lblendpic_Change(); };
+  imgp.ForEach([this](int slot, forms::Image& image) {
+    image.BorderStyle = 1;
+    image.Click = [this, slot] { imgp_Click(slot); };
+  });
+  SSCommand3.Click = [this] { SSCommand3_Click(); };
+  SSCommand4.Click = [this] { SSCommand4_Click(); };
+}
+
+void Browser::lblendpic_Change() {
+  if (catalogue.lblendpic.Caption == "") return;
+  const int base = catalogue.PageStart();
+  // ODDITY(missing-picture-stops-the-page): a picture that cannot be loaded leaves the slots from there on as
+  // they were, and on a page turn it ends the program. It is meant.
+  for (int slot = 0; slot < kSlotsOnPage; ++slot) ShowSlot(slot, base + slot);
+  ResetPictureLabels();
+}
+
+void Browser::ShowSlot(int slot, int index) {
+  const forms::Window& form = catalogue.reader.form;
+  if (catalogue.lstmc(1).ListCount() <= index) {
+    imgp(slot).Picture = form.LoadPicture(catalogue.reader.Dir1.Path + "\\picend.jpg");
+    Below(slot).Caption = kPastTheList;
+    Above(slot).Caption = kPastTheList;
+    return;
+  }
+  const std::string& name = catalogue.lstmc(0).List(index);
+  // ODDITY(nameless-slot): a record without a name leaves its slot as it was. It is meant.
+  if (name.empty()) return;
+  const std::size_t book_length = text::Length(catalogue.reader.lblbk.Caption());
+  imgp(slot).Picture = form.LoadPicture(catalogue.PictureFile(name));
+  Below(slot).Caption = std::string(ChapterAndVerse(catalogue.lstmc(1).List(index), book_length));
+  Above(slot).Caption = std::to_string(index + 1);
+}
+
+void Browser::ResetPictureLabels() {
+  for (int slot = 0; slot < kSlotsOnPage; ++slot) Below(slot).ForeColor = kUnpickedColour;
+}
+
+void Browser::SSCommand3_Click() {
+  forms::Label& lblendpic = catalogue.lblendpic;
+  // ODDITY(page-of-fillers): only a filler in the last slot stops it, so that a book of just five pictures,
+  // or ten, has one more page with nothing but fillers. It is meant.
+  if (Below(kSlotsOnPage - 1).Caption == kPastTheList) return;
+  if (lblendpic.Caption == "lblendpic") {
+    lblendpic.Caption = std::to_string(kFirstPage);
+  } else {
+    lblendpic.Caption = text::NumberText(text::NumberValue(lblendpic.Caption()) + kSlotsOnPage);
+  }
+  ResetPictureLabels();
+}
+
+// A book without pictures stops it too: its first number is not 1, and there is no page before it.
+void Browser::SSCommand4_Click() {
+  forms::Label& lblendpic = catalogue.lblendpic;
+  if (Above(0).Caption == "1" || catalogue.PageStart() <= 0) return;
+  lblendpic.Caption = text::NumberText(text::NumberValue(lblendpic.Caption()) - kSlotsOnPage);
+}
+
+void Browser::imgp_Click(int slot) {
+  const core::Ignoring ignore;
+  const int index = catalogue.PageStart() + slot;
+  ResetPictureLabels();
+  for (int field = 0; field < catalogue.selfile.Count(); ++field) {
+    ignore([&] { catalogue.selfile(field).Text = catalogue.lstmc(field).List(index); });
+  }
+  ignore([&] { Below(slot).ForeColor = kPickedColour; });
+  // ODDITY(filler-opens-viewer): of a filler the bar refuses the index; the picked record is emptied, and
+  // the viewer opens with what it showed. It is meant.
+  ignore([&] { catalogue.picnm.Value = index; });
+  // The bar may stand on picture 0 already, and then nothing has changed.
+  if (slot == 0 && catalogue.lblendpic.Caption == std::to_string(kFirstPage)) {
+    ignore([&] { viewer.LBLPICP.Caption = catalogue.selfile(0).Text; });
+    ignore([&] { viewer.lblvs.Caption = catalogue.selfile(1).Text; });
+    ignore([&] { viewer.pick.Picture = imgp(0).Picture; });
+  }
+  ignore([&] { panels.picp.Visible = true; });
+}
+
+}  // namespace lectern::gallery

@@ -1,0 +1,47 @@
+// The strip along the bottom of the window: the book's pictures, five at a time, each with its number above
+// and its chapter and verse below. Two buttons turn the page; a click on a picture picks it and opens the
+// viewer on it.
+//
+// The page is PictureCatalogue's lblendpic and nothing else: writing its caption draws the strip, and
+// whoever wants the same page drawn anew writes "" first. The picture that is picked is the one whose label
+// below is red; the keeper's tools find it by that colour.
+#pragma once
+
+#include "core/forms/image.h"
+#include "gallery/picture_catalogue.h"
+#include "gallery/viewer.h"
+
+namespace lectern::gallery {
+
+inline constexpr int kSlotsOnPage = 5;
+inline constexpr forms::Colour kPickedColour = forms::kRed;
+inline constexpr forms::Colour kUnpickedColour = forms::kButtonText;
+
+class Browser {
+ public:
+  Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, core::Panels& the_panels);
+
+  // Takes the mark from whichever picture is picked.
+  void ResetPictureLabels();
+
+  forms::SSCommand SSCommand4;             // to the page before
+  forms::ControlArray<forms::Image> imgp;  // the slots, left to right
+  forms::ControlArray<forms::Label> lblp;  // 0 to 4 below the slots, 5 to 9 above them
+  forms::SSCommand SSCommand3;             // to the next page
+
+ private:
+  void lblendpic_Change();
+  void ShowSlot(int slot, int index);
+  void imgp_Click(int slot);
+  void SSCommand3_Click();
+  void SSCommand4_Click();
+
+  forms::Label& Above(int slot) { return lblp(slot + kSlotsOnPage); }
+  forms::Label& Below(int slot) { return lblp(slot); }
+
+  PictureCatalogue& catalogue;
+  Viewer& viewer;
+  core::Panels& panels;
+};
+
+}  // namespace lectern::gallery

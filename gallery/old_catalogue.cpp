@@ -1,0 +1,110 @@
+#include "gallery/old_catalogue.h"
+
+#include <utility>
+
+#include "core/error_modes.h"
+#include "core/text/characters.h"
+#include "core/text/letter_case.h"
+#include "core/text/numbers.h"
+#include "gallery/place.h"
+
+namespace lectern::gallery {
+
+namespace {
+
+constexpr int kOld = 1;  // slots
+constexpr int kNew = 2;
+
+}  // namespace
+
+OldCatalogue::OldCatalogue(PictureCatalogue& the_catalogue, Viewer& the_viewer)
+    : catalogue(the_catalogue),
+      viewer(the_viewer),
+      reader(catalogue.reader),
+      Command38(reader.form, "Command38", {.caption = "Command38"}) {
+  Command38.Click = [this] { Command38_Click(); };
+}
+
+std::string OldCatalogue::OldFile() const { return reader.Dir1.Path + "\\pics.dat"; }
+
+void OldCatalogue::ConvertPicsDat() {
+  enum class Expected { kCredit, kName, kPlace };
+  files::FileSlots& slots = reader.form.Slots();
+  const core::Ignoring ignore;
+  ignore([&] { reader.form.Files().DeleteKeepingBackup(catalogue.CatalogueFile()); });  // or it was missing
+  slots.OpenForReading(kOld, OldFile());
+  slots.OpenForAppending(kNew, catalogue.CatalogueFile());
+  PictureRecord record;
+  Expected expected = Expected::kCredit;
+  while (!slots.EndOfFile(kOld)) {
+    std::string line(slots.ReadLine(kOld));
+    // ODDITY(short-names-are-skipped): a name of five letters or fewer is taken for no line at all, and the
+    // place behind it for a name. It is meant.
+    constexpr std::size_t kTooShort = 5;
+    if (text::Length(line) <= kTooShort || line.starts_with("'''''")) continue;
+    if (line.starts_with("PICTU")) {
+      record.author = std::move(line);
+      expected = Expected::kName;
+    } else if (expected == Expected::kName) {
+      record.name = std::move(line);
+      expected = Expected::kPlace;
+    } else if (expected == Expected::kPlace) {
+      record.place = std::move(line);
+      WritePictureRecord(slots, kNew, record);
+      expected = Expected::kName;
+    }
+  }
+  slots.Close(kOld);
+  slots.Close(kNew);
+  reader.rtxt.LoadFile(catalogue.CatalogueFile());
+}
+
+// Shows the picture whose place the line is, where that lies at or behind the reader's chapter and the
+// picture has a name; whether it did.
+bool OldCatalogue::ShowAtOrBehindChapter(const std::string& line, std::string name) {
+  const int chapter = ChapterOf(line, text::Length(reader.lblbk.Caption()));
+  name = text::TrimEnd(name);
+  if (chapter < text::NumberValue(reader.lblc.Caption()) || name.empty()) return false;
+  viewer.pick.Picture = reader.form.LoadPicture(reader.Dir1.Path + "\\pics\\" + name + ".jpg");
+  viewer.LBLPICP.Caption = name;
+  viewer.lblvs.Caption = line;
+  return true;
+}
+
+void OldCatalogue::ShowPicsDatPicture() {
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForReading(kOld, OldFile());
+  std::string name;
+  bool shown = false;
+  while (!shown && !slots.EndOfFile(kOld)) {
+    const std::string line(slots.ReadLine(kOld));
+    if (IsInBook(line, reader.lblbk.Caption())) {
+      shown = ShowAtOrBehindChapter(line, name);
+    } else {
+      name = line;
+    }
+  }
+  slots.CloseAll();
+}
+
+// The same with every line told in a box, and the book's name in another: a means to look into the file.
+void OldCatalogue::Command38_Click() {
+  files::FileSlots& slots = reader.form.Slots();
+  const std::string book = text::Upper(reader.lblbk.Caption());
+  slots.OpenForReading(kOld, OldFile());
+  std::string name;
+  bool shown = false;
+  while (!shown && !slots.EndOfFile(kOld)) {
+    const std::string line(slots.ReadLine(kOld));
+    reader.form.Platform().Message(line);
+    reader.form.Platform().Message(book);
+    if (IsInBook(text::Upper(line), book)) {
+      shown = ShowAtOrBehindChapter(line, name);
+    } else {
+      name = line;
+    }
+  }
+  slots.Close(kOld);
+}
+
+}  // namespace lectern::gallery

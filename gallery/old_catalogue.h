@@ -1,0 +1,30 @@
+// The catalogue in its older form, `pics.dat`: plain lines, a credit ("PICTURES BY: …") for the pictures
+// below it, then a pair of lines a picture, its name and its place. Nothing of the reader's uses it any
+// more; these are the routine that turns it into today's catalogue, and two that show a chapter's picture
+// straight from it, by the older rule: the first picture at or behind the chapter.
+#pragma once
+
+#include "gallery/viewer.h"
+
+namespace lectern::gallery {
+
+class OldCatalogue {
+ public:
+  OldCatalogue(PictureCatalogue& the_catalogue, Viewer& the_viewer);
+
+  void ConvertPicsDat();  // replaces `pics2.dat`
+  void ShowPicsDatPicture();
+
+ private:
+  void Command38_Click();
+
+  bool ShowAtOrBehindChapter(const std::string& line, std::string name);
+  std::string OldFile() const;
+
+  PictureCatalogue& catalogue;
+  Viewer& viewer;
+  core::Reader& reader;
+  forms::CommandButton Command38;  // beyond the window's right edge
+};
+
+}  // namespace lectern::gallery

@@ -1,0 +1,127 @@
+#include "gallery/picture_catalogue.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/error_modes.h"
+#include "core/text/characters.h"
+#include "core/text/numbers.h"
+#include "gallery/place.h"
+
+namespace lectern::gallery {
+
+namespace {
+
+constexpr int kWork = 1;  // slots
+constexpr int kCatalogue = 2;
+
+// Each whole record that is left in a file, failures passed over; none where the file did not open.
+template <class Take>
+void ForEachRecord(files::FileSlots& slots, int slot, Take take) {
+  const core::Ignoring ignore;
+  while (slots.IsOpen(slot) && !slots.EndOfFile(slot)) {
+    ignore([&] { take(ReadPictureRecord(slots, slot)); });
+  }
+}
+
+}  // namespace
+
+PictureCatalogue::PictureCatalogue(core::Reader& the_reader, core::Panels& panels)
+    : reader(the_reader),
+      lstmc(panels.Frame6, "lstmc",
+            {{.name = "Names of the book's pictures"},
+             {.name = "Places of the book's pictures"},
+             {.name = "Authors of the book's pictures"}}),
+      lbltm(panels.Frame6, "lbltm"),
+      selfile(panels.Frame5, "selfile", {{.name = "Name"}, {.name = "Place"}, {.name = "Author"}}),
+      Dirpics(panels.Frame6, "Dirpics", {.name = "Folder of the pictures"}),
+      lblendpic(panels.Frame5, "lblendpic", {.caption = "lblendpic"}),
+      picnm(panels.picp, "picnm", {.name = "Picture of the book"}) {}
+
+std::string PictureCatalogue::PictureFile(std::string_view name) const {
+  return (Dirpics.Path + "\\").append(name).append(".jpg");
+}
+
+int PictureCatalogue::PageStart() const {
+  constexpr int kSlotsBeforeLast = 4;
+  return text::RoundToLong(text::NumberValue(lblendpic.Caption())) - kSlotsBeforeLast;
+}
+
+void PictureCatalogue::ClearLists() {
+  lstmc.ForEach([](int, forms::ListBox& list) { list.Clear(); });
+}
+
+int PictureCatalogue::CopyBookRecords() {
+  const core::Ignoring ignore;
+  files::FileSlots& slots = reader.form.Slots();
+  const std::string& book = reader.lblbk.Caption;
+  const std::size_t book_length = text::Length(book);
+  int highest = 0;
+  ignore([&] { slots.OpenForReading(kCatalogue, CatalogueFile()); });
+  ignore([&] { slots.OpenForAppending(kWork, WorkFile()); });
+  ForEachRecord(slots, kCatalogue, [&](const PictureRecord& record) {
+    if (!IsInBook(record.place, book)) return;
+    ignore([&] { WritePictureRecord(slots, kWork, record); });
+    highest = std::max(highest, ChapterOf(record.place, book_length));
+  });
+  ignore([&] { slots.Close(kWork); });
+  ignore([&] { slots.Close(kCatalogue); });
+  return highest;
+}
+
+void PictureCatalogue::ExtractBookPictures() {
+  const core::Ignoring ignore;
+  ClearLists();
+  ignore([&] { reader.form.Files().Delete(WorkFile()); });
+  const int highest = CopyBookRecords();
+  ignore([&] { lbltm.Caption = std::to_string(highest); });
+  // ODDITY(blank-labels-on-book-change): where the viewer did not stand on picture 0 it looks up picture 0
+  // in lists that are empty yet: its labels go blank and the old picture stays. It is meant.
+  ignore([&] { picnm.Value = 0; });
+}
+
+// The order that one pass over the file for each chapter would give, in one reading: a chapter that a hand
+// mistyped as two thousand million costs nothing.
+std::vector<PictureCatalogue::Entry> PictureCatalogue::RecordsByChapter(std::size_t book_length,
+                                                                        int highest) {
+  const core::Ignoring ignore;
+  files::FileSlots& slots = reader.form.Slots();
+  std::vector<Entry> entries;
+  ignore([&] { slots.OpenForReading(kWork, WorkFile()); });
+  ForEachRecord(slots, kWork, [&](PictureRecord record) {
+    // ODDITY(chapter-nought): a place without a chapter is in the work file and in no list.
+    const int chapter = ChapterOf(record.place, book_length);
+    if (chapter >= 1 && chapter <= highest) entries.push_back({chapter, std::move(record)});
+  });
+  ignore([&] { slots.Close(kWork); });
+  std::stable_sort(entries.begin(), entries.end(),
+                   [](const Entry& a, const Entry& b) { return a.chapter < b.chapter; });
+  return entries;
+}
+
+void PictureCatalogue::FillPictureLists() {
+  const core::Ignoring ignore;
+  ClearLists();
+  const int highest = text::RoundToLong(text::NumberValue(lbltm.Caption()));
+  for (Entry& entry : RecordsByChapter(text::Length(reader.lblbk.Caption()), highest)) {
+    lstmc(0).AddItem(std::string(text::TrimEnd(entry.record.name)));
+    lstmc(1).AddItem(std::move(entry.record.place));
+    lstmc(2).AddItem(std::move(entry.record.author));
+  }
+  ignore([&] { picnm.Max = lstmc(0).ListCount() - 1; });
+  ignore([&] { lblendpic.Caption = ""; });
+  ignore([&] { lblendpic.Caption = "4"; });
+}
+
+void PictureCatalogue::SeekChapterPicture() {
+  const core::Ignoring ignore;
+  const std::size_t book_length = text::Length(reader.lblbook.Caption());
+  const double chapter = text::NumberValue(reader.lblc.Caption());
+  for (int i = 0; i < lstmc(1).ListCount(); ++i) {
+    if (ChapterOf(lstmc(1).List(i), book_length) != chapter) continue;
+    ignore([&] { picnm.Value = i; });
+    return;
+  }
+}
+
+}  // namespace lectern::gallery

@@ -1,0 +1,69 @@
+// The pictures of the book that is open. The catalogue, `pics2.dat`, is never held in memory: at each change
+// of book the book's records go to a work file, and from there, in the order of the chapters, into three
+// lists that stand side by side. All that the gallery shows comes from these lists.
+//
+// Here stand also the two controls through which the gallery is moved, because the lists and whoever
+// shows them both write them: the bar picnm, the index of the picture in the viewer, and the label
+// lblendpic, the index of the last picture on the strip's page. The lists lie in the keeper's frames and are
+// no reader's sight.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/forms/buttons.h"
+#include "core/forms/folder_lists.h"
+#include "core/forms/label.h"
+#include "core/forms/list_box.h"
+#include "core/forms/scroll_bar.h"
+#include "core/forms/text_box.h"
+#include "core/reader.h"
+#include "gallery/picture_record.h"
+
+namespace lectern::gallery {
+
+class PictureCatalogue {
+ public:
+  PictureCatalogue(core::Reader& the_reader, core::Panels& panels);
+
+  // The two stand together: the book's records to the work file, and from there into the lists. Whoever
+  // changed `pics2.dat` runs both. The strip is then on its first page. Neither shows a failure.
+  void ExtractBookPictures();
+  void FillPictureLists();
+
+  // Moves the viewer to the chapter's first picture, where it has one.
+  void SeekChapterPicture();
+
+  // Appends the book's records to the work file as they stand; the highest chapter among them, or 0.
+  int CopyBookRecords();
+
+  // The records of the work file by chapter, from 1 to the highest wanted, and within a chapter in the order
+  // of the file. The book's name has `book_length` characters.
+  struct Entry {
+    int chapter;
+    PictureRecord record;
+  };
+  std::vector<Entry> RecordsByChapter(std::size_t book_length, int highest);
+
+  std::string CatalogueFile() const { return reader.Dir1.Path + "\\pics2.dat"; }
+  std::string WorkFile() const { return reader.Dir1.Path + "\\tmppics2.dat"; }
+  std::string PictureFile(std::string_view name) const;
+
+  // The list index of the first picture on the strip's page.
+  int PageStart() const;
+
+  core::Reader& reader;
+
+  forms::ControlArray<forms::ListBox> lstmc;    // name, place and author, index by index
+  forms::Label lbltm;                           // the highest chapter with a picture
+  forms::ControlArray<forms::TextBox> selfile;  // the record picked last: name, place, author
+  forms::DirListBox Dirpics;                    // the folder of the pictures
+  forms::Label lblendpic;
+  forms::HScrollBar picnm;
+
+ private:
+  void ClearLists();
+};
+
+}  // namespace lectern::gallery

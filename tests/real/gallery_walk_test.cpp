@@ -1,0 +1,71 @@
+// The gallery that the data tool makes: pictures for every book, each on a verse that there is, and a strip
+// that can be paged from end to end.
+#include <gtest/gtest.h>
+#include <set>
+
+#include "core/canon.h"
+#include "core/files/file_slots.h"
+#include "core/forms/image.h"
+#include "core/forms/label.h"
+#include "core/forms/list_box.h"
+#include "gallery/picture_record.h"
+#include "tests/unit/test_window.h"
+#include "tools/make_data/sources.h"
+#include "ui/headless/driver.h"
+
+namespace lectern {
+namespace {
+
+std::string DataFolder() { return std::getenv("LECTERN_REAL_DATA"); }
+
+TEST(Gallery, HasPicturesForVersesOfEveryBook) {
+  const make_data::Version text = make_data::ReadKingJames();
+  files::FileSystem files(DataFolder());
+  files::FileSlots slots(files);
+  slots.OpenForReading(1, "pics2.dat");
+  std::set<int> books;
+  int last = -1;
+  while (!slots.EndOfFile(1)) {
+    const gallery::PictureRecord record = gallery::ReadPictureRecord(slots, 1);
+    EXPECT_TRUE(files.FileExists("pics\\" + record.name + ".jpg")) << record.name;
+    EXPECT_TRUE(record.author.starts_with("PICTURES BY: ") && record.author.size() > 13) << record.name;
+    const std::size_t colon = record.place.rfind(": ");
+    const std::size_t blank = record.place.rfind(' ', colon - 1);
+    const int book = make_data::BookPosition(record.place.substr(0, blank));
+    ASSERT_GE(book, 0) << record.place;
+    EXPECT_EQ(core::kCanon[static_cast<std::size_t>(book)], record.place.substr(0, blank));
+    const make_data::Book& chapters = text.books[static_cast<std::size_t>(book)];
+    const auto chapter = chapters.find(std::stoi(record.place.substr(blank + 1)));
+    ASSERT_NE(chapter, chapters.end()) << record.place;
+    EXPECT_TRUE(chapter->second.contains(std::stoi(record.place.substr(colon + 2)))) << record.place;
+    EXPECT_GE(book, last) << record.place << " stands behind a later book";
+    last = book;
+    books.insert(book);
+  }
+  EXPECT_EQ(books.size(), core::kCanon.size());
+}
+
+TEST(Gallery, CanBePagedThroughEveryBook) {
+  headless::Driver driver(DataFolder(), [](const std::string& line) { ADD_FAILURE() << line; });
+  driver.Execute("start");
+  forms::Window& form = *driver.Program().Touch("Form1");
+  const auto& names = dynamic_cast<forms::ListBox&>(*form.Find("lstmc", 0));
+  const auto& last_label = dynamic_cast<forms::Label&>(*form.Find("lblp", 4));
+  const auto& name = dynamic_cast<forms::Label&>(*form.Find("LBLPICP"));
+  const auto& pick = dynamic_cast<forms::Image&>(*form.Find("pick"));
+  for (const std::string_view book : core::kCanon) {
+    driver.Execute("click Form1.lst \"" + std::string(book) + "\"");
+    ASSERT_FALSE(driver.Program().HasEnded()) << book;
+    EXPECT_GT(names.ListCount(), 0) << book;
+    for (int page = 0; page * 5 < names.ListCount(); ++page) {
+      driver.Execute("click Form1.imgp(0)");
+      EXPECT_EQ(name.Caption, names.List(page * 5));
+      EXPECT_EQ(pick.Picture().Width(), 640);
+      driver.Execute("click Form1.SSCommand3");
+    }
+    EXPECT_EQ(last_label.Caption, "end") << book;
+  }
+}
+
+}  // namespace
+}  // namespace lectern
