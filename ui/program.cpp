@@ -1,7 +1,6 @@
 #include "ui/program.h"
 
 #include <algorithm>
-#include <memory>
 
 #include "core/error_modes.h"
 #include "core/forms/timer.h"
@@ -11,17 +10,26 @@ namespace lectern::ui {
 
 Program::Program(forms::Services services)
     : report_failure([](const core::RunTimeError&) {}),
-      Form1_(windows,
+      Form1_(
+          windows,
+          [this, services] {
+            return std::make_unique<Form1>(
+                services,
+                OtherWindows{.Form2 = [this]() -> forms::Window& { return Form2_(); },
+                             .notes = [this]() -> aids::Notes& { return Form3_().notes; },
+                             .OpenPaint = [this](const forms::Picture& picture) { Form4_().Open(picture); }});
+          }),
+      Form4_(windows,
              [this, services] {
-               return std::make_unique<Form1>(
-                   services, OtherWindows{.Form2 = [this]() -> forms::Window& { return Form2_(); },
-                                          .notes = [this]() -> aids::Notes& { return Form3_().notes; }});
+               return std::make_unique<Form4>(
+                   services, Form1_().Pictures(), Form1_().PictureViewer(),
+                   [this](const forms::Picture& picture) { Form5_().picture.PrintPaintPicture(picture); });
              }),
       Form2_(windows, [services] { return std::make_unique<Form2>(services); }),
       Form3_(windows, [services] { return std::make_unique<Form3>(services); }),
       Form5_(windows, [services] { return std::make_unique<Form5>(services); }),
-      known_{Knowing("Form1", Form1_), Knowing("Form2", Form2_), Knowing("Form3", Form3_),
-             Knowing("Form5", Form5_)} {}
+      known_{Knowing("Form1", Form1_), Knowing("Form4", Form4_), Knowing("Form2", Form2_),
+             Knowing("Form3", Form3_), Knowing("Form5", Form5_)} {}
 
 void Program::Start() {
   Guard(forms::AfterFailure::kEndProgram, [this] { Form1_().Visible = true; });

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -13,6 +14,7 @@
 #include "ui/form1/form1.h"
 #include "ui/form2.h"
 #include "ui/form3.h"
+#include "ui/form4/form4.h"
 #include "ui/form5.h"
 
 namespace lectern::ui {
@@ -68,6 +70,7 @@ class Program {
   void End(int status);
 
   forms::OnTouch<Form1> Form1_;
+  forms::OnTouch<Form4> Form4_;
   forms::OnTouch<Form2> Form2_;
   forms::OnTouch<Form3> Form3_;
   forms::OnTouch<Form5> Form5_;

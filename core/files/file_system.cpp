@@ -257,19 +257,45 @@ void FileSystem::Rename(std::string_view from, std::string_view to) const {
   if (::rename(from_path.c_str(), to_path.c_str()) != 0) FailWith(errno);
 }
 
+// Writes a file beside another one, to be put in its place; gives back its path.
+std::string FileSystem::WriteBeside(const std::string& path, std::string_view bytes) const {
+  std::string fresh = path.substr(0, path.rfind('/')) + "/lectern-saving.tmp";
+  ::unlink(fresh.c_str());
+  try {
+    Appending file = OpenForAppending(fresh);
+    file.Write(bytes);
+    file.Close();
+  } catch (const RunTimeError&) {
+    ::unlink(fresh.c_str());
+    throw;
+  }
+  return fresh;
+}
+
+namespace {
+
+void PutInPlace(const std::string& fresh, const std::string& path) {
+  if (::rename(fresh.c_str(), path.c_str()) == 0) return;
+  const int failure = errno;
+  ::unlink(fresh.c_str());
+  FailWith(failure);
+}
+
+}  // namespace
+
 void FileSystem::Replace(std::string_view name, std::string_view bytes) const {
   const std::string path = HostPath(name);
-  Announce(Operation::kWrite, path);
-  const std::string fresh = path + ".new";
-  ::unlink(fresh.c_str());
-  Appending file = OpenForAppending(fresh);
-  file.Write(bytes);
-  file.Close();
-  if (::rename(fresh.c_str(), path.c_str()) != 0) {
-    const int failure = errno;
-    ::unlink(fresh.c_str());
-    FailWith(failure);
-  }
+  const std::string fresh = WriteBeside(path, bytes);
+  Announce(Operation::kRename, path);
+  PutInPlace(fresh, path);
+}
+
+void FileSystem::ReplaceKeepingBackup(std::string_view name, std::string_view bytes) const {
+  const std::string path = HostPath(name);
+  const std::string fresh = WriteBeside(path, bytes);
+  if (At(path).file) DeleteKeepingBackup(name);
+  Announce(Operation::kRename, path);
+  PutInPlace(fresh, path);
 }
 
 void FileSystem::DeleteKeepingBackup(std::string_view name) const {

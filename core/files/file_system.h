@@ -72,7 +72,12 @@ class FileSystem {
 
   void Read(std::string_view name, Contents& contents) const;
   Appending OpenForAppending(std::string_view name) const;
-  void Replace(std::string_view name, std::string_view bytes) const;  // new contents for a whole file
+
+  // New contents for a whole file, which appear at once or not at all; with KeepingBackup the last version
+  // stays as with DeleteKeepingBackup.
+  void Replace(std::string_view name, std::string_view bytes) const;
+  void ReplaceKeepingBackup(std::string_view name, std::string_view bytes) const;
+
   void Delete(std::string_view name) const;
   void Rename(std::string_view from, std::string_view to) const;
 
@@ -96,6 +101,7 @@ class FileSystem {
   friend class Appending;
   std::string AsWritten(std::string_view name) const;
   void Announce(Operation operation, const std::string& path) const;
+  std::string WriteBeside(const std::string& path, std::string_view bytes) const;
 
   std::string start_folder_;
 };

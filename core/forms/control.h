@@ -216,6 +216,7 @@ class ControlArray {
     if (index < 0 || index >= Count()) throw core::RunTimeError(core::ErrorNumber::kSubscript);
     return controls_[static_cast<std::size_t>(index)];
   }
+  const Kind& operator()(int index) const { return const_cast<ControlArray&>(*this)(index); }
   int Count() const { return static_cast<int>(controls_.size()); }
 
   // Joins handlers: calls `join(index, control)` for each control.

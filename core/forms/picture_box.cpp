@@ -59,6 +59,7 @@ void PictureBox::PictureAssigned() {
   persistent_ = {};
   if (Picture()) Persistent();
   changed_.Include({0, 0, PixelWidth(), PixelHeight()});
+  Change();
 }
 
 // A bitmap of the box's present size with nothing but the background on it.

@@ -46,6 +46,8 @@ class PictureBox : public TextControl, public Container {
   std::string ContainerName() const override { return FullName(); }
   Container* Outer() const override { return &Parent(); }
 
+  Event<> Change;  // another picture was assigned
+
   RuledProperty<forms::Picture> Picture;
   Property<forms::Picture> MouseIcon;
   Property<bool> AutoRedraw;

@@ -41,6 +41,11 @@ void Window::SavePicture(const Picture& picture, std::string_view name) const {
   Files().Replace(name, BmpBytes(*picture));
 }
 
+void Window::SavePictureKeepingBackup(const Picture& picture, std::string_view name) const {
+  if (!picture) throw core::RunTimeError(core::ErrorNumber::kObjectRequired);
+  Files().ReplaceKeepingBackup(name, BmpBytes(*picture));
+}
+
 Control* Window::Find(std::string_view name, int index) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(), [&](const Control* control) {
     return control->Index() == index && text::EqualFolded(control->Name(), name);

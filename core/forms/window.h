@@ -38,6 +38,8 @@ class Window : public PropertyOwner, public Container {
   Picture LoadPicture(std::string_view name) const;
   // Writes the picture as a BMP, whatever the name ends in; 424 where there is no picture.
   void SavePicture(const Picture& picture, std::string_view name) const;
+  // The same over something a person made: the picture that was there stays under `backup`.
+  void SavePictureKeepingBackup(const Picture& picture, std::string_view name) const;
 
   // All controls in the order they were made.
   const std::vector<Control*>& Controls() const { return controls_; }

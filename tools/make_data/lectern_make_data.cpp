@@ -16,6 +16,7 @@
 #include "tools/make_data/concordance.h"
 #include "tools/make_data/dictionary_file.h"
 #include "tools/make_data/help_topics.h"
+#include "tools/make_data/paint_files.h"
 #include "tools/make_data/pictures.h"
 #include "tools/make_data/sources.h"
 #include "tools/make_data/topics.h"
@@ -71,13 +72,14 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   WriteFile(folder + "/codex.trv", TriviaRecords(ParseTrivia(kTriviaText)));
   Progress("Help …");
   WriteHelpTopics(folder);
+  Progress("Pictures …");
+  MakePictures(folder);
+  MakePaintFiles(folder);
   MakeSettings(folder);
   Progress("Concordance of the first version …");
   MakeConcordance(folder, king_james, WhichVersion::kFirst, concordance_words);
   Progress("Concordance of the second version …");
   MakeConcordance(folder, world_english, WhichVersion::kSecond, concordance_words);
-  Progress("Pictures …");
-  MakePictures(folder);
   Progress("The data folder is ready.");
 }
 

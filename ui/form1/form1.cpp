@@ -43,6 +43,7 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
   start_up.ReadSettings = [this] { settings.ReadSettings(); };
   settings.PointAtSearchButton = [this](int pointer) { text_search.Command22.MousePointer = pointer; };
   text_search.ShowHelpNote = [this](const std::string& text) { help.ShowNote(text); };
+  viewer.OpenPaint = [this, open_paint = others.OpenPaint] { open_paint(viewer.pick.Picture); };
   maintenance.HelpChangingBook = [this] { help.HelpChangingBook(); };
   reader.ExtractBookPictures = [this] { pictures.ExtractBookPictures(); };
   reader.FillPictureLists = [this] { pictures.FillPictureLists(); };

@@ -43,6 +43,8 @@ namespace lectern::ui {
 struct OtherWindows {
   std::function<forms::Window&()> Form2;
   std::function<aids::Notes&()> notes;
+  std::function<void(const forms::Picture&)>
+      OpenPaint;  // the paint window on a picture; a white page for none
 };
 
 class Form1 : public forms::Window {
@@ -51,6 +53,10 @@ class Form1 : public forms::Window {
 
   void Form_Load() override { start_up.Form_Load(); }
   void Form_Unload() override { exits.Form_Unload(); }
+
+  // What the paint window works with.
+  gallery::PictureCatalogue& Pictures() { return pictures; }
+  gallery::Viewer& PictureViewer() { return viewer; }
 
  private:
   core::Menus menus;

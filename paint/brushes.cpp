@@ -1,0 +1,63 @@
+#include "paint/brushes.h"
+
+#include "paint/drawings.h"
+
+namespace lectern::paint {
+
+namespace {
+
+constexpr int kBrushes = 5;
+constexpr int kChosen = 5;                             // the box that shows the chosen brush
+constexpr int kStrokeWidths[] = {14, 18, 20, 37, 45};  // of the boxes' pictures, pixels
+constexpr int kDotWidths[] = {5, 10, 15, 20, 25};
+
+}  // namespace
+
+Brushes::Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, Canvas& the_canvas,
+                 PenSettings& the_pen, SaveSlots& the_slots)
+    : Frame5(the_form, "Frame5", {.caption = "Paint Brush Size"}),
+      picpbs(Frame5, "picpbs",
+             {{.name = "Brush 1, the thinnest"},
+              {.name = "Brush 2"},
+              {.name = "Brush 3"},
+              {.name = "Brush 4"},
+              {.name = "Brush 5, the thickest"},
+              {.name = "The chosen brush"}}),
+      form(the_form),
+      gallery(the_gallery),
+      canvas(the_canvas),
+      pen(the_pen),
+      slots(the_slots) {
+  picpbs.ForEach([this](int index, forms::PictureBox& box) {
+    box.BorderStyle = 0;
+    if (index < kBrushes) box.Picture = StrokePicture(kStrokeWidths[index], kDotWidths[index] * 2 / 3);
+    box.Click = [this, index] { picpbs_Click(index); };
+  });
+}
+
+void Brushes::ShowPointer(int brush) {
+  canvas.picbox.MouseIcon =
+      form.LoadPicture(gallery.reader.Dir1.Path + "\\cdx" + std::to_string(brush + 1) + ".ico");
+}
+
+// ODDITY(pointer-of-another-brush): the first stroke has the width of the third brush under the pointer of
+// the second; it is meant.
+void Brushes::ShowFirstPointer() { ShowPointer(1); }
+
+// A click on the box of the chosen brush clears the marks and chooses nothing.
+void Brushes::picpbs_Click(int index) {
+  // Joined to the folder's path without a separator: the file lies beside the data folder.
+  slots.TakeSnapshot(gallery.reader.Dir1.Path + "TEST.jpg");
+  for (int x = 0; x < kBrushes; ++x) {
+    if (x == index) {
+      ShowPointer(x);
+      picpbs(x).BorderStyle = 1;
+      picpbs(kChosen).Picture = picpbs(x).Picture;
+    } else {
+      picpbs(x).BorderStyle = 0;
+    }
+  }
+  if (index < kBrushes) pen.mde(PenSettings::kDrawWidth).Text = std::to_string(kDotWidths[index]);
+}
+
+}  // namespace lectern::paint

@@ -1,0 +1,43 @@
+// The canvas, in a viewport that clips it, and the one drawing tool: a round brush. A stroke is a chain of
+// separate dots, one for each movement of the mouse; a fast one leaves gaps, and that is the design.
+//
+// Until a swatch or a brush is clicked for the first time, drawing is seen on the screen alone and is no part
+// of the picture.
+#pragma once
+
+#include "core/forms/frame.h"
+#include "core/forms/image.h"
+#include "core/forms/picture_box.h"
+#include "core/forms/window.h"
+#include "paint/pen_settings.h"
+
+namespace lectern::paint {
+
+class Canvas {
+ public:
+  Canvas(forms::Window& the_form, PenSettings& the_pen);
+
+  // In the middle of the viewport; a canvas larger than it begins outside.
+  void Centre();
+
+  // Shows a picture in its own size, in the middle.
+  void ShowInItsSize(const forms::Picture& picture);
+
+  // Gives the canvas the size of the picture that it shows, in the middle.
+  void TakePictureSize();
+
+  forms::Frame Frame6;  // the viewport
+  forms::PictureBox picbox;
+  forms::ControlArray<forms::Image> imgs;  // move the canvas: left, up, right, down
+  forms::Image imgp;                       // measures a picture
+
+ private:
+  void picbox_MouseDown(forms::MouseEvent mouse);
+  void picbox_MouseMove(forms::MouseEvent mouse);
+  void imgs_Click(int index);
+
+  forms::Window& form;
+  PenSettings& pen;
+};
+
+}  // namespace lectern::paint

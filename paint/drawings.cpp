@@ -1,0 +1,54 @@
+#include "paint/drawings.h"
+
+#include <cmath>
+
+namespace lectern::paint {
+
+namespace {
+
+constexpr forms::Pixel kInk = forms::kOpaque | 0x503C28;  // a deep blue
+constexpr forms::Pixel kNothing = 0;                      // transparent
+
+}  // namespace
+
+forms::Picture ArrowPicture(Direction direction) {
+  constexpr int kSize = 32;
+  constexpr int kTip = 8;  // how far the tip and the foot stand from the edges
+  forms::Bitmap arrow(kSize, kSize, kNothing);
+  for (int along = 0; along < kSize - 2 * kTip; ++along) {
+    for (int across = -along; across <= along; ++across) {
+      const int from_tip = kTip + along;
+      const int middle = kSize / 2 + across * 3 / 4;
+      switch (direction) {
+        case Direction::kLeft:
+          arrow.Set(from_tip, middle, kInk);
+          break;
+        case Direction::kRight:
+          arrow.Set(kSize - 1 - from_tip, middle, kInk);
+          break;
+        case Direction::kUp:
+          arrow.Set(middle, from_tip, kInk);
+          break;
+        case Direction::kDown:
+          arrow.Set(middle, kSize - 1 - from_tip, kInk);
+          break;
+      }
+    }
+  }
+  return forms::Picture(std::move(arrow));
+}
+
+forms::Picture StrokePicture(int width, int thickness) {
+  constexpr int kHeight = 122;
+  forms::Bitmap stroke(width, kHeight, kNothing);
+  const double swing = (width - thickness) / 2.0;
+  for (int y = thickness / 2 + 1; y < kHeight - thickness / 2; ++y) {
+    const double x = width / 2.0 + swing * std::sin(y * 6.283 / kHeight);
+    stroke.Dot(static_cast<int>(std::lround(x)), y, thickness, kInk, forms::RasterOperation::kCopyPen);
+  }
+  return forms::Picture(std::move(stroke));
+}
+
+forms::Picture WhitePage(int width, int height) { return forms::Picture(forms::Bitmap(width, height)); }
+
+}  // namespace lectern::paint

@@ -1,0 +1,124 @@
+#include "paint/palette.h"
+
+#include "core/error_modes.h"
+#include "core/text/numbers.h"
+
+namespace lectern::paint {
+
+namespace {
+
+constexpr int kSwatches = 24;
+constexpr forms::Colour kOrange = 33023;
+constexpr forms::Colour kYellow = 65535;
+constexpr int kColours = 1;  // slot
+
+std::string ColourText(forms::Colour colour) { return std::to_string(colour); }
+
+}  // namespace
+
+Palette::Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, PenSettings& the_pen,
+                 SaveSlots& the_slots)
+    : Picture1(the_form, "Picture1"),
+      clrbox(Picture1, "clrbox", kSwatches),
+      clrboxs(Picture1, "clrboxs", kSwatches),
+      clr2(Picture1, "clr2", {.name = "The colour in hand", .back_color = kYellow}),
+      Command4(Picture1, "Command4", {.caption = "More Colors"}),
+      Command3(Picture1, "Command3", {.caption = "Save Pallette"}),
+      Frame3(the_form, "Frame3", {.visible = false}),
+      scr1(Frame3, "scr1",
+           {{.max = 25, .name = "Red"}, {.max = 25, .name = "Green"}, {.max = 25, .name = "Blue"}}),
+      Label2(Frame3, "Label2", {{.caption = "Red"}, {.caption = "Blue"}, {.caption = "Green"}}),
+      Text3(Frame3, "Text3", {.caption = "Text3", .name = "Pen value"}),
+      Clear(Frame3, "Clear", {.caption = "Hide Color Bars", .is_cancel = true}),
+      form(the_form),
+      gallery(the_gallery),
+      pen(the_pen),
+      slots(the_slots) {
+  clrbox.ForEach([](int index, forms::Shape& circle) {
+    circle.FigureKind = forms::kShapeCircle;
+    circle.BackColor = index == 0 ? kOrange : forms::kRed;
+  });
+  clrboxs.ForEach([this](int index, forms::Label& swatch) {
+    swatch.Caption = index == 0 ? "x" : index == 1 ? " x" : "X";
+    swatch.ForeColor = clrbox(index).BackColor;
+    swatch.MouseDown = [this, index](forms::MouseEvent mouse) { clrboxs_MouseDown(index, mouse); };
+  });
+  scr1.ForEach([this](int, forms::HScrollBar& bar) { bar.Change = [this] { scr1_Change(); }; });
+  clr2.Change = [this] { clr2_Change(); };
+  Command4.Click = [this] { Frame3.Visible = true; };
+  Clear.Click = [this] { Frame3.Visible = false; };
+  Command3.Click = [this] { Command3_Click(); };
+}
+
+// A file of fewer lines leaves the other swatches as they are; lines behind the last swatch go nowhere.
+void Palette::LoadColours() {
+  const core::Ignoring ignore;
+  files::FileSlots& files = form.Slots();
+  int counter = 0;
+  ignore([&] { files.OpenForReading(kColours, gallery.reader.Dir1.Path + "\\colors.dat"); });
+  while (files.IsOpen(kColours) && !files.EndOfFile(kColours)) {
+    std::string value;
+    forms::Colour shown = 0;
+    const bool whole = ignore([&] {
+      value = files.ReadField(kColours);
+      shown = files.ReadNumber(kColours);
+    });
+    if (whole) {
+      ignore([&] { clrboxs(counter).Caption = value; });
+      ignore([&] { clrbox(counter).BackColor = shown; });
+      ignore([&] { clrboxs(counter).ForeColor = shown; });
+    }
+    ++counter;
+  }
+  ignore([&] { files.Close(kColours); });
+}
+
+// ODDITY(first-pen): the first pen is not the first swatch's but the number of its shape, a near black, while
+// the colour in hand shows the first swatch; it is meant.
+void Palette::TakeFirstPair() {
+  pen.clr1.BackColor = clrbox(0).FigureKind();
+  clr2.BackColor = clrbox(0).BackColor;
+}
+
+// The right button fills the swatch with the pair in hand, any other takes the swatch's.
+void Palette::clrboxs_MouseDown(int index, const forms::MouseEvent& mouse) {
+  constexpr int kRightButton = 2;
+  slots.TakeSnapshot("TEST.jpg");
+  if (mouse.button == kRightButton) {
+    clrbox(index).BackColor = clr2.BackColor;
+    clrboxs(index).Caption = ColourText(pen.clr1.BackColor);
+    clrboxs(index).ForeColor = clr2.BackColor;
+  } else {
+    pen.clr1.BackColor = text::RoundToLong(text::NumberValue(clrboxs(index).Caption()));
+    clr2.BackColor = clrbox(index).BackColor;
+  }
+}
+
+// ODDITY(mixed-pair): the bars make a dark pen and a bright colour, which is a hint of the result and not its
+// true complement; it is meant.
+void Palette::scr1_Change() {
+  const int red = scr1(0).Value;
+  const int green = scr1(1).Value;
+  const int blue = scr1(2).Value;
+  pen.clr1.BackColor = forms::Rgb(red, green, blue);
+  clr2.BackColor = forms::Rgb(256 - 10 * red, 256 - 10 * green, 256 - 10 * blue);
+  Text3.Text = ColourText(pen.clr1.BackColor);
+}
+
+void Palette::Command3_Click() {
+  const std::string path = gallery.reader.Dir1.Path + "\\colors.dat";
+  files::FileSlots& files = form.Slots();
+  form.Files().DeleteKeepingBackup(path);
+  files.OpenForAppending(kColours, path);
+  for (int i = 0; i < kSwatches; ++i)
+    files.WriteRecord(kColours, clrboxs(i).Caption(), clrbox(i).BackColor());
+  files.Close(kColours);
+}
+
+// Runs on a change of the box's picture, which nothing makes.
+void Palette::clr2_Change() {
+  pen.Label3.Caption = ColourText(clr2.BackColor);
+  Text3.Text = ColourText(clr2.BackColor);
+}
+
+}  // namespace lectern::paint

@@ -1,0 +1,32 @@
+// A blank page to begin on, and the way of a painting into the gallery: its file among the pictures, and a
+// record in the catalogue, so that it stands on the strip at once.
+#pragma once
+
+#include "core/forms/buttons.h"
+#include "gallery/picture_catalogue.h"
+#include "gallery/viewer.h"
+#include "paint/canvas.h"
+#include "paint/palette.h"
+
+namespace lectern::paint {
+
+class PictureSaving {
+ public:
+  PictureSaving(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, gallery::Viewer& the_viewer,
+                Canvas& the_canvas, Palette& palette);
+
+  forms::CommandButton Command5;  // a blank page
+  forms::CommandButton Command2;  // saves
+
+ private:
+  void Command5_Click();
+  void Command2_Click();
+  bool IsInCatalogue(const std::string& name);
+
+  forms::Window& form;
+  gallery::PictureCatalogue& gallery;
+  gallery::Viewer& viewer;
+  Canvas& canvas;
+};
+
+}  // namespace lectern::paint

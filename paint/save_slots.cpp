@@ -1,0 +1,45 @@
+#include "paint/save_slots.h"
+
+#include "core/error_modes.h"
+
+namespace lectern::paint {
+
+SaveSlots::SaveSlots(forms::Window& the_form, Canvas& the_canvas, Zoom& the_zoom)
+    : Frame7(the_form, "Frame7", {.caption = "   Original               Saves  "}),
+      IMGSPB(Frame7, "IMGSPB",
+             {{.value = 1, .name = "Original"},
+              {.value = 1, .name = "Save 1, the oldest"},
+              {.value = 1, .name = "Save 2"},
+              {.value = 1, .name = "Save 3"},
+              {.value = 1, .name = "Save 4, the newest"}}),
+      Line2(Frame7, "Line2"),
+      form(the_form),
+      canvas(the_canvas),
+      zoom(the_zoom) {
+  IMGSPB.ForEach([this](int index, forms::Image& slot) {
+    slot.BorderStyle = 1;
+    slot.Click = [this, index] { IMGSPB_Click(index); };
+  });
+}
+
+void SaveSlots::TakeSnapshot(const std::string& scratch_file) {
+  forms::PictureBox& picbox = canvas.picbox;
+  picbox.AutoRedraw = true;
+  if (zoom.txt5.Text == "0" && picbox.Picture()) {
+    const core::Ignoring ignore;
+    ignore([&] { form.SavePicture(picbox.Picture, scratch_file); });
+  }
+  // ODDITY(newest-save-holds): after a click on the newest state the canvas shows that very picture, and
+  // nothing is kept until another one is set, however much is painted; it is meant.
+  if (IMGSPB(4).Picture == picbox.Picture) return;
+  IMGSPB(1).Picture = IMGSPB(2).Picture;
+  IMGSPB(2).Picture = IMGSPB(3).Picture;
+  IMGSPB(3).Picture = IMGSPB(4).Picture;
+  IMGSPB(4).Picture = picbox.Image();
+}
+
+// ODDITY(level-outlives-going-back): going back from a zoomed state shows the picture in its own size under
+// the zoom level that stood; it is meant.
+void SaveSlots::IMGSPB_Click(int index) { canvas.ShowInItsSize(IMGSPB(index).Picture); }
+
+}  // namespace lectern::paint

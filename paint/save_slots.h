@@ -1,0 +1,35 @@
+// The picture as it was opened, and the last four states that were kept. A state is kept whenever a swatch or
+// a brush is clicked, whether or not anything was painted; going back to one changes none.
+#pragma once
+
+#include <string>
+
+#include "core/forms/frame.h"
+#include "core/forms/image.h"
+#include "core/forms/shape.h"
+#include "paint/canvas.h"
+#include "paint/zoom.h"
+
+namespace lectern::paint {
+
+class SaveSlots {
+ public:
+  SaveSlots(forms::Window& the_form, Canvas& the_canvas, Zoom& the_zoom);
+
+  // From the first call on, what is drawn is part of the picture. At zoom level 0 a copy goes to a scratch
+  // file, which nothing reads.
+  void TakeSnapshot(const std::string& scratch_file);
+
+  forms::Frame Frame7;
+  forms::ControlArray<forms::Image> IMGSPB;  // the original, then the states from the oldest to the newest
+  forms::Line Line2;
+
+ private:
+  void IMGSPB_Click(int index);
+
+  forms::Window& form;
+  Canvas& canvas;
+  Zoom& zoom;
+};
+
+}  // namespace lectern::paint

@@ -1,0 +1,51 @@
+#include "paint/zoom.h"
+
+#include "core/text/numbers.h"
+
+namespace lectern::paint {
+
+Zoom::Zoom(forms::Window& form, Canvas& the_canvas)
+    : cmdm(form, "cmdm",
+           {{.caption = "      +", .name = "Zoom in"},
+            {.caption = "      -", .enabled = false, .name = "Zoom out"}}),
+      txt5(form, "txt5", {.caption = "0", .read_only = true, .name = "Zoom level"}),
+      picbox2(form, "picbox2", {.visible = false}),
+      canvas(the_canvas) {
+  cmdm.ForEach(
+      [this](int index, forms::SSCommand& button) { button.Click = [this, index] { cmdm_Click(index); }; });
+}
+
+void Zoom::cmdm_Click(int index) {
+  constexpr int kOut = 1;
+  forms::PictureBox& picbox = canvas.picbox;
+  picbox.Picture = picbox.Image();
+  picbox2.Height = 1;
+  picbox2.Width = 1;
+  picbox2.Stretch = true;
+  picbox2.Picture = picbox.Picture;
+  picbox2.Stretch = false;
+  const double level = text::NumberValue(txt5.Text());
+  if (index == kOut) {
+    txt5.Text = text::NumberText(level - 1);
+    picbox2.Width = text::RoundToLong(picbox.Width) / 2;
+    picbox2.Height = text::RoundToLong(picbox.Height) / 2;
+  } else {
+    txt5.Text = text::NumberText(level + 1);
+    picbox2.Width = picbox.Width + picbox.Width;
+    picbox2.Height = picbox.Height + picbox.Height;
+  }
+  picbox.Width = picbox2.Width;
+  picbox.Height = picbox2.Height;
+  // ODDITY(zoom-leaves-an-edge): the divisor is a little more than the 15 twips of a pixel, so that the
+  // picture is painted a little smaller than the canvas; it is meant.
+  constexpr double kTwipsPerPixel = 15.08;
+  picbox.PaintPicture(picbox.Picture, 0, 0, picbox.Width / kTwipsPerPixel, picbox.Height / kTwipsPerPixel);
+  canvas.Centre();
+
+  if (txt5.Text == "0" || txt5.Text == "1" || txt5.Text == "2") {
+    cmdm(0).Enabled = txt5.Text != "2";
+    cmdm(1).Enabled = txt5.Text != "0";
+  }
+}
+
+}  // namespace lectern::paint

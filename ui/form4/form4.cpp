@@ -1,0 +1,54 @@
+#include "ui/form4/form4.h"
+
+#include "core/error_modes.h"
+#include "paint/drawings.h"
+#include "ui/form4/places.h"
+
+namespace lectern::ui {
+
+Form4::Form4(forms::Services services, gallery::PictureCatalogue& gallery, gallery::Viewer& viewer,
+             const std::function<void(const forms::Picture&)>& print_picture)
+    : Window(services, "Form4", "paint"),
+      pen(*this),
+      canvas(*this, pen),
+      zoom(*this, canvas),
+      slots(*this, canvas, zoom),
+      palette(*this, gallery, pen, slots),
+      brushes(*this, gallery, canvas, pen, slots),
+      saving(*this, gallery, viewer, canvas, palette),
+      Command1(*this, "Command1", {.caption = "Close Paint", .is_cancel = true}) {
+  constexpr double kClientWidth = 15675;  // twips
+  constexpr double kClientHeight = 10485;
+  Width = kClientWidth + forms::kFrameWidth;
+  Height = kClientHeight + forms::kFrameHeight;
+  Command1.Click = [this] { Visible = false; };
+  routines["PrintPaintPicture"] = [this, print_picture](const std::string&) {
+    print_picture(canvas.picbox.Picture);
+  };
+  Apply(kPaintPlaces, *this);
+}
+
+void Form4::Form_Load() {
+  const core::Ignoring ignore;
+  const core::ScreenSize screen = Platform().Screen();
+  ignore([&] { Top = (screen.height - Height) / 2; });
+  ignore([&] { Left = (screen.width - Width) / 2; });
+  ignore([&] { palette.LoadColours(); });
+}
+
+void Form4::Open(const forms::Picture& picture) {
+  constexpr int kPageWidth = 533;  // pixels
+  constexpr int kPageHeight = 363;
+  canvas.picbox.Picture = picture ? picture : paint::WhitePage(kPageWidth, kPageHeight);
+  Visible = true;
+  StartPaint();
+}
+
+void Form4::StartPaint() {
+  canvas.TakePictureSize();
+  palette.TakeFirstPair();
+  brushes.ShowFirstPointer();
+  slots.IMGSPB(0).Picture = canvas.picbox.Picture;
+}
+
+}  // namespace lectern::ui

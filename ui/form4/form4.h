@@ -1,0 +1,41 @@
+// The paint window: a canvas with its brushes, its palette and the states that were kept. Made at the first
+// picture that is opened in it; closing it hides it, with all its state.
+#pragma once
+
+#include <functional>
+
+#include "paint/brushes.h"
+#include "paint/canvas.h"
+#include "paint/palette.h"
+#include "paint/pen_settings.h"
+#include "paint/picture_saving.h"
+#include "paint/save_slots.h"
+#include "paint/zoom.h"
+
+namespace lectern::ui {
+
+class Form4 : public forms::Window {
+ public:
+  // `print_picture` opens the print window on a picture.
+  Form4(forms::Services services, gallery::PictureCatalogue& gallery, gallery::Viewer& viewer,
+        const std::function<void(const forms::Picture&)>& print_picture);
+
+  void Form_Load() override;
+
+  // Shows the window with a picture on the canvas; a white page where there is none.
+  void Open(const forms::Picture& picture);
+
+ private:
+  void StartPaint();
+
+  paint::PenSettings pen;
+  paint::Canvas canvas;
+  paint::Zoom zoom;
+  paint::SaveSlots slots;
+  paint::Palette palette;
+  paint::Brushes brushes;
+  paint::PictureSaving saving;
+  forms::CommandButton Command1;
+};
+
+}  // namespace lectern::ui
