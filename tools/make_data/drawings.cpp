@@ -7,6 +7,7 @@
 #include <iterator>
 #include <librsvg/rsvg.h>
 #include <memory>
+#include <numbers>
 #include <string_view>
 
 #include "tools/make_data/markup.h"
@@ -109,6 +110,31 @@ Extent DrawnPart(const Page& page) {
   return drawn;
 }
 
+// In strokes of the pen, so that the card is the same whatever fonts there are.
+void DrawTheWordEnd(cairo_t* context) {
+  constexpr double kTurn = 2 * std::numbers::pi;
+  constexpr double kBase = 290, kMiddle = 240, kTop = 190, kAscender = 116, kRadius = 50, kArch = 44;
+  cairo_set_line_width(context, 15);
+  cairo_set_line_cap(context, CAIRO_LINE_CAP_ROUND);
+  cairo_set_line_join(context, CAIRO_LINE_JOIN_ROUND);
+  constexpr double kE = 190;
+  cairo_move_to(context, kE - kRadius, kMiddle);
+  cairo_line_to(context, kE + kRadius, kMiddle);
+  cairo_arc_negative(context, kE, kMiddle, kRadius, 0, -0.87 * kTurn);
+  constexpr double kN = 276;
+  cairo_move_to(context, kN, kTop);
+  cairo_line_to(context, kN, kBase);
+  cairo_move_to(context, kN, kTop + kArch);
+  cairo_arc(context, kN + kArch, kTop + kArch, kArch, kTurn / 2, kTurn);
+  cairo_line_to(context, kN + 2 * kArch, kBase);
+  constexpr double kD = 450;
+  cairo_new_sub_path(context);
+  cairo_arc(context, kD, kMiddle, kRadius, 0, kTurn);
+  cairo_move_to(context, kD + kRadius, kAscender);
+  cairo_line_to(context, kD + kRadius, kBase);
+  cairo_stroke(context);
+}
+
 std::string FileText(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
@@ -166,14 +192,7 @@ std::string EndCard() {
   cairo_rectangle(context, kFrame, kFrame, kWidth - 2 * kFrame, kHeight - 2 * kFrame);
   cairo_stroke(context);
   cairo_set_source_rgb(context, 0.45, 0.42, 0.37);
-  cairo_select_font_face(context, "serif", CAIRO_FONT_SLANT_ITALIC, CAIRO_FONT_WEIGHT_NORMAL);
-  cairo_set_font_size(context, 150);
-  constexpr const char* kText = "end";
-  cairo_text_extents_t extents{};
-  cairo_text_extents(context, kText, &extents);
-  cairo_move_to(context, (kWidth - extents.width) / 2 - extents.x_bearing,
-                (kHeight - extents.height) / 2 - extents.y_bearing);
-  cairo_show_text(context, kText);
+  DrawTheWordEnd(context);
   return page.AsJpeg();
 }
 
