@@ -24,7 +24,7 @@ void FolderView::Apply() {
   QStringList rows;
   int open_row = -1;
   for (const forms::DirListBox::Entry& entry : entries_) {
-    constexpr int kStep = 3;  // blanks
+    constexpr qsizetype kStep = 3;  // blanks
     if (entry.path == open) open_row = static_cast<int>(rows.size());
     rows.append(QString(kStep * entry.depth, u' ') + ToQString(entry.name));
   }

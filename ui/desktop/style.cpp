@@ -200,14 +200,12 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
                      QStyleHintReturn* returned) const {
   switch (hint) {
     case SH_UnderlineShortcut:
-      return 1;
     case SH_MenuBar_AltKeyNavigation:
       return 1;
     case SH_DialogButtonBox_ButtonsHaveIcons:
-      return 0;
     case SH_Widget_Animate:
     case SH_Widget_Animation_Duration:
-      return 0;  // a scroll bar or a menu that fades is work without end for a virtual screen
+      return 0;  // plain, and at once
     default:
       return QProxyStyle::styleHint(hint, option, widget, returned);
   }

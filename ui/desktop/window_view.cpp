@@ -97,7 +97,7 @@ void WindowView::Refresh() {
   ApplyPlace();
   ApplyPointer();
   ApplyColours();
-  const bool appears = window_.Visible && frame_->isHidden();
+  const bool appears = window_.Visible() && frame_->isHidden();
   frame_->setVisible(window_.Visible);
   if (std::exchange(front_is_wanted_, false) || appears) ComeToFront();
 }
