@@ -32,15 +32,16 @@ void ChapterStore::lblc_Change() {
   const bool opened = trap([&] { slots.OpenForReading(kBook, reader.BookFile(reader.lblbook.Caption())); });
   if (opened) {
     // Opened for appending, so that lines a broken run left there come first.
-    trap([&] { slots.OpenForAppending(kScratch, scratch); });
+    bool written = trap([&] { slots.OpenForAppending(kScratch, scratch); });
     std::string held;
     CopyChapter(trap, held);
     trap([&] { slots.Close(kBook); });
     // ODDITY(next-heading): the line in hand is written once more, whatever it is. It is the last line of
     // the book, or the heading of the next chapter, with which every other chapter ends; it is meant.
-    trap([&] { slots.PrintLine(kScratch, held); });
-    trap([&] { slots.Close(kScratch); });
-    trap([&] { reader.rtxt.LoadFile(scratch); });
+    written = trap([&] { slots.PrintLine(kScratch, held); }) && written;
+    written = trap([&] { slots.Close(kScratch); }) && written;
+    // What a full disk cut off is no chapter: the pane keeps its text.
+    if (written) trap([&] { reader.rtxt.LoadFile(scratch); });
     trap([&] { reader.form.Files().Delete(scratch); });
   }
   trap([&] { reader.LBLMRK(2).Caption = reader.lblc.Caption; });
@@ -52,14 +53,14 @@ void ChapterStore::lblc_Change() {
 // A failure closes the book, and with it ends the loop.
 void ChapterStore::CopyChapter(const Trapping& trap, std::string& held) {
   files::FileSlots& slots = reader.form.Slots();
-  int counter = 0;
+  int counter = 0;  // 16 bits
   bool done = false;
   std::string_view line;
   const auto more = [&] { return slots.IsOpen(kBook) && !slots.EndOfFile(kBook); };
   while (!done && more()) {
     line = slots.ReadLineStarting(kBook, kChapterMark);
     if (!IsChapterLine(line)) continue;  // the book's last line
-    ++counter;
+    trap([&] { counter = text::RoundToInteger(counter + 1); });
     // The line behind a chapter line belongs to the chapter, whatever it looks like: a chapter line that
     // follows another one at once is not counted.
     trap([&] { line = slots.ReadLine(kBook); });
