@@ -58,7 +58,13 @@ FileSlots::Reading& FileSlots::ReadingAt(int slot) {
   return *reading;
 }
 
-bool FileSlots::EndOfFile(int slot) { return ReadingAt(slot).reader.AtEnd(); }
+// A file that is written to is always at its end.
+bool FileSlots::EndOfFile(int slot) {
+  const Reading* const reading = Find(slot);
+  const bool is_read = reading != nullptr && reading->open;
+  if (!is_read && appending_.contains(slot)) return true;
+  return ReadingAt(slot).reader.AtEnd();
+}
 
 FileSlots::Reading& FileSlots::BeforeEnd(int slot) {
   Reading& reading = ReadingAt(slot);
@@ -96,15 +102,26 @@ std::string_view FileSlots::ReadRest(int slot) { return ReadingAt(slot).reader.R
 
 std::int32_t FileSlots::ReadNumber(int slot) { return text::RoundToLong(text::NumberValue(ReadField(slot))); }
 
-void FileSlots::Write(int slot, std::string_view text) {
+template <class Work>
+void FileSlots::OnAppending(int slot, Work work) {
   const auto found = appending_.find(slot);
   if (found == appending_.end()) throw RunTimeError(ErrorNumber::kBadFileName);
   try {
-    found->second.Write(text::IsAscii(text) ? text : std::string_view(Encode(text)));
+    work(found->second);
   } catch (const RunTimeError&) {
     appending_.erase(found);  // what could not be written has let the file go
     throw;
   }
+}
+
+void FileSlots::Write(int slot, std::string_view text) {
+  OnAppending(slot, [text](Appending& file) {
+    file.Write(text::IsAscii(text) ? text : std::string_view(Encode(text)));
+  });
+}
+
+void FileSlots::Flush(int slot) {
+  OnAppending(slot, [](Appending& file) { file.Flush(); });
 }
 
 void FileSlots::PrintLine(int slot, std::string_view line) { Write(slot, std::string(line).append("\r\n")); }

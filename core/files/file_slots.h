@@ -57,6 +57,7 @@ class FileSlots {
     WriteFields(slot, fields);
   }
 
+  void Flush(int slot);  // what was written so far goes to the disk; the file stays open
   void Close(int slot);  // a number that is not open is closed already
   void CloseAll();
   bool IsOpen(int slot) const;
@@ -76,6 +77,8 @@ class FileSlots {
   static std::string_view Decoded(Reading& reading, std::string_view part, std::string_view whole);
   void WriteFields(int slot, std::span<const Field> fields);
   void Write(int slot, std::string_view text);
+  template <class Work>
+  void OnAppending(int slot, Work work);
 
   FileSystem& files_;
   // One for each number that was ever read from; kept after closing, for the room that the contents take.

@@ -32,9 +32,9 @@ class Contents {
   std::size_t size_ = 0;
 };
 
-// A file that is written to behind its end. What is written goes to the disk at Close, or before when it
-// has grown large. A write that fails takes back what this opening wrote, so that a full disk leaves the
-// file as it was.
+// A file that is written to behind its end. What is written goes to the disk at Flush and Close, or before
+// when it has grown large. A write that fails takes back what this opening wrote, so that a full disk leaves
+// the file as it was.
 class Appending {
  public:
   Appending(Appending&& other) noexcept;
@@ -44,12 +44,12 @@ class Appending {
   ~Appending();  // closes, whatever fails
 
   void Write(std::string_view bytes);
+  void Flush();
   void Close();
 
  private:
   friend class FileSystem;
   Appending(const class FileSystem& files, int descriptor, std::string path, std::uint64_t length);
-  void Flush();
   void LetGo();
 
   const FileSystem* files_;

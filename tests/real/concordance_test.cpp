@@ -8,6 +8,7 @@
 #include "core/canon.h"
 #include "core/files/record_reader.h"
 #include "core/forms/list_box.h"
+#include "core/forms/rich_text_box.h"
 #include "tests/real/real_data.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
@@ -98,6 +99,17 @@ TEST(RealConcordance, OnePassBuilderFindsWhatTheScanFinds) {
   EXPECT_EQ(counts[" ZION"], 153);
   EXPECT_EQ(counts[" GRACE"], 159);
   EXPECT_EQ(last, " GRACE,Revelation,22,21");
+
+  // ODDITY(one-pass-stays-open): the next chapter load writes its line to the builder's file and shows
+  // nothing; the one behind it is as ever.
+  const auto& text = dynamic_cast<forms::RichTextBox&>(*driver.Program().Touch("Form1")->Find("rtxt"));
+  const std::string shown = text.Text;
+  driver.Execute("scroll Form1.scr 2");
+  EXPECT_EQ(text.Text, shown);
+  EXPECT_EQ(folder.Read("concord.dat"), records + "\r\n");
+  driver.Execute("scroll Form1.scr 3");
+  EXPECT_TRUE(text.Text->starts_with("1   Now the serpent"));
+  EXPECT_EQ(folder.Read("concord.dat"), records + "\r\n");
 }
 
 }  // namespace

@@ -88,6 +88,14 @@ TEST_F(Files, SlotsKeepToTheirNumbers) {
   slots.Close(1);
   EXPECT_FALSE(slots.IsOpen(1));
   EXPECT_TRUE(slots.IsOpen(255));
+  // Nothing is to be read from a file that is written to.
+  slots.OpenForAppending(1, Name("\\b.txt"));
+  slots.PrintLine(1, "b");
+  EXPECT_TRUE(slots.EndOfFile(1));
+  EXPECT_EQ(ErrorOf([&] { slots.ReadLine(1); }), 52);
+  EXPECT_EQ(folder.Read("b.txt"), "");
+  slots.Flush(1);
+  EXPECT_EQ(folder.Read("b.txt"), "b\r\n");
 }
 
 TEST_F(Files, ReadQuotedRecordsFieldByField) {
