@@ -25,11 +25,13 @@ struct Passage {
 std::optional<Passage> ParseReference(std::string_view reference) {
   const std::size_t start = text::ByteOf(reference, 2);
   const std::size_t digit = reference.find_first_of("0123456789", start);
-  if (digit == std::string_view::npos || digit == 0) return std::nullopt;
+  if (digit == std::string_view::npos) return std::nullopt;
+  const std::string_view before = reference.substr(0, digit);
   const std::string_view rest = reference.substr(digit);
   const std::size_t blank = rest.rfind(' ');
   if (blank == std::string_view::npos) return std::nullopt;
-  return Passage{std::string(reference.substr(0, digit - 1)), std::string(rest.substr(0, blank))};
+  return Passage{std::string(text::Left(before, text::Length(before) - 1)),
+                 std::string(rest.substr(0, blank))};
 }
 
 }  // namespace
