@@ -99,7 +99,9 @@ forms::Window* Program::Touch(std::string_view name) {
 Program::Routine Program::FindRoutine(std::string_view name) {
   for (const Known& known : known_) {
     forms::Window& window = known.touch();
-    const auto found = window.routines.find(name);
+    const auto found =
+        std::find_if(window.routines.begin(), window.routines.end(),
+                     [name](const auto& routine) { return text::EqualFolded(routine.first, name); });
     if (found != window.routines.end()) return {&window, found->second};
   }
   return {};

@@ -6,6 +6,7 @@
 #include "core/forms/folder_lists.h"
 #include "core/forms/list_box.h"
 #include "core/forms/menu.h"
+#include "core/text/letter_case.h"
 
 namespace lectern::headless {
 
@@ -30,6 +31,18 @@ std::optional<ShownItems> ItemsOf(const forms::Control& control) {
   return std::nullopt;
 }
 
+namespace {
+
+// The name of what is read by an index, as it is written everywhere.
+std::string IndexedName(const std::string& name) {
+  for (const char* known : {"List", "ListCount", "Selected", "Point"}) {
+    if (text::EqualFolded(name, known)) return known;
+  }
+  return name;
+}
+
+}  // namespace
+
 void Inspector::Get(const std::vector<Word>& words) {
   if (words.size() != 1) throw Misunderstood{"one property is wanted"};
   const Target target = FindProperty(program, words[0].text);
@@ -39,8 +52,10 @@ void Inspector::Get(const std::vector<Word>& words) {
   if (property != nullptr && target.arguments.empty()) {
     name = property->Name();
     value = property->Read();
-  } else if (target.control == nullptr ||
-             !target.control->ReadIndexed(target.property, target.arguments, value)) {
+  } else if (target.control != nullptr &&
+             target.control->ReadIndexed(target.property, target.arguments, value)) {
+    name = IndexedName(target.property);
+  } else {
     throw Misunderstood{"no property " + words[0].text};
   }
   if (!target.arguments.empty()) {

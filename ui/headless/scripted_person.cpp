@@ -101,6 +101,10 @@ void ScriptedPerson::Key(const Target& target, const std::vector<Word>& words) {
 
 void ScriptedPerson::Type(const Target& target, const std::vector<Word>& words) {
   if (words.size() != 2 || !words[1].quoted) throw Misunderstood{"a text is wanted"};
+  const forms::Kind kind = target.control->GetKind();
+  if (kind != forms::Kind::kTextBox && kind != forms::Kind::kComboBox && kind != forms::Kind::kRichTextBox) {
+    throw Misunderstood{target.Name() + " takes no text"};
+  }
   Deliver(target, [&] { target.control->PersonTypes(words[1].text); });
 }
 
