@@ -1,12 +1,11 @@
 // Nothing that a person wrote is lost, whatever happens while it is saved, moved or thrown away.
 #include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "core/forms/label.h"
 #include "core/forms/rich_text_box.h"
+#include "tests/unit/child_process.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
 
@@ -18,18 +17,6 @@ using Steps = std::vector<std::string>;
 
 void Play(Driver& driver, const Steps& steps) {
   for (const std::string& step : steps) driver.Execute(step);
-}
-
-// Runs an action in a process of its own, and says how that ended; a failed expectation in it is 1.
-int InChild(const std::function<void()>& action) {
-  const pid_t child = ::fork();
-  if (child == 0) {
-    action();
-    ::_exit(testing::Test::HasFailure() ? 1 : 0);
-  }
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 struct Act {
@@ -117,14 +104,6 @@ INSTANTIATE_TEST_SUITE_P(
             {"answer \"mine\"", "click Form1.Command10"},
             "\"mine\",\"Ruth\",\"4\"\r\n\"mine\",\"Genesis\",\"1\"\r\n"}),
     [](const auto& test) { return std::string(test.param.name); });
-
-// On a disk that holds files of so many bytes and no larger ones; SIZE_MAX lifts the limit.
-void LimitFiles(rlim_t bytes) {
-  rlimit limit{};
-  ::getrlimit(RLIMIT_FSIZE, &limit);
-  limit.rlim_cur = bytes;
-  ::setrlimit(RLIMIT_FSIZE, &limit);
-}
 
 TEST(FullDisk, IsToldAndLeavesTheNoteInTheEditorAndItsLastVersionInTheBackup) {
   // A text that is written in one go, and one that goes to the disk in parts before it is closed.
