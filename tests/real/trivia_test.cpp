@@ -23,7 +23,7 @@ TEST(TriviaQuestions, AreAnsweredByTheVerseTheyName) {
   const std::set<std::string> small_words = {"a", "an", "and", "his", "in", "of", "the", "to"};
   std::set<std::string> asked;
   std::set<std::string> books;
-  for (const auto& [question, answer, place] : make_data::ParseTrivia(make_data::kTriviaText)) {
+  for (const auto& [question, answer, place] : make_data::WrittenQuestions()) {
     EXPECT_TRUE(asked.insert(question).second) << question << " is asked twice";
     EXPECT_TRUE(question.ends_with('?')) << question;
     EXPECT_EQ((question + answer).find('"'), std::string::npos) << question;

@@ -69,7 +69,7 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   Progress("Dictionary …");
   WriteFile(folder + "/cdxdic.dat", DictionaryRecords(ReadTopics(), king_james));
   Progress("Questions …");
-  WriteFile(folder + "/codex.trv", TriviaRecords(ParseTrivia(kTriviaText)));
+  WriteFile(folder + "/codex.trv", TriviaRecords(WrittenQuestions()));
   Progress("Help …");
   WriteHelpTopics(folder);
   Progress("Pictures …");

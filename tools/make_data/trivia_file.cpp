@@ -1,7 +1,10 @@
 #include "tools/make_data/trivia_file.h"
 
+#include <utility>
+
 #include "core/files/record_reader.h"
 #include "tools/make_data/verses.h"
+#include "tools/make_data/written_texts.h"
 
 namespace lectern::make_data {
 
@@ -18,6 +21,14 @@ std::vector<TriviaQuestion> ParseTrivia(std::string_view text) {
     questions.push_back({std::string(line.substr(0, answer)),
                          std::string(line.substr(answer + kSign.size(), place - answer - kSign.size())),
                          std::string(line.substr(place + kSign.size()))});
+  }
+  return questions;
+}
+
+std::vector<TriviaQuestion> WrittenQuestions() {
+  std::vector<TriviaQuestion> questions;
+  for (const WrittenText& written : kTriviaSources) {
+    for (TriviaQuestion& question : ParseTrivia(written.text)) questions.push_back(std::move(question));
   }
   return questions;
 }

@@ -13,11 +13,11 @@ struct TriviaQuestion {
   std::string place;  // the verse to read, "1 Samuel 3:10"
 };
 
-// The file trivia_questions.txt: a question a line, "question | answer | place"; lines that are empty or
-// begin with # say nothing.
-extern const std::string_view kTriviaText;
-
+// A question a line, "question | answer | place"; lines that are empty or begin with # say nothing.
 std::vector<TriviaQuestion> ParseTrivia(std::string_view text);
+
+// All that the tool carries, in order.
+std::vector<TriviaQuestion> WrittenQuestions();
 
 // The bytes of the file: each answer with the place to read behind it.
 std::string TriviaRecords(const std::vector<TriviaQuestion>& questions);

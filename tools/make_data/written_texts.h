@@ -12,6 +12,7 @@ struct WrittenText {
   std::string_view text;
 };
 
-extern const std::span<const WrittenText> kHelpSources;
+extern const std::span<const WrittenText> kHelpSources;    // one a topic
+extern const std::span<const WrittenText> kTriviaSources;  // questions of the game
 
 }  // namespace lectern::make_data
