@@ -6,9 +6,11 @@
 //
 // What it made before it replaces; what a person made it leaves alone.
 #include <exception>
+#include <fcntl.h>
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 #include "core/canon.h"
@@ -21,12 +23,37 @@
 #include "tools/make_data/sources.h"
 #include "tools/make_data/topics.h"
 #include "tools/make_data/trivia_file.h"
+#include "tools/make_data/verses.h"
 
 namespace lectern::make_data {
 
 namespace {
 
-void Progress(const std::string& step) { std::cout << step << std::endl; }
+void Tell(const std::string& what) { std::cout << what << std::endl; }
+
+// Tells how much of all is done, in percent, as each step begins: "28 % Concordance of the first version …".
+// Within a long one the number alone is written over itself. The first start from the menu reads both.
+class Steps {
+ public:
+  // The share is the part of the whole time that the step takes, in percent.
+  void Begin(const std::string& what, int share) {
+    done_ += share_;
+    share_ = share;
+    shown_ = done_;
+    Tell(std::to_string(done_) + " % " + what + " …");
+  }
+
+  void Within(std::size_t done, std::size_t all) {
+    const int now = done_ + static_cast<int>(static_cast<std::size_t>(share_) * done / all);
+    if (now != shown_) std::cout << '\r' << now << " % " << std::flush;
+    shown_ = now;
+  }
+
+ private:
+  int done_ = 0;
+  int share_ = 0;
+  int shown_ = 0;
+};
 
 void MakeSecondVersion(const Version& version, const std::string& folder) {
   WriteBooks(version, folder + "/NEW", "N");
@@ -40,47 +67,53 @@ void MakeSettings(const std::string& folder) {
 }
 
 // A concordance that is there may hold what the person added: it is left alone.
-void MakeConcordance(const std::string& folder, const Version& version, WhichVersion which,
-                     std::size_t most) {
+void MakeConcordance(const std::string& folder, const Version& version, WhichVersion which, std::size_t most,
+                     Steps& steps) {
   const bool second = which == WhichVersion::kSecond;
   if (std::filesystem::exists(folder + (second ? "/CONCORD2.DAT" : "/CONCORD.DAT"))) return;
   std::vector<std::string> words = ConcordanceWords(version, most);
   // The tool that cuts a concordance to its true end knows the second version's by this word.
   if (second && std::erase(words, "zion") > 0) words.emplace_back("Zion");
-  std::size_t shown = 0;
-  BuildConcordance(folder, which, words, [&shown](std::size_t done, std::size_t all) {
-    const std::size_t percent = done * 100 / all;
-    if (percent != shown) std::cout << "\r  " << percent << " %" << std::flush;
-    shown = percent;
-  });
+  BuildConcordance(folder, which, words,
+                   [&steps](std::size_t done, std::size_t all) { steps.Within(done, all); });
   std::cout << "\r        \r";
 }
 
+// So that a power cut does not leave a folder of empty files behind that looks whole.
+void FlushToDisk(const std::string& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  const bool is_done = descriptor >= 0 && ::syncfs(descriptor) == 0;
+  if (descriptor >= 0) ::close(descriptor);
+  if (!is_done) throw Obstacle("The folder " + folder + " could not be written to the disk.");
+}
+
 void MakeAll(const std::string& folder, std::size_t concordance_words) {
+  Steps steps;
   std::filesystem::create_directories(folder);
-  Progress("King James Version …");
+  steps.Begin("King James Version", 4);
   const Version king_james = ReadKingJames();
   WriteBooks(king_james, folder + "/KJV", "");
-  Progress("World English Bible, for the second version …");
+  steps.Begin("World English Bible, for the second version", 4);
   const Version world_english = ReadWorldEnglish();
   MakeSecondVersion(world_english, folder);
-  Progress("Chapter counts …");
+  steps.Begin("Chapter counts", 4);
   WriteChapterCounts(king_james, folder);
-  Progress("Dictionary …");
+  steps.Begin("Dictionary", 4);
   WriteFile(folder + "/cdxdic.dat", DictionaryRecords(ReadTopics(), king_james));
-  Progress("Questions …");
+  steps.Begin("Questions", 4);
   WriteFile(folder + "/codex.trv", TriviaRecords(WrittenQuestions()));
-  Progress("Help …");
+  steps.Begin("Help", 4);
   WriteHelpTopics(folder);
-  Progress("Pictures …");
+  steps.Begin("Pictures", 4);
   MakePictures(folder);
   MakePaintFiles(folder);
   MakeSettings(folder);
-  Progress("Concordance of the first version …");
-  MakeConcordance(folder, king_james, WhichVersion::kFirst, concordance_words);
-  Progress("Concordance of the second version …");
-  MakeConcordance(folder, world_english, WhichVersion::kSecond, concordance_words);
-  Progress("The data folder is ready.");
+  steps.Begin("Concordance of the first version", 36);
+  MakeConcordance(folder, king_james, WhichVersion::kFirst, concordance_words, steps);
+  steps.Begin("Concordance of the second version", 36);
+  MakeConcordance(folder, world_english, WhichVersion::kSecond, concordance_words, steps);
+  FlushToDisk(folder);
+  Tell("The data folder is ready.");
 }
 
 int Run(const std::vector<std::string>& arguments) {
@@ -96,7 +129,7 @@ int Run(const std::vector<std::string>& arguments) {
   if (arguments.size() == 3 && arguments[0] == "--second") {
     const Version own = ReadOwnText(arguments[1]);
     MakeSecondVersion(own, std::filesystem::absolute(arguments[2]).lexically_normal().string());
-    Progress("The second version is in place: " + std::to_string(own.VerseCount()) + " verses.");
+    Tell("The second version is in place: " + std::to_string(own.VerseCount()) + " verses.");
     return 0;
   }
   std::cerr << "usage: lectern-make-data FOLDER\n       lectern-make-data --second FILE FOLDER\n";
