@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/desktop/doorbell.h"
 #include "ui/desktop/icon.h"
 #include "ui/desktop/theme.h"
 
@@ -24,6 +25,7 @@ Desktop::Desktop(std::string data_folder, std::vector<std::string> bench)
   };
   events_.settled = [this] { Settle(); };
   QObject::connect(qApp, &QApplication::focusChanged, &receiver_, [this](QWidget*, QWidget* now) {
+    if (now != nullptr) used_last_ = now->window();
     for (const auto& window : windows_) {
       if (now != nullptr && window->Frame() == now->window()) return window->FocusArrived();
     }
@@ -74,6 +76,13 @@ QWidget* Desktop::FrontFrame() const {
     return view->Frame() != nullptr && view->Frame()->isVisible();
   });
   return shown == windows_.rend() ? nullptr : (*shown)->Frame();
+}
+
+void Desktop::ComeToFront() {
+  QWidget* front = QApplication::activeModalWidget();
+  if (front == nullptr && used_last_ != nullptr && used_last_->isVisible()) front = used_last_;
+  if (front == nullptr) front = FrontFrame();
+  if (front != nullptr) ComeForward(*front);
 }
 
 int Desktop::Run() {

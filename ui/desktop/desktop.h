@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,6 +27,9 @@ class Desktop {
   // Starts the program and stays until it ends; the exit status.
   int Run();
 
+  // Brings the window that was used last, or the box that waits for an answer, before whatever covers it.
+  void ComeToFront();
+
  private:
   void JoinWindows();
   void JoinPlatform();
@@ -42,6 +46,7 @@ class Desktop {
   std::vector<std::unique_ptr<WindowView>> windows_;
   std::vector<std::string> bench_controls_;
   std::unique_ptr<BenchView> bench_;
+  QPointer<QWidget> used_last_;
   QObject receiver_;  // of signals that outlive nothing here
 };
 
