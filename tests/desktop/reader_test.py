@@ -206,9 +206,8 @@ def leave_by_the_close_box(reader, _folder):
     reader.sees_it_end(0)
 
 
-def play(visits):
-    """Each visit with a program and a data folder of its own, on a display and a message bus that are ours."""
-    program = os.path.abspath(sys.argv[1])
+def stand_on_a_stage():
+    """A display, a message bus and a run-time folder that are ours: the script runs once more on them."""
     if "LECTERN_TEST_STAGE" not in os.environ:
         display = subprocess.Popen(
             ["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"],
@@ -226,11 +225,17 @@ def play(visits):
                     QT_QPA_PLATFORM="xcb",
                     XDG_RUNTIME_DIR=runtime,
                 )
-                again = ["dbus-run-session", sys.executable, os.path.abspath(sys.argv[0]), program, *sys.argv[2:]]
+                again = ["dbus-run-session", sys.executable, os.path.abspath(sys.argv[0]), *sys.argv[1:]]
                 sys.exit(subprocess.run(again, env=environment).returncode)
         finally:
             display.terminate()
             display.wait()
+
+
+def play(visits):
+    """Each visit with a program and a data folder of its own."""
+    program = os.path.abspath(sys.argv[1])
+    stand_on_a_stage()
     for visit in visits:
         with tempfile.TemporaryDirectory() as folder:
             make_data(folder)

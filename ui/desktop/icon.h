@@ -1,4 +1,4 @@
-// The program's mark: an open book on its stand.
+// The program's mark, an open book on its stand: packaging/lectern.svg, in the sizes that a desktop asks for.
 #pragma once
 
 #include <QIcon>
