@@ -84,11 +84,7 @@ def press(screen, button):
 
 
 def tells(screen, beginning):
-    def look():
-        return any(thing.get_role_name() == "label" and thing.get_name().startswith(beginning)
-                   for thing in screen.walk())
-
-    wait_for(beginning, look)
+    screen.find_where("label", beginning, lambda told: told.startswith(beginning))
 
 
 def is_in_front(program):

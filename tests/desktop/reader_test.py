@@ -68,13 +68,19 @@ class Screen:
                 yield from self.walk(child)
 
     def find(self, role, name):
+        return self.find_where(role, name, lambda told: told == name)
+
+    def find_where(self, role, what, is_it):
         def look():
-            for thing in self.walk():
-                if thing.get_role_name() == role and thing.get_name() == name:
-                    return thing
+            try:
+                for thing in self.walk():
+                    if thing.get_role_name() == role and is_it(thing.get_name()):
+                        return thing
+            except self.gone:
+                pass
             return None
 
-        return wait_for(f"{role} {name!r}", look)
+        return wait_for(f"{role} {what!r}", look)
 
     def text_of(self, name):
         pane = self.find("text", name)
