@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QProgressBar>
 #include <QRadioButton>
@@ -110,10 +111,45 @@ TEST_F(Stage, APressOnACanvasPaintsWhereItFell) {
   const QPoint place(40, 30);
   QTest::mousePress(Find("canvas"), Qt::LeftButton, {}, place);
   QTest::mouseMove(Find("canvas"), place + QPoint(60, 0));
+  QTest::mouseRelease(Find("canvas"), Qt::LeftButton);
   EXPECT_EQ(window->canvas.Shown().At(40, 30), 0xFF000000U);
   const QImage shot = Find("canvas")->grab().toImage();
   EXPECT_EQ(shot.pixelColor(place), QColor(Qt::black));
   EXPECT_EQ(shot.pixelColor(place + QPoint(30, 0)), QColor(Qt::white));  // no line between two events
+}
+
+// Notes what a widget is asked to paint.
+class Painted : public QObject {
+ public:
+  explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
+  QRect area;
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) area |= static_cast<const QPaintEvent*>(event)->rect();
+    return false;
+  }
+};
+
+TEST_F(Stage, AStrokePaintsNoMoreOfTheCanvasThanItsDot) {
+  QWidget* const canvas = Find("canvas");
+  QTest::mousePress(canvas, Qt::LeftButton, {}, QPoint(40, 30));
+  QCoreApplication::processEvents();
+  Painted painted(*canvas);
+  QTest::mouseMove(canvas, QPoint(100, 60));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !painted.area.isEmpty(); }));
+  EXPECT_EQ(painted.area, QRect(96, 56, 9, 9));
+  QTest::mouseRelease(canvas, Qt::LeftButton);
+}
+
+TEST_F(Stage, OverACanvasEveryMovementIsWantedAndElsewhereTheLatest) {
+  const auto together = [] { return QCoreApplication::testAttribute(Qt::AA_CompressHighFrequencyEvents); };
+  QTest::mouseMove(Find("canvas"));
+  EXPECT_FALSE(together());  // before a button is pressed: a fast hand is ahead of the press
+  QTest::mouseClick(Find("canvas"), Qt::LeftButton);
+  EXPECT_FALSE(together());
+  QTest::mouseMove(Find("list"));
+  EXPECT_TRUE(together());
 }
 
 TEST_F(Stage, APointerShowsAtOnceAndComesBack) {

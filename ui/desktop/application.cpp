@@ -36,8 +36,6 @@ int Leave(const std::string& folder, const QString& name, const std::optional<QS
 }  // namespace
 
 void PrepareApplication() {
-  // A stroke of the brush wants every movement of the mouse.
-  QApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication::setApplicationName("lectern");
   QApplication::setDesktopFileName("lectern");

@@ -12,7 +12,8 @@ namespace lectern::desktop {
 namespace {
 
 // A stroke is made of every movement of the mouse; whatever else follows it wants its latest place, so that
-// nothing piles up.
+// nothing piles up. Movements are put together as they arrive, which may be before a press is delivered: so
+// it has to be said before the press.
 void WantEveryMovement(bool wanted) {
   QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, !wanted);
 }
@@ -39,14 +40,12 @@ bool ClickableView::HandleKey(const QKeyEvent& key) {
 bool ClickableView::Pressed(const QMouseEvent& event) {
   if (!Control().Click && !Control().MouseDown) return false;
   pressed_ = event.button() == Qt::LeftButton;
-  WantEveryMovement(static_cast<bool>(Control().MouseMove));
   const forms::MouseEvent mouse = InScale(ToMouseEvent(event, event.button()));
   Act([this, mouse] { Control().PersonPresses(mouse); });
   return true;
 }
 
 bool ClickableView::Released(const QMouseEvent& event) {
-  WantEveryMovement(false);
   if (!std::exchange(pressed_, false) || event.button() != Qt::LeftButton) return false;
   if (Control().Click && Widget()->rect().contains(event.position().toPoint())) {
     Act([this] { Control().Click(); });
@@ -75,6 +74,12 @@ bool ClickableView::eventFilter(QObject* watched, QEvent* event) {
         return Released(static_cast<const QMouseEvent&>(*event));
       case QEvent::MouseMove:
         return Moved(static_cast<const QMouseEvent&>(*event));
+      case QEvent::Enter:
+        WantEveryMovement(Control().MouseDown && Control().MouseMove);
+        break;
+      case QEvent::Leave:  // comes only when no button is held down any more
+        WantEveryMovement(false);
+        break;
       default:
         break;
     }
