@@ -8,6 +8,8 @@ const char* RunTimeError::what() const noexcept {
       return "Invalid procedure call or argument";
     case ErrorNumber::kOverflow:
       return "Overflow";
+    case ErrorNumber::kOutOfMemory:
+      return "Out of memory";
     case ErrorNumber::kSubscript:
       return "Subscript out of range";
     case ErrorNumber::kTypeMismatch:

@@ -12,6 +12,7 @@ namespace lectern::core {
 enum class ErrorNumber : int {
   kInvalidCall = 5,
   kOverflow = 6,
+  kOutOfMemory = 7,
   kSubscript = 9,
   kTypeMismatch = 13,
   kBadFileName = 52,  // also: a slot that is not open

@@ -1,6 +1,7 @@
 #include "ui/program.h"
 
 #include <algorithm>
+#include <new>
 
 #include "core/error_modes.h"
 #include "core/forms/timer.h"
@@ -51,11 +52,16 @@ void Program::Deliver(forms::Window& window, const std::function<void()>& event)
 }
 
 void Program::Guard(forms::AfterFailure after, const std::function<void()>& event) {
+  const auto fail = [&](const core::RunTimeError& error) {
+    report_failure(error);
+    if (after == forms::AfterFailure::kEndProgram) End(1);
+  };
   try {
     event();
   } catch (const core::RunTimeError& error) {
-    report_failure(error);
-    if (after == forms::AfterFailure::kEndProgram) End(1);
+    fail(error);
+  } catch (const std::bad_alloc&) {
+    fail(core::RunTimeError(core::ErrorNumber::kOutOfMemory));
   } catch (const core::ProgramEnd& end) {
     End(end.status);
   }

@@ -3,7 +3,22 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/run_time_error.h"
+
 namespace lectern::forms {
+
+namespace {
+
+// A picture that was zoomed and kept again and again would outgrow any machine, which then stops more than
+// this program.
+std::size_t CountOf(int width, int height) {
+  constexpr std::size_t kMostPixels = std::size_t{1} << 30;
+  const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+  if (count > kMostPixels) throw core::RunTimeError(core::ErrorNumber::kOutOfMemory);
+  return count;
+}
+
+}  // namespace
 
 Pixel Combine(RasterOperation operation, Pixel destination, Pixel pen) {
   const Pixel d = destination;
@@ -74,9 +89,7 @@ void Area::Include(const Area& other) {
 }
 
 Bitmap::Bitmap(int width, int height, Pixel fill)
-    : width_(std::max(width, 0)),
-      height_(std::max(height, 0)),
-      pixels_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), fill) {}
+    : width_(std::max(width, 0)), height_(std::max(height, 0)), pixels_(CountOf(width_, height_), fill) {}
 
 Area Bitmap::Dot(int x, int y, int diameter, Pixel pen, RasterOperation operation) {
   const int size = std::max(diameter, 1);

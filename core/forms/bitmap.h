@@ -1,6 +1,7 @@
 // A rectangle of pixels and the pixel work that drawing comes down to. Every pixel is a colour number
 // (red + 256 times green + 65536 times blue) with its opacity in the top byte, 255 for a solid one.
-// Positions count from 0 at the top left; what falls outside is not drawn.
+// Positions count from 0 at the top left; what falls outside is not drawn. A bitmap of more than four
+// gigabytes is refused (error 7).
 #pragma once
 
 #include <cstddef>

@@ -133,6 +133,11 @@ TEST_F(PictureBoxTest, GrowsToItsPictureAndShowsMoreOfItInNewRoom) {
   EXPECT_EQ(panel.Shown().At(0, 0), kRedPixel);  // a picture that was there before there was room for it
 }
 
+TEST_F(PictureBoxTest, RefusesToOutgrowTheMachine) {
+  EXPECT_EQ(ErrorOf([&] { box.Width = 1e9; }), 0);
+  EXPECT_EQ(ErrorOf([&] { box.Height = 1e9; }), 7);
+}
+
 TEST(Image, TakesThePicturesSizeUnlessItStretches) {
   TestWindow test;
   Image image(test.form, "imgp");
