@@ -11,6 +11,13 @@ constexpr int kChosen = 5;                             // the box that shows the
 constexpr int kStrokeWidths[] = {14, 18, 20, 37, 45};  // of the boxes' pictures, pixels
 constexpr int kDotWidths[] = {5, 10, 15, 20, 25};
 
+constexpr int kFirstStrokeWidth = 22;  // of the picture in the chosen brush's box before one is chosen
+constexpr int kFirstDotWidth = 15;     // what the pen settings begin with
+
+// How thick the stroke in a box's picture is: thinner than what the brush paints, to leave room for its
+// swing.
+int Thickness(int dot_width) { return dot_width * 2 / 3; }
+
 }  // namespace
 
 Brushes::Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, Canvas& the_canvas,
@@ -30,7 +37,9 @@ Brushes::Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
       slots(the_slots) {
   picpbs.ForEach([this](int index, forms::PictureBox& box) {
     box.BorderStyle = 0;
-    if (index < kBrushes) box.Picture = StrokePicture(kStrokeWidths[index], kDotWidths[index] * 2 / 3);
+    box.AutoSize = index == kChosen;
+    box.Picture = index < kBrushes ? StrokePicture(kStrokeWidths[index], Thickness(kDotWidths[index]))
+                                   : StrokePicture(kFirstStrokeWidth, Thickness(kFirstDotWidth));
     box.Click = [this, index] { picpbs_Click(index); };
   });
 }

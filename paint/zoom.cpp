@@ -8,7 +8,7 @@ Zoom::Zoom(forms::Window& form, Canvas& the_canvas)
     : cmdm(form, "cmdm",
            {{.caption = "      +", .name = "Zoom in"},
             {.caption = "      -", .enabled = false, .name = "Zoom out"}}),
-      txt5(form, "txt5", {.caption = "0", .read_only = true, .name = "Zoom level"}),
+      txt5(form, "txt5", {.caption = "0", .name = "Zoom level"}),
       picbox2(form, "picbox2", {.visible = false}),
       canvas(the_canvas) {
   cmdm.ForEach(
@@ -24,6 +24,8 @@ void Zoom::cmdm_Click(int index) {
   picbox2.Stretch = true;
   picbox2.Picture = picbox.Picture;
   picbox2.Stretch = false;
+  // ODDITY(level-as-text): a level that a person types zooms nothing by itself; the next zoom counts on from it,
+  // and outside the three levels the buttons stay as they were. It is meant.
   const double level = text::NumberValue(txt5.Text());
   if (index == kOut) {
     txt5.Text = text::NumberText(level - 1);

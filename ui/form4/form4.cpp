@@ -34,6 +34,7 @@ void Form4::Form_Load() {
   ignore([&] { Top = (screen.height - Height) / 2; });
   ignore([&] { Left = (screen.width - Width) / 2; });
   ignore([&] { palette.LoadColours(); });
+  palette.Command4.SetFocus();  // on none of the brushes, which would look as if it were chosen
 }
 
 void Form4::Open(const forms::Picture& picture) {
@@ -41,6 +42,7 @@ void Form4::Open(const forms::Picture& picture) {
   constexpr int kPageHeight = 363;
   canvas.picbox.Picture = picture ? picture : paint::WhitePage(kPageWidth, kPageHeight);
   Visible = true;
+  BringToFront();
   StartPaint();
 }
 
