@@ -9,7 +9,8 @@
 
 namespace lectern {
 
-// Runs an action in a process of its own, and says how that ended; a failed expectation in it is 1.
+// Runs an action in a process of its own, and says how that ended; a failed expectation in it is 1, a crash
+// -1.
 inline int InChild(const std::function<void()>& action) {
   const pid_t child = ::fork();
   if (child == 0) {

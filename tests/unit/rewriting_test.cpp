@@ -2,11 +2,11 @@
 // catalogue is in place, or whole in the new file with the old one under `backup`.
 #include <array>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "core/forms/picture.h"
 #include "core/run_time_error.h"
+#include "tests/unit/child_process.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
 
@@ -36,8 +36,8 @@ void LayOut(const TemporaryFolder& folder) {
 // Lets the keeper use a tool on the second picture in a process of its own, and stops it ahead of its n-th
 // file operation; whether it came to an end before.
 bool UsesTool(const TemporaryFolder& folder, const std::string& tool, Stop stop, int n) {
-  const pid_t child = ::fork();
-  if (child == 0) {
+  constexpr int kStopped = 77;
+  const int status = InChild([&] {
     Driver driver(folder.Path(), [](const std::string&) {});
     driver.Execute("click Form1.imgp(1)");
     bool stopped = false;
@@ -45,16 +45,14 @@ bool UsesTool(const TemporaryFolder& folder, const std::string& tool, Stop stop,
     driver.Files().before = [&](files::Operation, const std::string&) {
       if (--left != 0) return;
       stopped = true;
-      if (stop == Stop::kPowerCut) ::_exit(1);
+      if (stop == Stop::kPowerCut) ::_exit(kStopped);
       throw core::RunTimeError(core::ErrorNumber::kDiskFull);
     };
     driver.Execute("click! Form1." + tool);
-    ::_exit(stopped ? 1 : 0);
-  }
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  EXPECT_TRUE(WIFEXITED(status)) << "the program crashed";
-  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    if (stopped) ::_exit(kStopped);
+  });
+  EXPECT_TRUE(status == 0 || status == kStopped) << "the program crashed";
+  return status == 0;
 }
 
 class Rewriting : public testing::TestWithParam<std::tuple<const char*, Stop>> {};
