@@ -12,8 +12,8 @@ class PrintedPicture {
  public:
   explicit PrintedPicture(forms::Window& window);
 
-  // Shows the window around the picture, in the middle of the screen. Without a picture, it keeps the one
-  // that stands and its size.
+  // Shows the window around the picture, in the middle of the screen. Without a picture it shows none, in the
+  // size that it had.
   void PrintPaintPicture(const forms::Picture& picture);
 
   forms::Window& form;

@@ -77,9 +77,7 @@ std::string_view StoredNoteText(std::string_view routine) {
 
 const std::string_view kAboutText =
     "Lectern 2, by the makers of Lectern, 2026. It is free to use and to pass on. If you would like to give "
-    "a "
-    "donation, or pictures for the gallery, please see us on the web by clicking ''Internet'', at the top "
-    "menu "
-    "bar.";
+    "a donation, or pictures for the gallery, please see us on the web by clicking ''Internet'', at the top "
+    "menu bar.";
 
 }  // namespace lectern::aids
