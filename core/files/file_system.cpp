@@ -1,16 +1,15 @@
-// The one place that talks to the host's file calls.
 #include "core/files/file_system.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
+#include "core/files/host_files.h"
 #include "core/files/path_names.h"
 #include "core/run_time_error.h"
 #include "core/text/letter_case.h"
@@ -19,107 +18,6 @@ namespace lectern::files {
 
 using core::ErrorNumber;
 using core::RunTimeError;
-
-namespace {
-
-[[noreturn]] void FailWith(int host_error) {
-  switch (host_error) {
-    case ENOENT:
-      throw RunTimeError(ErrorNumber::kFileNotFound);
-    case ENOTDIR:
-      throw RunTimeError(ErrorNumber::kPathNotFound);
-    case EACCES:
-    case EPERM:
-    case EROFS:
-      throw RunTimeError(ErrorNumber::kPermissionDenied);
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      throw RunTimeError(ErrorNumber::kDiskFull);
-    case ENAMETOOLONG:
-    case EINVAL:
-    case EILSEQ:
-      throw RunTimeError(ErrorNumber::kBadFileName);
-    case EEXIST:
-      throw RunTimeError(ErrorNumber::kFileAlreadyExists);
-    case EISDIR:
-    case ENOTEMPTY:
-      throw RunTimeError(ErrorNumber::kPathAccess);
-    case ENXIO:
-    case ENODEV:
-      throw RunTimeError(ErrorNumber::kDeviceUnavailable);
-    default:
-      throw RunTimeError(ErrorNumber::kDeviceIo);
-  }
-}
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) ::close(number_);
-  }
-  int number() const { return number_; }
-  int Release() { return std::exchange(number_, -1); }
-
- private:
-  int number_;
-};
-
-// What stands at the path, of whatever kind.
-struct Standing {
-  bool there = false;
-  bool folder = false;
-  bool file = false;
-};
-
-Standing At(const std::string& path) {
-  struct stat status {};
-  if (::stat(path.c_str(), &status) != 0) return {};
-  return {true, S_ISDIR(status.st_mode), S_ISREG(status.st_mode)};
-}
-
-template <class Take>
-void ForEachEntry(const std::string& folder, Take take) {
-  DIR* const entries = ::opendir(folder.empty() ? "/" : folder.c_str());
-  if (entries == nullptr) return;
-  while (const dirent* entry = ::readdir(entries)) {
-    const std::string_view name = entry->d_name;
-    if (name != "." && name != "..") take(*entry, name);
-  }
-  ::closedir(entries);
-}
-
-// The entry that is the element but for case; of several the first in code order; "" where none is.
-std::string EntryLike(const std::string& folder, std::string_view element) {
-  std::string found;
-  ForEachEntry(folder, [&](const dirent&, std::string_view name) {
-    if (text::EqualFolded(name, element) && (found.empty() || name < found)) found = name;
-  });
-  return found;
-}
-
-struct OpenFile {
-  int descriptor = -1;  // or -1, and errno says why
-  std::uint64_t length = 0;
-};
-
-OpenFile OpenRegular(const std::string& path, int flags) {
-  // Never waits: a pipe that lies where a file is wanted is no file.
-  constexpr mode_t kMode = 0666;
-  Descriptor file(::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC, kMode));
-  if (file.number() < 0) return {};
-  struct stat status {};
-  if (::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode)) {
-    errno = EISDIR;
-    return {};
-  }
-  return {file.Release(), static_cast<std::uint64_t>(status.st_size)};
-}
-
-}  // namespace
 
 FileSystem::FileSystem(std::string start_folder) : start_folder_(std::move(start_folder)) {}
 
@@ -202,12 +100,11 @@ void FileSystem::Read(std::string_view name, Contents& contents) const {
   std::string path = AsWritten(name);
   Announce(Operation::kRead, path);
   OpenFile opened = OpenRegular(path, O_RDONLY);
-  if (opened.descriptor < 0 && (errno == ENOENT || errno == ENOTDIR)) {
+  if (!opened.descriptor.IsOpen() && (errno == ENOENT || errno == ENOTDIR)) {
     path = HostPath(name);
     opened = OpenRegular(path, O_RDONLY);
   }
-  if (opened.descriptor < 0) FailWith(errno);
-  const Descriptor file(opened.descriptor);
+  if (!opened.descriptor.IsOpen()) FailWith(errno);
   const std::uint64_t length = opened.length;
   if (contents.capacity_ < length) {
     contents.capacity_ = 0;
@@ -216,7 +113,7 @@ void FileSystem::Read(std::string_view name, Contents& contents) const {
   }
   while (contents.size_ < length) {
     const ssize_t taken =
-        ::read(file.number(), contents.room_.get() + contents.size_, length - contents.size_);
+        ::read(opened.descriptor.Number(), contents.room_.get() + contents.size_, length - contents.size_);
     if (taken < 0 && errno == EINTR) continue;
     if (taken < 0) FailWith(errno);
     if (taken == 0) break;  // the file was cut short meanwhile
@@ -228,12 +125,12 @@ Appending FileSystem::OpenForAppending(std::string_view name) const {
   std::string path = AsWritten(name);
   Announce(Operation::kAppend, path);
   OpenFile opened = OpenRegular(path, O_WRONLY | O_APPEND);
-  if (opened.descriptor < 0 && (errno == ENOENT || errno == ENOTDIR)) {
+  if (!opened.descriptor.IsOpen() && (errno == ENOENT || errno == ENOTDIR)) {
     path = HostPath(name);
     opened = OpenRegular(path, O_WRONLY | O_APPEND | O_CREAT);
   }
-  if (opened.descriptor < 0) FailWith(errno);
-  return {*this, opened.descriptor, path, opened.length};
+  if (!opened.descriptor.IsOpen()) FailWith(errno);
+  return {*this, std::move(opened.descriptor), path, opened.length};
 }
 
 void FileSystem::Delete(std::string_view name) const {
@@ -354,70 +251,6 @@ std::vector<std::string> FileSystem::Files(std::string_view folder, std::string_
 std::vector<std::string> FileSystem::Folders(std::string_view folder) const {
   return Names(*this, folder,
                [](std::string_view name, bool is_folder) { return is_folder && !name.starts_with('.'); });
-}
-
-Appending::Appending(const FileSystem& files, int descriptor, std::string path, std::uint64_t length)
-    : files_(&files), descriptor_(descriptor), path_(std::move(path)), length_at_opening_(length) {}
-
-Appending::Appending(Appending&& other) noexcept
-    : files_(other.files_),
-      descriptor_(std::exchange(other.descriptor_, -1)),
-      path_(std::move(other.path_)),
-      length_at_opening_(other.length_at_opening_),
-      pending_(std::move(other.pending_)) {}
-
-Appending& Appending::operator=(Appending&& other) noexcept {
-  std::swap(files_, other.files_);
-  std::swap(descriptor_, other.descriptor_);
-  std::swap(path_, other.path_);
-  std::swap(length_at_opening_, other.length_at_opening_);
-  std::swap(pending_, other.pending_);
-  return *this;
-}
-
-Appending::~Appending() {
-  try {
-    if (descriptor_ >= 0) Close();
-  } catch (...) {  // what could not be written is taken back; there is nobody left to be told
-  }
-}
-
-void Appending::LetGo() {
-  pending_.clear();
-  if (descriptor_ >= 0) ::close(std::exchange(descriptor_, -1));
-}
-
-void Appending::Write(std::string_view bytes) {
-  constexpr std::size_t kLargest = std::size_t{1} << 18;
-  pending_.append(bytes);
-  if (pending_.size() > kLargest) Flush();
-}
-
-void Appending::Flush() {
-  std::string_view left = pending_;
-  if (left.empty()) return;
-  try {
-    files_->Announce(Operation::kWrite, path_);
-    while (!left.empty()) {
-      const ssize_t written = ::write(descriptor_, left.data(), left.size());
-      if (written < 0 && errno == EINTR) continue;
-      if (written < 0) FailWith(errno);
-      left.remove_prefix(static_cast<std::size_t>(written));
-    }
-  } catch (const RunTimeError&) {
-    if (::ftruncate(descriptor_, static_cast<off_t>(length_at_opening_)) != 0) {
-      // Nothing more can be done for a file that can neither grow nor shrink.
-    }
-    LetGo();
-    throw;
-  }
-  pending_.clear();
-}
-
-void Appending::Close() {
-  Flush();
-  const int descriptor = std::exchange(descriptor_, -1);
-  if (descriptor >= 0 && ::close(descriptor) != 0) FailWith(errno);
 }
 
 }  // namespace lectern::files

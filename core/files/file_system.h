@@ -11,10 +11,11 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "core/files/appending.h"
 
 namespace lectern::files {
 
@@ -30,33 +31,6 @@ class Contents {
   std::unique_ptr<char[]> room_;
   std::size_t capacity_ = 0;
   std::size_t size_ = 0;
-};
-
-// A file that is written to behind its end. What is written goes to the disk at Flush and Close, or before
-// when it has grown large. A write that fails takes back what this opening wrote, so that a full disk leaves
-// the file as it was.
-class Appending {
- public:
-  Appending(Appending&& other) noexcept;
-  Appending& operator=(Appending&& other) noexcept;
-  Appending(const Appending&) = delete;
-  Appending& operator=(const Appending&) = delete;
-  ~Appending();  // closes, whatever fails
-
-  void Write(std::string_view bytes);
-  void Flush();
-  void Close();
-
- private:
-  friend class FileSystem;
-  Appending(const class FileSystem& files, int descriptor, std::string path, std::uint64_t length);
-  void LetGo();
-
-  const FileSystem* files_;
-  int descriptor_;
-  std::string path_;
-  std::uint64_t length_at_opening_;
-  std::string pending_;
 };
 
 class FileSystem {

@@ -1,0 +1,68 @@
+// The host's file calls as the rooms of this folder share them, and the host's failures as run-time errors.
+#pragma once
+
+#include <cstdint>
+#include <dirent.h>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace lectern::files {
+
+// Throws the RunTimeError that stands for the host's error number.
+[[noreturn]] void FailWith(int host_error);
+
+// An open file of the host, closed with its owner.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(other.Release()) {}
+  Descriptor& operator=(Descriptor&& other) noexcept {
+    std::swap(number_, other.number_);
+    return *this;
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor();
+
+  int Number() const { return number_; }
+  bool IsOpen() const { return number_ >= 0; }
+  int Release() { return std::exchange(number_, -1); }
+
+ private:
+  int number_;
+};
+
+// What stands at a path, of whatever kind.
+struct Standing {
+  bool there = false;
+  bool folder = false;
+  bool file = false;
+};
+
+Standing At(const std::string& path);
+
+struct OpenFile {
+  Descriptor descriptor;  // not open: errno says why
+  std::uint64_t length = 0;
+};
+
+// Never waits: a pipe or a device that lies where a file is wanted is no file.
+OpenFile OpenRegular(const std::string& path, int flags);
+
+// The entry of a folder that is the element but for case; of several the first in code order; "" where none
+// is.
+std::string EntryLike(const std::string& folder, std::string_view element);
+
+template <class Take>
+void ForEachEntry(const std::string& folder, Take take) {
+  DIR* const entries = ::opendir(folder.empty() ? "/" : folder.c_str());
+  if (entries == nullptr) return;
+  while (const dirent* entry = ::readdir(entries)) {
+    const std::string_view name = entry->d_name;
+    if (name != "." && name != "..") take(*entry, name);
+  }
+  ::closedir(entries);
+}
+
+}  // namespace lectern::files
