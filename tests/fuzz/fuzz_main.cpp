@@ -11,6 +11,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 extern const std::vector<std::string> kPieces;
+extern const std::size_t kHead;  // bytes of mere chance in front of the pieces
 
 int main(int count, char** arguments) {
   const int runs = count > 1 ? std::atoi(arguments[1]) : 20000;
@@ -18,6 +19,7 @@ int main(int count, char** arguments) {
   const auto below = [&random](std::size_t limit) { return static_cast<std::size_t>(random()) % limit; };
   for (int run = 0; run < runs; ++run) {
     std::string input;
+    while (input.size() < kHead) input.push_back(static_cast<char>(below(256)));
     for (std::size_t pieces = below(40); pieces > 0; --pieces) {
       if (below(8) == 0) {
         input.push_back(static_cast<char>(below(256)));

@@ -9,7 +9,9 @@
 #include "core/files/record_reader.h"
 #include "core/files/text_encoding.h"
 
+extern const std::size_t kHead;
 extern const std::vector<std::string> kPieces;
+const std::size_t kHead = 0;
 const std::vector<std::string> kPieces = {"\"Genesis\",50\r\n",
                                           "\"",
                                           ",",

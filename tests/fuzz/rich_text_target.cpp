@@ -8,7 +8,9 @@
 #include "core/forms/rich_text.h"
 #include "core/text/characters.h"
 
+extern const std::size_t kHead;
 extern const std::vector<std::string> kPieces;
+const std::size_t kHead = 0;
 const std::vector<std::string> kPieces = {"{\\rtf1\\ansi ",
                                           "{",
                                           "}",

@@ -1,0 +1,17 @@
+// A data folder with a little of everything that the program reads, for tests that go everywhere: three
+// short books in both versions, all lists, a bookmark, a note and a few pictures of some pixels.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace lectern {
+
+// The files by their names in the folder, with what they hold.
+std::vector<std::pair<std::string, std::string>> SmallWorld();
+
+// Makes the folder hold just that.
+void LaySmallWorld(const std::string& folder);
+
+}  // namespace lectern
