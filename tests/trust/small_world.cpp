@@ -42,6 +42,7 @@ void AddBooks(std::vector<std::pair<std::string, std::string>>& files) {
     files.emplace_back("NEW/N" + name + ".txt", text);
     counts += "\"" + name + "\"," + (name == "Genesis" ? "3" : "2") + "\r\n";
   }
+  files.emplace_back("Genesis.txt", books.front().second);  // for the tools that read the folder itself
   files.emplace_back("KJV/1-Samuel.txt", books.back().second);
   files.emplace_back("bookschap.txt", counts);
 }
