@@ -24,8 +24,8 @@ void Zoom::cmdm_Click(int index) {
   picbox2.Stretch = true;
   picbox2.Picture = picbox.Picture;
   picbox2.Stretch = false;
-  // ODDITY(level-as-text): a level that a person types zooms nothing by itself; the next zoom counts on from it,
-  // and outside the three levels the buttons stay as they were. It is meant.
+  // ODDITY(level-as-text): a level that a person types zooms nothing by itself; the next zoom counts on from
+  // it, and outside the three levels the buttons stay as they were. It is meant.
   const double level = text::NumberValue(txt5.Text());
   if (index == kOut) {
     txt5.Text = text::NumberText(level - 1);

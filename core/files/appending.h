@@ -17,7 +17,7 @@ class FileSystem;
 class Appending {
  public:
   Appending(Appending&&) noexcept = default;
-  Appending& operator=(Appending&&) noexcept = default;
+  Appending& operator=(Appending&&) = delete;
   Appending(const Appending&) = delete;
   Appending& operator=(const Appending&) = delete;
   ~Appending();  // closes, whatever fails
