@@ -24,8 +24,8 @@ TextStyle TextRuns::At(std::size_t position) const {
 
 // Makes a border at the position, and says which run begins there or behind it.
 std::size_t TextRuns::SplitAt(std::size_t position) {
-  const auto found = std::find_if(runs_.begin(), runs_.end(),
-                                  [position](const TextRun& run) { return run.End() > position; });
+  const auto found = std::partition_point(runs_.begin(), runs_.end(),
+                                          [position](const TextRun& run) { return run.End() <= position; });
   const auto index = static_cast<std::size_t>(found - runs_.begin());
   if (found == runs_.end() || found->start >= position) return index;
   TextRun rest = *found;

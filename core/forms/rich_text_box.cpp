@@ -69,6 +69,8 @@ RichTextBox::RichTextBox(Container& parent, std::string name, const Design& desi
 
 // A write of the whole text leaves no run and no selection of the old one standing.
 void RichTextBox::TextWritten() {
+  length_.reset();
+  reached_ = {};
   if (!std::exchange(editing_, false)) {
     runs_.Clear();
     is_ascii_ = text::IsAscii(Text());
@@ -82,9 +84,25 @@ void RichTextBox::PutSelectionInside() {
   // A text has at least a quarter as many characters as bytes; only near its end do they have to be counted.
   const std::size_t end = static_cast<std::size_t>(SelStart()) + static_cast<std::size_t>(SelLength());
   if (end <= Text->size() / 4) return;
-  const auto length = static_cast<int>(is_ascii_ ? Text->size() : text::Length(Text()));
+  const auto length = static_cast<int>(LengthInCharacters());
   if (SelStart > length) SelStart = length;
   if (SelLength > length - SelStart) SelLength = length - SelStart;
+}
+
+std::size_t RichTextBox::LengthInCharacters() {
+  if (is_ascii_) return Text->size();
+  if (!length_) length_ = text::Length(Text());
+  return *length_;
+}
+
+std::size_t RichTextBox::ByteOf(std::size_t position) {
+  if (is_ascii_) return std::min(position, Text->size());
+  if (position < reached_.position) reached_ = {};
+  while (reached_.position < position && reached_.byte < Text->size()) {
+    text::NextCharacter(Text(), reached_.byte);
+    ++reached_.position;
+  }
+  return reached_.byte;
 }
 
 void RichTextBox::LoadFile(std::string_view path) {
@@ -113,11 +131,12 @@ int RichTextBox::Find(std::string_view sought, int start, int options) {
   const std::string_view text = Text();
   const char32_t first = static_cast<unsigned char>(lower[0]);
   int position = start;
-  std::size_t byte = text::ByteOf(text, static_cast<std::size_t>(start) + 1);
+  std::size_t byte = ByteOf(static_cast<std::size_t>(start));
   for (; byte + lower.size() <= text.size(); ++position) {
     const bool may_be =
         first >= 0x80 || text::LowerCharacter(static_cast<unsigned char>(text[byte])) == first;
     if (may_be && StandsAt(text, byte, lower)) {
+      reached_ = {static_cast<std::size_t>(position), byte};
       if ((options & kFindNoHighlight) == 0) {
         SelStart = position;
         SelLength = static_cast<int>(text::Length(sought));

@@ -4,6 +4,7 @@
 // lets a person select and copy; the program's own code writes all the same.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -54,11 +55,23 @@ class RichTextBox : public TextControl {
   Event<> Change;
 
  private:
+  // A character's position and where its bytes begin.
+  struct Place {
+    std::size_t position = 0;
+    std::size_t byte = 0;
+  };
+
   void Replace(std::size_t start, std::size_t removed, std::string_view inserted);
   void TextWritten();
   void PutSelectionInside();
+  std::size_t LengthInCharacters();
+  std::size_t ByteOf(std::size_t position);  // the text's size where there is no such position
 
   TextRuns runs_;
+  // What was counted of a text that is not plain ASCII, until it changes: whoever goes through it find by
+  // find does not count it from its beginning each time.
+  std::optional<std::size_t> length_;
+  Place reached_;
   bool read_only_;
   bool is_ascii_ = true;
   bool editing_ = false;  // while Text changes in part, and the runs with it

@@ -27,6 +27,25 @@ TEST(HighlightText, ColoursEveryPlaceAndKeepsTheSelection) {
   EXPECT_TRUE(pane.Runs().All().empty());
 }
 
+TEST(HighlightText, CountsCharactersInATextOfAnyLengthAndScript) {
+  TestWindow test;
+  forms::RichTextBox pane(test.form, "rtxt");
+  pane.Text = "1   Ἐν grace, é grace";
+  EXPECT_EQ(HighlightText(pane, "grace", kMarkColour), 2);
+  EXPECT_EQ(pane.Runs().All()[1].start, 16U);
+  pane.PersonEdits(0, 4, "ééééé");
+  EXPECT_EQ(pane.Find("ἘΝ", 3, forms::kFindNoHighlight), 5);
+  EXPECT_EQ(pane.Find("grace", 0, forms::kFindNoHighlight), 8);
+
+  // As many places as a large file has lines; a walk from the beginning to each of them would take hours.
+  constexpr int kLines = 300000;
+  std::string lines;
+  for (int i = 0; i < kLines; ++i) lines += "1   é grace\r\n";
+  pane.Text = lines;
+  EXPECT_EQ(HighlightText(pane, "grace", kMarkColour), kLines);
+  EXPECT_EQ(pane.Runs().All().back().start, 13U * kLines - 7);
+}
+
 TEST(Entry, IsTakenApartBehindItsThirdCharacter) {
   const std::optional<Entry> peter = ParseEntry("1 Peter 2 6");
   ASSERT_TRUE(peter);
