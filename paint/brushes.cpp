@@ -7,16 +7,10 @@ namespace lectern::paint {
 namespace {
 
 constexpr int kBrushes = 5;
-constexpr int kChosen = 5;                             // the box that shows the chosen brush
-constexpr int kStrokeWidths[] = {14, 18, 20, 37, 45};  // of the boxes' pictures, pixels
-constexpr int kDotWidths[] = {5, 10, 15, 20, 25};
-
-constexpr int kFirstStrokeWidth = 22;  // of the picture in the chosen brush's box before one is chosen
-constexpr int kFirstDotWidth = 15;     // what the pen settings begin with
-
-// How thick the stroke in a box's picture is: thinner than what the brush paints, to leave room for its
-// swing.
-int Thickness(int dot_width) { return dot_width * 2 / 3; }
+constexpr int kChosen = 5;  // the box that shows the chosen brush
+// Of the brushes and, last, of the stroke that stands in the box of the chosen one at the start.
+constexpr int kStrokeWidths[] = {14, 18, 20, 37, 45, 22};  // pixels
+constexpr int kDotWidths[] = {5, 10, 15, 20, 25, 15};
 
 }  // namespace
 
@@ -38,8 +32,7 @@ Brushes::Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
   picpbs.ForEach([this](int index, forms::PictureBox& box) {
     box.BorderStyle = 0;
     box.AutoSize = index == kChosen;
-    box.Picture = index < kBrushes ? StrokePicture(kStrokeWidths[index], Thickness(kDotWidths[index]))
-                                   : StrokePicture(kFirstStrokeWidth, Thickness(kFirstDotWidth));
+    box.Picture = StrokePicture(kStrokeWidths[index], kDotWidths[index] * 2 / 3);
     box.Click = [this, index] { picpbs_Click(index); };
   });
 }
