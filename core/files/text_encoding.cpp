@@ -56,6 +56,21 @@ std::string Decode(std::string_view bytes) {
   return result;
 }
 
+namespace {
+
+// Lines are told apart one by one when they are read.
+bool HasLineInUtf8(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const std::size_t end = std::min(bytes.find('\n'), bytes.size() - 1) + 1;
+    const std::string_view line = bytes.substr(0, end);
+    if (!text::IsAscii(line) && text::IsUtf8(line)) return true;
+    bytes.remove_prefix(end);
+  }
+  return false;
+}
+
+}  // namespace
+
 std::string Encode(std::string_view text) {
   if (text::IsAscii(text)) return std::string(text);
   std::string result;
@@ -65,7 +80,7 @@ std::string Encode(std::string_view text) {
     if (!byte) return std::string(text);
     result.push_back(*byte);
   }
-  return text::IsUtf8(result) ? std::string(text) : result;
+  return HasLineInUtf8(result) ? std::string(text) : result;
 }
 
 }  // namespace lectern::files

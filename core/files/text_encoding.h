@@ -18,7 +18,8 @@ std::string Decode(std::string_view bytes);
 char32_t CodePageCharacter(unsigned char byte);
 std::string DecodeCodePage(std::string_view bytes);
 
-// The bytes of one written line.
+// The bytes of what is written in one go, of one line or many: all in the code page or all in UTF-8, so that
+// each line of them is read as it was meant.
 std::string Encode(std::string_view text);
 
 }  // namespace lectern::files
