@@ -15,9 +15,22 @@ Zoom::Zoom(forms::Window& form, Canvas& the_canvas)
       [this](int index, forms::SSCommand& button) { button.Click = [this, index] { cmdm_Click(index); }; });
 }
 
+// A canvas grows without an end by going back to a large save at a small level, again and again: what would
+// take the computer's memory is not begun.
+bool Zoom::IsTooLargeToDouble() const {
+  constexpr double kLargest = 1 << 26;  // pixels; a few copies of it are made on the way
+  const double width = 2 * canvas.picbox.Width / forms::kTwipsPerPixel;
+  const double height = 2 * canvas.picbox.Height / forms::kTwipsPerPixel;
+  return width * height > kLargest;
+}
+
 void Zoom::cmdm_Click(int index) {
   constexpr int kOut = 1;
   forms::PictureBox& picbox = canvas.picbox;
+  if (index != kOut && IsTooLargeToDouble()) {
+    picbox.HostWindow().Platform().Message("The picture is too large to be shown any larger.");
+    return;
+  }
   picbox.Picture = picbox.Image();
   picbox2.Height = 1;
   picbox2.Width = 1;

@@ -19,6 +19,7 @@ class Zoom {
   forms::Image picbox2;                        // the size that comes next
 
  private:
+  bool IsTooLargeToDouble() const;
   void cmdm_Click(int index);
 
   Canvas& canvas;

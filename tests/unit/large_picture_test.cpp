@@ -60,5 +60,20 @@ TEST(LargePicture, BeyondAllReasonIsNone) {
   EXPECT_EQ(ErrorOf([&] { headless::DecodePicture(bytes); }), 481);
 }
 
+// Going back to a save of a higher level at level 0 and zooming in again makes the canvas larger each time,
+// until it is told that it is enough: the program does not run out of memory with a note unsaved.
+TEST(LargePicture, IsNotZoomedBeyondTheMemory) {
+  const TemporaryFolder folder;
+  std::vector<std::string> printed;
+  headless::Driver driver(folder.Path(), [&](const std::string& line) { printed.push_back(line); });
+  for (const char* step : {"set Form4.picbox.Width = 150000", "set Form4.picbox.Height = 150000",
+                           "click! Form4.cmdm(0)", "get Form4.picbox.Width", "get Form4.txt5.Text"}) {
+    driver.Execute(step);
+  }
+  EXPECT_EQ(printed, (std::vector<std::string>{
+                         "message \"The picture is too large to be shown any larger.\" \"Lectern 2\"",
+                         "Form4.picbox.Width = 150000", "Form4.txt5.Text = \"0\""}));
+}
+
 }  // namespace
 }  // namespace lectern
