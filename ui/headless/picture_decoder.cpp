@@ -33,10 +33,13 @@ forms::Picture FromPixbuf(const GdkPixbuf* pixbuf) {
   return forms::Picture(std::move(bitmap));
 }
 
-// The same limit as on the desktop: a gigabyte of pixels.
-void NoteSize(GdkPixbufLoader* /*loader*/, gint width, gint height, gpointer too_large) {
+// The same limit as on the desktop: a gigabyte of pixels. A header that promises more is found out before there
+// is memory asked for: a picture of no size is not decoded.
+void NoteSize(GdkPixbufLoader* loader, gint width, gint height, gpointer too_large) {
   constexpr std::int64_t kMostPixels = std::int64_t{1024} * 1024 * 1024 / sizeof(forms::Pixel);
-  *static_cast<bool*>(too_large) = std::int64_t{width} * height > kMostPixels;
+  if (std::int64_t{width} * height <= kMostPixels) return;
+  *static_cast<bool*>(too_large) = true;
+  gdk_pixbuf_loader_set_size(loader, 0, 0);
 }
 
 }  // namespace
@@ -46,7 +49,6 @@ forms::Picture DecodePicture(std::string_view bytes) {
   const std::unique_ptr<GdkPixbufLoader, Unreference> loader(gdk_pixbuf_loader_new());
   bool too_large = false;
   g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(NoteSize), &too_large);
-  // Piece by piece, so that a header that promises the moon is found out before the rest is decoded.
   bool taken = true;
   while (taken && !too_large && !bytes.empty()) {
     constexpr std::size_t kPiece = 1 << 16;
