@@ -1,7 +1,6 @@
 #include "search/concordance_viewer.h"
 
 #include <optional>
-#include <utility>
 
 #include "core/text/characters.h"
 #include "core/text/letter_case.h"
@@ -88,7 +87,7 @@ void ConcordanceViewer::lstc_Click() {
   const std::string wanted = text::Upper(lblw.Caption());
   files::FileSlots& slots = reader.form.Slots();
   slots.OpenForReading(kConcordance, ConcordanceFile(reader));
-  std::vector<std::string> references;
+  text::TextList references;
   std::string last;  // the records of a word stand together: it is compared once
   bool last_fits = wanted.empty();
   while (!slots.EndOfFile(kConcordance)) {
@@ -98,10 +97,10 @@ void ConcordanceViewer::lstc_Click() {
       last_fits = text::Upper(last) == wanted;
     }
     const std::string_view reference = slots.ReadField(kConcordance);
-    if (last_fits) references.emplace_back(reference);
+    if (last_fits) references.Add(reference);
   }
-  text6.Caption = std::to_string(references.size());
-  lstc2.AddItems(std::move(references));
+  text6.Caption = std::to_string(references.Count());
+  lstc2.AddItems(references);
   slots.Close(kConcordance);
 }
 

@@ -75,14 +75,15 @@ void OnePassBuilder::TakeFindings(const std::string& word, const std::string& bo
                                   const ScanFindings& findings) {
   if (findings.count == 0) return;
   search.cmdadd.Enabled = true;
-  for (const std::string& entry : findings.entries) {
+  for (std::size_t i = 0; i < findings.entries.Count(); ++i) {
+    const std::string_view entry = findings.entries[i];
     const std::size_t verse = entry.rfind(' ');
     const std::size_t chapter = entry.rfind(' ', verse - 1);
     reader.form.Slots().WriteRecord(kTarget, " " + text::Upper(word), book,
                                     text::RoundToLong(text::NumberValue(entry.substr(chapter + 1))),
                                     text::RoundToLong(text::NumberValue(entry.substr(verse + 1))));
   }
-  const auto records = static_cast<double>(findings.entries.size());
+  const auto records = static_cast<double>(findings.entries.Count());
   builder.Text2.Text = text::NumberText(text::NumberValue(builder.Text2.Text()) + records);
   search.text5.Caption = text::NumberText(text::NumberValue(search.text5.Caption()) + findings.count);
 }

@@ -1,14 +1,21 @@
 #include "search/term_finder.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
+#include <numeric>
+#include <vector>
 
 namespace lectern::search {
 
 namespace {
 
-// Places looked at in one go. The term's first byte, a blank, takes part in the sifting as it stands.
-constexpr std::size_t kBlock = 64;
+constexpr std::size_t kBlock = 64;  // places that are looked at closely in one go
+// So many blocks are looked at closely; a term that is in none of them is taken for a rare one, and the same
+// length is passed over at a time for as long as no place in it passes.
+constexpr std::size_t kNear = 4;
+constexpr std::size_t kWideBlock = kNear * kBlock;
+constexpr std::size_t kWord = sizeof(std::uint64_t);
 
 constexpr bool IsSmallLetter(char c) { return c >= 'a' && c <= 'z'; }
 
@@ -18,25 +25,45 @@ int Rareness(char c) {
   return static_cast<int>(std::min(kByFrequency.find(c), kByFrequency.size()));
 }
 
-}  // namespace
+constexpr unsigned char FoldOf(char c) { return IsSmallLetter(c) ? 0x20 : 0; }
 
-TermFinder::Sieve TermFinder::SieveAt(std::size_t offset) const {
-  const char byte = term_[offset];
-  return {offset, static_cast<unsigned char>(byte),
-          static_cast<unsigned char>(IsSmallLetter(byte) ? 0x20 : 0)};
+std::uint64_t WordAt(const void* bytes) {
+  std::uint64_t word = 0;
+  std::memcpy(&word, bytes, kWord);
+  return word;
 }
 
+// The first byte of a word, as it lies in memory, that is not 0; there is one.
+std::size_t FirstIn(std::uint64_t word) {
+  static_assert(std::endian::native == std::endian::little || std::endian::native == std::endian::big);
+  const int zeros =
+      std::endian::native == std::endian::little ? std::countr_zero(word) : std::countl_zero(word);
+  return static_cast<std::size_t>(zeros) / 8;
+}
+
+}  // namespace
+
 TermFinder::TermFinder(std::string_view term) : term_(term) {
-  std::size_t rarest = 0;
-  for (std::size_t i = 1; i < term.size(); ++i) {
-    if (Rareness(term[i]) > Rareness(term[rarest])) rarest = i;
+  std::vector<std::size_t> by_rareness(term.size());
+  std::iota(by_rareness.begin(), by_rareness.end(), 0);
+  std::stable_sort(by_rareness.begin(), by_rareness.end(),
+                   [term](std::size_t a, std::size_t b) { return Rareness(term[a]) > Rareness(term[b]); });
+  for (std::size_t i = 0; i < sieves_.size(); ++i) {
+    const std::size_t offset = by_rareness[std::min(i, by_rareness.size() - 1)];
+    sieves_[i] = {offset, static_cast<unsigned char>(term[offset]), FoldOf(term[offset])};
   }
-  std::size_t rare = rarest == 0 ? term.size() - 1 : 0;
-  for (std::size_t i = 0; i < term.size(); ++i) {
-    if (i != rarest && Rareness(term[i]) > Rareness(term[rare])) rare = i;
+
+  unsigned char word[kWord] = {};
+  unsigned char fold[kWord] = {};
+  unsigned char counts[kWord] = {};
+  for (std::size_t i = 0; i < std::min(term.size(), kWord); ++i) {
+    word[i] = static_cast<unsigned char>(term[i]);
+    fold[i] = FoldOf(term[i]);
+    counts[i] = 0xFF;
   }
-  rarest_ = SieveAt(rarest);
-  rare_ = SieveAt(rare);
+  word_ = WordAt(word);
+  fold_ = WordAt(fold);
+  counts_ = WordAt(counts);
 }
 
 bool TermFinder::StandsAt(const char* place) const {
@@ -45,46 +72,65 @@ bool TermFinder::StandsAt(const char* place) const {
   });
 }
 
-// The first place of a block where the term stands, or npos. The sifting is a loop without a branch, which
-// the compiler turns into wide operations.
-std::size_t TermFinder::FindInBlock(const char* block) const {
+// The same where a whole word can be read from the place.
+bool TermFinder::StandsAtWord(const char* place) const {
+  if ((((WordAt(place) | fold_) ^ word_) & counts_) != 0) return false;
+  return term_.size() <= kWord || StandsAt(place);
+}
+
+// Says of each place of a block whether the term may stand there. This is a loop without a branch, which the
+// compiler turns into wide operations.
+template <std::size_t kPlaces, class Take>
+void TermFinder::Sift(const char* block, Take take) const {
   const auto* const bytes = reinterpret_cast<const unsigned char*>(block);
-  const auto* const a = bytes + rarest_.offset;
-  const auto* const b = bytes + rare_.offset;
-  const Sieve sieve_a = rarest_;
-  const Sieve sieve_b = rare_;
-  const auto blank = static_cast<unsigned char>(term_[0]);
-  unsigned char passes[kBlock];
-  unsigned char any = 0;
-  for (std::size_t i = 0; i < kBlock; ++i) {
+  const auto [a, b, c] = sieves_;
+  const unsigned char* const at_a = bytes + a.offset;
+  const unsigned char* const at_b = bytes + b.offset;
+  const unsigned char* const at_c = bytes + c.offset;
+  for (std::size_t i = 0; i < kPlaces; ++i) {
     const auto differs = static_cast<unsigned char>(
-        ((a[i] | sieve_a.fold) ^ sieve_a.byte) | ((b[i] | sieve_b.fold) ^ sieve_b.byte) | (bytes[i] ^ blank));
-    passes[i] = static_cast<unsigned char>(differs == 0);
-    any |= passes[i];
+        ((at_a[i] | a.fold) ^ a.byte) | ((at_b[i] | b.fold) ^ b.byte) | ((at_c[i] | c.fold) ^ c.byte));
+    take(i, static_cast<unsigned char>(differs == 0));
   }
-  const unsigned char* next = any == 0 ? nullptr : passes;
-  while (next != nullptr) {
-    const auto left = static_cast<std::size_t>(passes + kBlock - next);
-    next = static_cast<const unsigned char*>(std::memchr(next, 1, left));
-    if (next == nullptr) break;
-    const auto place = static_cast<std::size_t>(next - passes);
-    if (StandsAt(block + place)) return place;
-    if (++next == passes + kBlock) break;
+}
+
+bool TermFinder::AnyPasses(const char* block) const {
+  unsigned char any = 0;
+  Sift<kWideBlock>(block, [&any](std::size_t, unsigned char passes) { any |= passes; });
+  return any != 0;
+}
+
+// The first place of a block where the term stands, or npos.
+std::size_t TermFinder::FindInBlock(const char* block) const {
+  unsigned char passes[kBlock];
+  Sift<kBlock>(block, [&passes](std::size_t i, unsigned char pass) { passes[i] = pass; });
+  for (std::size_t first = 0; first < kBlock; first += kWord) {
+    while (const std::uint64_t word = WordAt(passes + first)) {
+      const std::size_t place = first + FirstIn(word);
+      if (StandsAtWord(block + place)) return place;
+      passes[place] = 0;
+    }
   }
   return std::string_view::npos;
 }
 
 std::size_t TermFinder::Find(std::string_view bytes, std::size_t from) const {
   if (bytes.size() < term_.size()) return std::string_view::npos;
-  const std::size_t end = bytes.size() - term_.size() + 1;  // behind the last place with room for the term
+  // Behind the last place with room for the term, and behind the last with room for a whole word.
+  const std::size_t end = bytes.size() - term_.size() + 1;
+  const std::size_t word_end = std::min(end, bytes.size() - std::min(bytes.size(), kWord) + 1);
   std::size_t at = from;
-  for (; at + kBlock <= end; at += kBlock) {
+  for (std::size_t near = kNear; at + kBlock <= word_end; at += kBlock, --near) {
+    if (near == 0) {
+      while (at + kWideBlock <= word_end && !AnyPasses(bytes.data() + at)) at += kWideBlock;
+      if (at + kBlock > word_end) break;
+      near = kNear;
+    }
     const std::size_t found = FindInBlock(bytes.data() + at);
     if (found != std::string_view::npos) return at + found;
   }
   for (; at < end; ++at) {
-    const char* const place = bytes.data() + at;
-    if (rarest_.Passes(place) && StandsAt(place)) return at;
+    if (StandsAt(bytes.data() + at)) return at;
   }
   return std::string_view::npos;
 }

@@ -2,7 +2,9 @@
 // at. Terms and bytes of ASCII only: other bytes match nothing but themselves.
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -10,7 +12,7 @@ namespace lectern::search {
 
 class TermFinder {
  public:
-  // `term` in lower case, beginning with a blank; it outlives the finder.
+  // `term` in lower case and not empty; it outlives the finder.
   explicit TermFinder(std::string_view term);
 
   // Where the term stands first at or behind `from`; npos where it does not.
@@ -22,18 +24,21 @@ class TermFinder {
     std::size_t offset = 0;
     unsigned char byte = 0;
     unsigned char fold = 0;  // what makes a capital small: 0x20 for a letter, 0 for any other byte
-
-    bool Passes(const char* place) const {
-      return (static_cast<unsigned char>(place[offset]) | fold) == byte;
-    }
   };
 
-  Sieve SieveAt(std::size_t offset) const;
-  bool StandsAt(const char* place) const;
+  template <std::size_t kPlaces, class Take>
+  void Sift(const char* block, Take take) const;
+  bool AnyPasses(const char* block) const;
   std::size_t FindInBlock(const char* block) const;
+  bool StandsAt(const char* place) const;
+  bool StandsAtWord(const char* place) const;
 
   std::string_view term_;
-  Sieve rarest_, rare_;  // the two rarest bytes of the term, so that few places pass both
+  std::array<Sieve, 3> sieves_;  // the rarest bytes of the term, so that few places pass them all
+  // The first bytes of the term, what folds them, and which of them count.
+  std::uint64_t word_ = 0;
+  std::uint64_t fold_ = 0;
+  std::uint64_t counts_ = 0;
 };
 
 }  // namespace lectern::search

@@ -40,7 +40,6 @@ constexpr char32_t LowerLetter(char c) {
 }
 
 constexpr std::size_t kMostDigits = 12;
-constexpr std::size_t kTypicalLine = 150;  // bytes
 
 class Scan {
  public:
@@ -61,10 +60,16 @@ class Scan {
     // A book scan counts the chapters to the end of the file, whatever it finds.
     const bool counts_on = rules_.kind == ScanKind::kBook;
     while (at_ < bytes_.size() && (counts_on || match != std::string_view::npos)) {
+      const std::size_t start = at_;
       const std::string_view line = TakeLine();
-      Count(line);
+      const bool is_verse = IsVerseLine(line);
+      if (is_verse) {
+        ++verse_;
+      } else {
+        CountOther(line);
+      }
       if (match >= at_) continue;
-      if (IsVerseLine(line)) SearchVerse(line, match - static_cast<std::size_t>(line.data() - bytes_.data()));
+      if (is_verse) SearchVerse(line, match - start);
       match = NextMatch(at_);
     }
     return std::move(findings_);
@@ -86,11 +91,8 @@ class Scan {
     return {start, length};
   }
 
-  void Count(std::string_view line) {
-    if (IsVerseLine(line)) {
-      ++verse_;
-      return;
-    }
+  // A chapter line or a heading.
+  void CountOther(std::string_view line) {
     verse_ = 0;
     if (IsChapterLine(line)) {
       ++chapter_;
@@ -134,7 +136,9 @@ class Scan {
     if (behind < line.size()) next_ = LowerLetter(line[behind]);
     if (rules_.Rejects(next_) || (book_.empty() && !rules_.CountsNameless())) return {};
     if (no_second_) return {1, true};
-    const std::size_t j = one_term_ ? line.find(' ') : second_.Find(line, 0);
+    // The blank in front of the first term may be the one that stands for a second.
+    if (one_term_ && rules_.SecondLooksAt(i, line.size())) return {1, true};
+    const std::size_t j = second_.Find(line, 0);
     return {j != std::string_view::npos && rules_.SecondLooksAt(j, line.size()) ? 1 : 0, true};
   }
 
@@ -156,8 +160,7 @@ class Scan {
     }
     char* const digits = entry_.data() + entry_length_;
     const char* const end = std::to_chars(digits, digits + kMostDigits, verse_).ptr;
-    if (findings_.entries.empty()) findings_.entries.reserve(bytes_.size() / kTypicalLine);
-    findings_.entries.emplace_back(entry_.data(), static_cast<std::size_t>(end - entry_.data()));
+    findings_.entries.Add({entry_.data(), static_cast<std::size_t>(end - entry_.data())});
   }
 
   std::string_view bytes_;

@@ -10,15 +10,15 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "core/text/text_list.h"
 #include "search/line_rules.h"
 #include "search/terms.h"
 
 namespace lectern::search {
 
 struct ScanFindings {
-  std::vector<std::string> entries;
+  text::TextList entries;
   int count = 0;          // matches; in a book scan also those without an entry, where the book has no name
   int chapter_lines = 0;  // counted to the end of the file in a book scan only
 };

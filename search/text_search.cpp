@@ -1,6 +1,5 @@
 #include "search/text_search.h"
 
-#include <utility>
 
 #include "core/error_modes.h"
 #include "core/text/characters.h"
@@ -108,18 +107,18 @@ void TextSearch::ScanOpenBook() {
   files::FileSlots& slots = reader.form.Slots();
   const std::string& book = reader.lblbook.Caption;
   slots.OpenForReading(kBook, reader.BookFile(book));
-  ScanFindings findings =
+  const ScanFindings findings =
       ScanText(slots.ReadRest(kBook), Terms(txts.Text(), txts2.Text()), book, {ScanKind::kBook, 0});
   pbar.Value = pbar.Value + findings.chapter_lines;
-  TakeFindings(std::move(findings));
+  TakeFindings(findings);
   slots.Close(kBook);
 }
 
-void TextSearch::TakeFindings(ScanFindings findings) {
+void TextSearch::TakeFindings(const ScanFindings& findings) {
   if (findings.count == 0) return;
   cmdadd.Enabled = true;
   text5.Caption = text::NumberText(text::NumberValue(text5.Caption()) + findings.count);
-  lsts.AddItems(std::move(findings.entries));
+  lsts.AddItems(findings.entries);
 }
 
 void TextSearch::tmrb_Timer() {

@@ -61,7 +61,7 @@ class TextSearch {
   void Command20_Click();
 
   void ScanOpenBook();
-  void TakeFindings(struct ScanFindings findings);
+  void TakeFindings(const struct ScanFindings& findings);
 
   core::Reader& reader;
   core::Panels& panels;

@@ -1,7 +1,6 @@
 #include "core/forms/list_box.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "core/run_time_error.h"
@@ -15,9 +14,9 @@ ItemList::ItemList(Container& parent, Kind kind, std::string name, const Design&
   ForeColor = kWindowText;
 }
 
-const std::string& ItemList::List(int index) const {
-  static const std::string kNone;
-  return index >= 0 && index < ListCount() ? items_[static_cast<std::size_t>(index)] : kNone;
+std::string ItemList::List(int index) const {
+  if (index < 0 || index >= ListCount()) return {};
+  return std::string(items_[static_cast<std::size_t>(index)]);
 }
 
 void ItemList::Select(int index) {
@@ -53,35 +52,32 @@ void ItemList::PersonMovesSelection(int index) {
   Click();
 }
 
-void ItemList::SetItems(std::vector<std::string> items) {
-  items_ = std::move(items);
+void ItemList::SetItems(const std::vector<std::string>& items) {
+  items_.Clear();
+  for (const std::string& item : items) items_.Add(item);
   selected_ = -1;
   ++generation_;
   TellView();
 }
 
-void ItemList::Insert(std::size_t at, std::string item) {
-  if (at != items_.size()) {
+void ItemList::Insert(std::size_t at, std::string_view item) {
+  if (at != items_.Count()) {
     ++generation_;
     if (selected_ >= static_cast<int>(at)) ++selected_;
   }
-  items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(at), std::move(item));
+  items_.Insert(at, item);
   TellView();
 }
 
-void ItemList::Append(std::vector<std::string> items) {
-  if (items.empty()) return;
-  if (items_.empty()) {
-    items_ = std::move(items);
-  } else {
-    items_.insert(items_.end(), std::make_move_iterator(items.begin()), std::make_move_iterator(items.end()));
-  }
+void ItemList::Append(const text::TextList& items) {
+  if (items.IsEmpty()) return;
+  items_.Add(items);
   TellView();
 }
 
 void ItemList::Erase(std::size_t at) {
   ++generation_;
-  items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(at));
+  items_.Erase(at);
   const int index = static_cast<int>(at);
   if (selected_ == index) {
     selected_ = -1;
@@ -94,18 +90,16 @@ void ItemList::Erase(std::size_t at) {
 ListBox::ListBox(Container& parent, std::string name, const Design& design)
     : ItemList(parent, Kind::kListBox, std::move(name), design), sorted_(design.sorted) {}
 
-void ListBox::AddItem(std::string item) {
-  const std::vector<std::string>& items = Items();
-  const auto at = sorted_ ? std::upper_bound(items.begin(), items.end(), item) : items.end();
-  Insert(static_cast<std::size_t>(at - items.begin()), std::move(item));
+void ListBox::AddItem(std::string_view item) {
+  Insert(sorted_ ? Items().PlaceInOrder(item) : Items().Count(), item);
 }
 
-void ListBox::AddItems(std::vector<std::string> items) {
+void ListBox::AddItems(const text::TextList& items) {
   if (!sorted_) {
-    Append(std::move(items));
+    Append(items);
     return;
   }
-  for (std::string& item : items) AddItem(std::move(item));
+  for (std::size_t i = 0; i < items.Count(); ++i) AddItem(items[i]);
 }
 
 void ListBox::RemoveItem(int index) {

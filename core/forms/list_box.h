@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/forms/control.h"
+#include "core/text/text_list.h"
 
 namespace lectern::forms {
 
@@ -15,8 +16,8 @@ class ItemList : public TextControl {
  public:
   ItemList(Container& parent, Kind kind, std::string name, const Design& design);
 
-  int ListCount() const { return static_cast<int>(items_.size()); }
-  const std::string& List(int index) const;
+  int ListCount() const { return static_cast<int>(items_.Count()); }
+  std::string List(int index) const;
   bool Selected(int index) const { return index >= 0 && index == selected_; }
   void Select(int index);  // from code: runs nothing; -1 for none
   int SelectedIndex() const { return selected_; }
@@ -32,14 +33,14 @@ class ItemList : public TextControl {
   void PersonMovesSelection(int index);  // by a key: the selection and the click, without a press
 
  protected:
-  void SetItems(std::vector<std::string> items);  // clears the selection
-  void Insert(std::size_t at, std::string item);
-  void Append(std::vector<std::string> items);
+  void SetItems(const std::vector<std::string>& items);  // clears the selection
+  void Insert(std::size_t at, std::string_view item);
+  void Append(const text::TextList& items);
   void Erase(std::size_t at);
-  const std::vector<std::string>& Items() const { return items_; }
+  const text::TextList& Items() const { return items_; }
 
  private:
-  std::vector<std::string> items_;
+  text::TextList items_;
   int selected_ = -1;
   unsigned generation_ = 0;
 };
@@ -48,8 +49,8 @@ class ListBox : public ItemList {
  public:
   ListBox(Container& parent, std::string name, const Design& design = {});
 
-  void AddItem(std::string item);
-  void AddItems(std::vector<std::string> items);
+  void AddItem(std::string_view item);
+  void AddItems(const text::TextList& items);
   void RemoveItem(int index);  // error 5 where there is none
   void Clear();                // and the selection with it
 

@@ -76,14 +76,15 @@ TEST(TextScan, FindsWhatThePlainRulesFind) {
 
     const plain::Findings plain_book = plain::BookScan(book, box1, box2, name);
     const ScanFindings of_book = ScanText(book, terms, name, {ScanKind::kBook, 0});
-    ASSERT_EQ(of_book.entries, plain_book.entries) << book << "|" << box1 << "|" << box2;
+    ASSERT_EQ(of_book.entries, text::TextList(plain_book.entries)) << book << "|" << box1 << "|" << box2;
     ASSERT_EQ(of_book.count, plain_book.count) << book << "|" << box1 << "|" << box2;
     ASSERT_EQ(of_book.chapter_lines, plain_book.chapter_lines) << book;
 
     const std::size_t margin = random.Below(2) == 0 ? 7 : random.Below(9);
     const plain::Findings plain_tick = plain::WholeTextTick(book, box1, box2, name, margin);
     const ScanFindings of_tick = ScanText(book, terms, name, {ScanKind::kWholeText, margin});
-    ASSERT_EQ(of_tick.entries, plain_tick.entries) << book << "|" << box1 << "|" << box2 << "|" << margin;
+    ASSERT_EQ(of_tick.entries, text::TextList(plain_tick.entries))
+        << book << "|" << box1 << "|" << box2 << "|" << margin;
     ASSERT_EQ(of_tick.count, plain_tick.count) << book << "|" << box1 << "|" << box2 << "|" << margin;
     found += of_book.count + of_tick.count;
   }
