@@ -24,6 +24,18 @@ constexpr std::array kBlocks = {
     Block{0x4D0, 0x52E, 1, 2},  Block{0x1E00, 0x1E94, 1, 2}, Block{0x1EA0, 0x1EFE, 1, 2},
 };
 
+constexpr bool IsPlain(char byte) { return static_cast<unsigned char>(byte) < 0x80; }
+constexpr char LowerPlain(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
+constexpr char UpperPlain(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; }
+
+// Nearly all names and words are plain ASCII, and start-up compares thousands of them.
+template <class Change>
+std::string ChangedPlain(std::string_view text, Change change) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(), change);
+  return result;
+}
+
 template <class Change>
 std::string Changed(std::string_view text, Change change) {
   std::string result;
@@ -68,19 +80,35 @@ char32_t UpperCharacter(char32_t character) {
   return character;
 }
 
-std::string Lower(std::string_view text) { return Changed(text, LowerCharacter); }
-std::string Upper(std::string_view text) { return Changed(text, UpperCharacter); }
+std::string Lower(std::string_view text) {
+  return IsAscii(text) ? ChangedPlain(text, LowerPlain) : Changed(text, LowerCharacter);
+}
+
+std::string Upper(std::string_view text) {
+  return IsAscii(text) ? ChangedPlain(text, UpperPlain) : Changed(text, UpperCharacter);
+}
 
 bool EqualFolded(std::string_view a, std::string_view b) {
   std::size_t at_a = 0;
   std::size_t at_b = 0;
   while (at_a < a.size() && at_b < b.size()) {
-    if (LowerCharacter(NextCharacter(a, at_a)) != LowerCharacter(NextCharacter(b, at_b))) return false;
+    if (IsPlain(a[at_a]) && IsPlain(b[at_b])) {
+      if (LowerPlain(a[at_a++]) != LowerPlain(b[at_b++])) return false;
+    } else if (LowerCharacter(NextCharacter(a, at_a)) != LowerCharacter(NextCharacter(b, at_b))) {
+      return false;
+    }
   }
   return at_a == a.size() && at_b == b.size();
 }
 
 bool LessFolded(std::string_view a, std::string_view b) {
+  const auto [in_a, in_b] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+    return IsPlain(x) && IsPlain(y) && LowerPlain(x) == LowerPlain(y);
+  });
+  const bool a_ends = in_a == a.end();
+  const bool b_ends = in_b == b.end();
+  if (a_ends || b_ends) return a_ends && b_ends ? a < b : a_ends;
+  if (IsPlain(*in_a) && IsPlain(*in_b)) return LowerPlain(*in_a) < LowerPlain(*in_b);
   const std::string folded_a = Lower(a);
   const std::string folded_b = Lower(b);
   return folded_a != folded_b ? folded_a < folded_b : a < b;
