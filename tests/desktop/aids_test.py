@@ -46,17 +46,16 @@ def mark_a_place(reader, folder):
     reader.click("list item", "Exodus")
     reader.click("push button", "Book Mark")
     reader.click("push button", "New")
-    reader.screen.find("label", "Enter a name for bookmark")
-    type_in("Exodus 1")
+    reader.types("Exodus 1", below="Enter a name for bookmark")
     reader.key("Return")
     wait_for("the bookmark", lambda: contents(folder, "Exodus 1.bkm") == '"Exodus 1","Exodus","1"\r\n')
 
-    # A sweep over the strip leafs on.
+    # A sweep over the strip leafs on. Movements that come while the program is at work are one to it.
     x, y, width, height = reader.screen.place_of(
-        reader.screen.find("image", "Sweep the pointer to step through the chapters"))
-    for step in range(3):
-        subprocess.run(["xdotool", "mousemove", str(x + 10 + step), str(y + height // 2)], check=True)
-    reader.reads("KJV Exodus 4", "4")
+        reader.screen.find_ready("image", "Sweep the pointer to step through the chapters"))
+    for chapter in (2, 3, 4):
+        subprocess.run(["xdotool", "mousemove", str(x + 10 + chapter), str(y + height // 2)], check=True)
+        reader.reads(f"KJV Exodus {chapter}", str(chapter))
 
     # The list and its default button bring the reader back, by the keyboard alone.
     reader.click("list item", "Exodus 1.bkm")
@@ -71,14 +70,13 @@ def keep_a_note(reader, folder):
     reader.click("text", "Text of the chapter")
     reader.key("ctrl+a", "ctrl+c")
     reader.click("push button", "Notes")
-    reader.screen.find("label", "Open file to add to, or create new file")
+    reader.screen.find_ready("label", "Open file to add to, or create new file")
     reader.key("Return")
-    reader.screen.find("frame", "Notes")
+    reader.screen.find_ready("frame", "Notes")
     reader.click("push button", "Create New File")
-    reader.screen.find("label", "Enter a name for file")
-    type_in("Sunday")
+    reader.types("Sunday", below="Enter a name for file")
     reader.key("Return")
-    reader.screen.find("frame", "Sunday - Notes")
+    reader.screen.find_ready("frame", "Sunday - Notes")
 
     # Over what a new note begins with; what was copied from the page; undone and done again.
     pane = "Text of the note"
@@ -103,11 +101,11 @@ def keep_a_note(reader, folder):
     type_in("!")
     reader.screen.find("frame", "*Sunday - Notes")
     subprocess.run(["xdotool", "search", "--name", "^Lectern 2$", "windowactivate", "--sync"], check=True)
+    reader.screen.find_ready("frame", "Lectern 2")
     reader.key("alt+n")
-    wait_for("the notes in front", lambda: b"Sunday" in subprocess.run(
-        ["xdotool", "getactivewindow", "getwindowname"], stdout=subprocess.PIPE).stdout)
+    reader.screen.find_ready("frame", "*Sunday - Notes")
     reader.key("Escape")
-    reader.screen.find("label", "File has been altered. Do you want to save changes to the file: Sunday?")
+    reader.screen.find_ready("label", "File has been altered. Do you want to save changes to the file: Sunday?")
     reader.key("alt+y")
     wait_for("the note saved once more", lambda: "!" in (contents(folder, "Sunday.not") or ""))
     expect("the version before is kept", contents(folder, "backup/Sunday.not") == saved)

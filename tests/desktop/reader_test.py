@@ -14,7 +14,7 @@ import sys
 import tempfile
 import time
 
-PATIENCE = 20  # seconds until something that does not come counts as a fault
+PATIENCE = 120  # seconds until something that does not come counts as a fault, on a machine with much else to do
 
 
 def wait_for(what, condition):
@@ -67,20 +67,54 @@ class Screen:
                 yield child
                 yield from self.walk(child)
 
+    def is_so(self, thing, state):
+        return thing.get_state_set().contains(getattr(self.atspi.StateType, state))
+
+    def look(self, role, is_it):
+        try:
+            for thing in self.walk():
+                if thing.get_role_name() == role and is_it(thing.get_name()) and self.is_so(thing, "SHOWING"):
+                    return thing
+        except self.gone:
+            pass
+        return None
+
     def find(self, role, name):
         return self.find_where(role, name, lambda told: told == name)
 
     def find_where(self, role, what, is_it):
-        def look():
-            try:
-                for thing in self.walk():
-                    if thing.get_role_name() == role and is_it(thing.get_name()):
-                        return thing
-            except self.gone:
-                pass
-            return None
+        return wait_for(f"{role} {what!r}", lambda: self.look(role, is_it))
 
-        return wait_for(f"{role} {what!r}", look)
+    def takes_input(self, thing):
+        """Whether keys and clicks come to the window that it is in."""
+        try:
+            while thing is not None and not self.is_so(thing, "ACTIVE"):
+                thing = thing.get_parent()
+        except self.gone:
+            thing = None
+        return thing is not None
+
+    def find_ready(self, role, name):
+        """The same, once its window takes input, and stands where it will stay."""
+        places = []
+
+        def look():
+            thing = self.look(role, lambda told: told == name)
+            if thing is None or not self.takes_input(thing):
+                return None
+            places.append(self.place_of(thing))
+            return thing if len(places) > 1 and places[-1] == places[-2] else None
+
+        return wait_for(f"{role} {name!r} to be used", look)
+
+    def focused(self):
+        """What the keyboard's input comes to, by its name."""
+        try:
+            names = [thing.get_name() for thing in self.walk()
+                     if self.is_so(thing, "FOCUSED") and thing.get_name() and self.takes_input(thing)]
+        except self.gone:
+            names = []
+        return names
 
     def text_of(self, name):
         pane = self.find("text", name)
@@ -97,10 +131,10 @@ class Reader:
     def __init__(self, program, folder):
         self.screen = Screen()
         self.running = subprocess.Popen([program], cwd=folder)
-        self.screen.find("frame", "Lectern 2")
+        self.screen.find_ready("frame", "Lectern 2")
 
     def click(self, role, name, across=0.5):
-        x, y, width, height = self.screen.place_of(self.screen.find(role, name))
+        x, y, width, height = self.screen.place_of(self.screen.find_ready(role, name))
         self.click_at(x + int(width * across), y + height // 2)
 
     def click_at(self, x, y):
@@ -108,6 +142,11 @@ class Reader:
 
     def key(self, *keys):
         subprocess.run(["xdotool", "key", *keys], check=True)
+
+    def types(self, text, below):
+        """Into a box that asks for it under that label."""
+        self.screen.find_ready("label", below)
+        subprocess.run(["xdotool", "type", "--delay", "10", text], check=True)
 
     def reads(self, beginning, chapter):
         wait_for(
@@ -197,9 +236,10 @@ def read_a_while(reader, _folder):
 def leave_by_the_menu(reader, folder):
     reader.reads("KJV Genesis 1", "1")
     reader.key("alt+f")
+    reader.screen.find("menu item", "Exit")
     reader.key("x")
     # With the mark on the settings are lost, and the failure is told.
-    reader.screen.find("label", "Run-time error '424':\n\nObject required")
+    reader.screen.find_ready("label", "Run-time error '424':\n\nObject required")
     reader.key("Return")
     reader.sees_it_end(1)
     if os.path.getsize(os.path.join(folder, "codex.cfg")) != 0:
