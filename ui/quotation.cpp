@@ -1,0 +1,84 @@
+#include "ui/quotation.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "core/text/characters.h"
+
+namespace lectern::ui {
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+struct Line {
+  std::string_view number;  // of a verse; "" for any other line
+  std::string_view words;   // what was selected of it, without the blanks around
+  bool has_number;          // whether the number was selected along
+};
+
+std::string_view Trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  return first == std::string_view::npos ? "" : text::TrimEnd(text.substr(first));
+}
+
+// The digits that a verse begins with and that a blank follows.
+std::string_view NumberOf(std::string_view line) {
+  const std::size_t end = line.find_first_not_of("0123456789");
+  return end == std::string_view::npos || line[end] != ' ' ? "" : line.substr(0, end);
+}
+
+bool IsHeadingOfChapter(std::string_view line) { return line.starts_with("Chap"); }
+
+// Positions in bytes.
+std::vector<Line> SelectedLines(std::string_view text, std::size_t from, std::size_t to) {
+  std::vector<Line> lines;
+  for (std::size_t start = 0; start < to;) {
+    const std::size_t end = std::min(text.find('\n', start), text.size());
+    const std::string_view line = text.substr(start, end - start);
+    const std::string_view number = NumberOf(line);
+    const std::size_t first = std::max(start + number.size(), from);
+    const std::size_t last = std::min(end, to);
+    if (first < last && !IsHeadingOfChapter(line)) {
+      std::string_view words = text.substr(first, last - first);
+      words = Trimmed(words.substr(0, words.find('\r')));
+      if (!words.empty()) lines.push_back({number, words, from <= start});
+    }
+    start = end + 1;
+  }
+  return lines;
+}
+
+}  // namespace
+
+std::string Quotation(std::string_view text, std::size_t start, std::size_t length,
+                      const ShownChapter& place) {
+  const std::size_t from = text::ByteOf(text, start + 1);
+  const std::size_t to = text::ByteOf(text, start + length + 1);
+  std::string quotation;
+  std::string_view first_verse;
+  std::string_view last_verse;
+  const std::vector<Line> lines = SelectedLines(text, from, to);
+  if (lines.empty()) return "";
+  for (const Line& line : lines) {
+    if (!quotation.empty()) quotation += '\n';
+    if (lines.size() > 1 && line.has_number && !line.number.empty()) (quotation += line.number) += ' ';
+    quotation += line.words;
+    if (line.number.empty()) continue;
+    if (first_verse.empty()) first_verse = line.number;
+    last_verse = line.number;
+  }
+  ((quotation += " (") += place.book) += ' ';
+  quotation += place.chapter;
+  if (!first_verse.empty()) (quotation += ':') += first_verse;
+  if (last_verse != first_verse) (quotation += '-') += last_verse;
+  if (!place.version.empty()) (quotation += ", ") += place.version;
+  return quotation += ')';
+}
+
+std::string QuotationFrom(const forms::RichTextBox& pane, const ShownChapter& place) {
+  return Quotation(pane.Text(), static_cast<std::size_t>(pane.SelStart()),
+                   static_cast<std::size_t>(pane.SelLength()), place);
+}
+
+}  // namespace lectern::ui
