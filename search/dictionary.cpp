@@ -7,7 +7,7 @@ namespace {
 constexpr int kWords = 1;  // slot
 
 constexpr forms::Design Shadow(const char* caption) {
-  return {.caption = caption, .fore_color = forms::Rgb(198, 198, 194)};
+  return {.caption = caption, .is_echo = true, .fore_color = forms::Rgb(198, 198, 194)};
 }
 
 }  // namespace

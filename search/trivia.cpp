@@ -19,7 +19,7 @@ Trivia::Trivia(core::Reader& the_reader, core::Panels& the_panels, core::ToolBut
       lbltrivia(panels.Picture17, "lbltrivia", {.caption = "CODEX TRIVIA"}),
       Label25(panels.Picture17, "Label25", {.caption = "Press Question to begin"}),
       Label26(panels.Picture17, "Label26"),
-      List3(panels.Picture17, "List3", {.visible = false}),
+      List3(panels.Picture17, "List3", {.visible = false, .name = "Questions asked"}),
       Command29(panels.Picture17, "Command29", {.caption = "Question", .is_default = true}),
       Command31(panels.Picture17, "Command31", {.caption = "Answer"}),
       Command28(panels.Picture17, "Command28", {.caption = "Close", .is_cancel = true}) {

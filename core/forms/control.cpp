@@ -77,6 +77,8 @@ Control::Control(Container& parent, Kind kind, std::string name, const Design& d
       name_(std::move(name)),
       parent_(parent),
       accessible_name_(design.name.empty() ? Spoken(design.caption) : design.name),
+      has_name_of_its_own_(!design.name.empty()),
+      is_echo_(design.is_echo),
       is_default_(design.is_default),
       is_cancel_(design.is_cancel) {
   parent_.children_.push_back(this);

@@ -70,7 +70,10 @@ struct Design {
   int interval = 0;    // of a timer, milliseconds
   std::string_view pattern = "*";
   std::string_view shortcut{};  // of a menu entry, such as "Ctrl+S"
+  std::string_view key_back{};  // steps a scroll bar back, wherever the focus is, such as "Ctrl+PgUp"
+  std::string_view key_on{};    // the same for a step on
   std::string_view name{};      // what a screen reader says; the caption where empty
+  bool is_echo = false;         // shows what another control says already, and is not read out
   bool is_default = false;      // the button that Enter presses in its panel
   bool is_cancel = false;       // the button that Escape presses in its panel
   Colour back_color = kButtonFace;
@@ -121,6 +124,7 @@ class Control : public PropertyOwner {
   Container& Parent() const { return parent_; }
   Window& HostWindow() const { return parent_.HostWindow(); }
   const std::string& AccessibleName() const { return accessible_name_; }
+  bool HasNameOfItsOwn() const { return has_name_of_its_own_; }  // beside its caption
 
   // Whether it is to be seen, along with everything that it lies in.
   bool IsShown() const;
@@ -129,6 +133,7 @@ class Control : public PropertyOwner {
   // When it was last made visible, as a number that grows: of panels that overlap the last shown is on top.
   unsigned ShownAt() const { return shown_at_; }
 
+  bool IsEcho() const { return is_echo_; }
   bool IsDefaultButton() const { return is_default_; }
   bool IsCancelButton() const { return is_cancel_; }
 
@@ -163,6 +168,8 @@ class Control : public PropertyOwner {
   int index_ = -1;
   Container& parent_;
   std::string accessible_name_;
+  bool has_name_of_its_own_;
+  bool is_echo_;
   bool is_default_;
   bool is_cancel_;
   unsigned shown_at_ = 0;

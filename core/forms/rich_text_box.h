@@ -4,6 +4,7 @@
 // lets a person select and copy; the program's own code writes all the same.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -53,6 +54,10 @@ class RichTextBox : public TextControl {
   ComputedProperty<std::string> SelText;  // writing it puts the text in the selection's place
   ComputedProperty<Colour> SelColor;      // of the selection; read from its first character
   Event<> Change;
+
+  // What the person selected, with word of where it stands, as it is copied for use elsewhere; "" where the
+  // selection holds nothing of the kind. Empty for a pane whose text is not quoted.
+  std::function<std::string()> Quote;
 
  private:
   // A character's position and where its bytes begin.

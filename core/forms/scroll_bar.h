@@ -18,10 +18,14 @@ class HScrollBar : public PlacedControl {
                      if (!InRange(value)) throw core::RunTimeError(core::ErrorNumber::kInvalidProperty);
                    },
                .change = [this] { Change(); }}),
-        large_step_(design.large_step) {}
+        large_step_(design.large_step),
+        key_back_(design.key_back),
+        key_on_(design.key_on) {}
 
   bool InRange(int value) const { return value >= Min && value <= Max; }
   int LargeStep() const { return large_step_; }
+  const std::string& KeyBack() const { return key_back_; }
+  const std::string& KeyOn() const { return key_on_; }
 
   // The person lets go of the thumb at a value, which lies in the range.
   void PersonScrolls(int value) { Value = value; }
@@ -33,6 +37,8 @@ class HScrollBar : public PlacedControl {
 
  private:
   int large_step_;
+  std::string key_back_;
+  std::string key_on_;
 };
 
 }  // namespace lectern::forms

@@ -98,7 +98,10 @@ class SampleWindow : public forms::Window {
   forms::OptionButton bare_option{*this, "bare_option", {.name = "Bare"}};
   forms::Label option_text{*this, "option_text", {.caption = "its text"}};
   forms::ComboBox combo{*this, "combo", {.caption = "10", .name = "Size"}};
-  forms::HScrollBar bar{*this, "bar", {.value = 1, .min = 1, .max = 50, .name = "Chapter"}};
+  forms::HScrollBar bar{
+      *this,
+      "bar",
+      {.value = 1, .min = 1, .max = 50, .key_back = "Ctrl+PgUp", .key_on = "Ctrl+PgDown", .name = "Chapter"}};
   forms::ProgressBar progress{*this, "progress", {.value = 40, .name = "Progress"}};
   forms::ListBox list{*this, "list", {.name = "Books"}};
   forms::FileListBox files{*this, "files", {.pattern = "*.txt", .name = "Files"}};
@@ -113,7 +116,7 @@ class SampleWindow : public forms::Window {
   forms::Label in_frame{frame, "in_frame", {.caption = "a text that is longer than its place allows"}};
   forms::SSOption ss_option{frame, "ss_option", {.caption = "Book", .value = 1}};
   forms::SSOption ss_option2{frame, "ss_option2", {.caption = "Codex"}};
-  forms::SSCommand ss_command{frame, "ss_command", {.caption = "Deep"}};
+  forms::SSCommand ss_command{frame, "ss_command", {.caption = ">", .name = "Go deeper"}};
   forms::PictureBox canvas{*this, "canvas", {.name = "Canvas"}};
   forms::RichTextBox page{*this, "page", {.read_only = true, .name = "Text"}};
   forms::RichTextBox sheet{*this, "sheet", {.caption = "Note", .name = "Note"}};
@@ -143,6 +146,7 @@ class SampleWindow : public forms::Window {
     canvas.MouseMove = [this](const forms::MouseEvent& mouse) {
       if (mouse.button != 0) canvas.PSet(mouse.x, mouse.y);
     };
+    page.Quote = [this] { return page.SelLength > 0 ? "quoted: " + page.SelText() : std::string(); };
     timer.Tick = [this] { log.push_back("tick"); };
   }
 };

@@ -44,6 +44,10 @@ TEST_F(Stage, EverythingThatTakesTheKeyboardHasANameToBeReadOut) {
     ASSERT_NE(read, nullptr);
     EXPECT_FALSE(read->text(QAccessible::Name).isEmpty()) << widget->objectName().toStdString();
   }
+  // A name of its own goes before a caption that says little.
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(Find("ss_command"))->text(QAccessible::Name), "Go deeper");
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(Find("search"))->text(QAccessible::Name),
+            "Search with a long text");
 }
 
 TEST_F(Stage, AScreenReaderCanPressAPicture) {
@@ -108,9 +112,53 @@ TEST_F(Stage, FocusMovesBothWays) {
     window->in_panel.SetFocus();
   });
   EXPECT_EQ(view->Frame()->focusWidget(), Find("in_panel"));
-  // Hiding it takes the focus along, to what the window is for.
   Do([this] { window->panel.Visible = false; });
+  EXPECT_EQ(window->Focus(), &window->list);
+}
+
+TEST_F(Stage, APanelGivesTheFocusBackWhereItWas) {
+  window->search.Click = [this] { window->panel.Visible = true; };
+  window->cancel.Click = [this] { window->panel.Visible = false; };
+  const auto came_back_to = [this](const char* name) {
+    EXPECT_EQ(window->Focus(), &window->in_panel)
+        << "it goes to the first control, not to the button that closes";
+    QTest::keyClick(view->Frame()->focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(view->Frame()->focusWidget(), Find(name));
+    EXPECT_EQ(window->Focus()->Name(), name);
+  };
+  Find("list")->setFocus();
+  QTest::keyClick(Find("list"), Qt::Key_S, Qt::AltModifier);
+  came_back_to("list");
+  Click("search");  // a button that was pressed by the mouse was only on the way
+  came_back_to("list");
+  Find("search")->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(Find("search"), Qt::Key_Space);
+  came_back_to("search");
+
+  // Where it was is not there any more; where the reader went meanwhile counts.
+  Find("line_box")->setFocus();
+  QTest::keyClick(Find("line_box"), Qt::Key_S, Qt::AltModifier);
+  Do([this] { window->line_box.Enabled = false; });
+  QTest::keyClick(Find("in_panel"), Qt::Key_Escape);
   EXPECT_EQ(window->Focus(), &window->page);
+  Click("search");
+  Find("list")->setFocus();
+  QTest::keyClick(Find("list"), Qt::Key_Escape);
+  EXPECT_EQ(window->Focus(), &window->list);
+}
+
+TEST_F(Stage, ABarIsSteppedByItsKeysFromEverywhere) {
+  for (const char* name :
+       {"line_box", "page_box", "list", "page", "sheet", "combo", "search", "option", "bar"}) {
+    Find(name)->setFocus();
+    Log();
+    QTest::keyClick(Find(name), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(Log(), "bar 2") << name;
+    QTest::keyClick(Find(name), Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(Log(), "bar 1") << name;
+    QTest::keyClick(Find(name), Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(Log(), "") << name;
+  }
 }
 
 TEST_F(Stage, TheFocusGoesIntoAPanelWhoseButtonIsLockedWhileItIsOpen) {

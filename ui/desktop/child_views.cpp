@@ -46,14 +46,20 @@ ChildViews::ChildViews(forms::Container& container, WindowView& window, QWidget&
 
 ChildViews::~ChildViews() = default;
 
+bool ChildViews::Any(const std::function<bool(ControlView&)>& question) const {
+  return std::any_of(views_.begin(), views_.end(), [&](const std::unique_ptr<ControlView>& view) {
+    const ChildViews* const inner = view->Children();
+    return question(*view) || (inner != nullptr && inner->Any(question));
+  });
+}
+
 ControlView* ChildViews::Find(const QWidget& widget) const {
-  for (const auto& view : views_) {
-    if (view->Widget() == &widget) return view.get();
-    if (const ChildViews* inner = view->Children()) {
-      if (ControlView* found = inner->Find(widget)) return found;
-    }
-  }
-  return nullptr;
+  ControlView* found = nullptr;
+  Any([&](ControlView& view) {
+    if (view.Widget() == &widget) found = &view;
+    return found != nullptr;
+  });
+  return found;
 }
 
 void ChildViews::MarkStale() {

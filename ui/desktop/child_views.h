@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -23,6 +24,9 @@ class ChildViews {
 
   // The view that made the widget, here or in what lies here; nullptr for none.
   ControlView* Find(const QWidget& widget) const;
+
+  // Asks these and all that lies in them, until one says yes; whether one did.
+  bool Any(const std::function<bool(ControlView&)>& question) const;
 
   void MarkStale();
   void Recolour();

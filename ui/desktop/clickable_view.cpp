@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "ui/desktop/keys.h"
-#include "ui/desktop/painted_widget.h"
+#include "ui/desktop/spoken.h"
 #include "ui/desktop/window_view.h"
 
 namespace lectern::desktop {
@@ -23,8 +23,8 @@ void WantEveryMovement(bool wanted) {
 void ClickableView::PrepareForInput(QWidget& widget) {
   if (Control().Click) {
     widget.setFocusPolicy(Qt::StrongFocus);
-    if (auto* painted = dynamic_cast<PaintedWidget*>(&widget)) {
-      painted->press = [this] { Act([this] { Control().PersonClicks(); }); };
+    if (auto* spoken = dynamic_cast<Spoken*>(&widget)) {
+      spoken->press = [this] { Act([this] { Control().PersonClicks(); }); };
     }
   }
   widget.setMouseTracking(static_cast<bool>(Control().MouseMove));

@@ -102,7 +102,9 @@ void ControlView::Refresh() {
 void ControlView::MakeWidget() {
   widget_ = Make(&parent_);
   widget_->setObjectName(ToQString(control_.FullName()));
-  if (!SpeaksForItself()) widget_->setAccessibleName(ToQString(control_.AccessibleName()));
+  if (control_.HasNameOfItsOwn() || !SpeaksForItself()) {
+    widget_->setAccessibleName(ToQString(control_.AccessibleName()));
+  }
   widget_->installEventFilter(this);
   widget_->setGeometry(Place());
 }
@@ -126,7 +128,9 @@ QFont ControlView::WantedFont() const {
 
 void ControlView::ApplyFont() {
   const QFont font = WantedFont();
-  if (widget_->font() != font) widget_->setFont(font);
+  if (widget_->font() == font) return;
+  FontWillChange();
+  widget_->setFont(font);
 }
 
 // The colour that lies behind the control: a filled figure under its middle, or the panel.
@@ -198,6 +202,7 @@ void ControlView::Act(const std::function<void()>& act) {
 }
 
 bool ControlView::KeyPressed(const QKeyEvent& key) {
+  if (window_.HandleKey(key)) return true;
   if (const int letter = AccessKey(key); letter != 0) return window_.PressAccessKey(letter);
   const int code = KeyCode(key);
   const bool presses_buttons = code == forms::kEnterKey || code == forms::kEscapeKey;

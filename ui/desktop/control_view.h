@@ -47,6 +47,9 @@ class ControlView : public QObject, public LayerView {
   // Its widget has come to lie where it belongs, above or below its siblings.
   virtual void Stacked() {}
 
+  // A key that the control answers to wherever the focus is in its window; whether it does.
+  virtual bool HandleWindowKey(const QKeyEvent& /*key*/) { return false; }
+
   // What lies in it; nullptr for anything but a panel that was seen.
   virtual ChildViews* Children() { return nullptr; }
 
@@ -59,9 +62,11 @@ class ControlView : public QObject, public LayerView {
   virtual void Resized() {}
   virtual Ground GetGround() const { return Ground::kTransparent; }
   virtual QFont WantedFont() const;  // of a control with text
+  virtual void FontWillChange() {}
   virtual QCursor Pointer() const;
 
-  // Whether a screen reader is told what stands on it, so that it wants no other name.
+  // Whether a screen reader is told what stands on it, so that it wants no other name unless it was given
+  // one.
   virtual bool SpeaksForItself() const { return false; }
 
   // Whether the widget itself has a use for the key, so that it does not press the panel's buttons.

@@ -85,10 +85,14 @@ void Desktop::ComeToFront() {
   if (front != nullptr) ComeForward(*front);
 }
 
-int Desktop::Run() {
+bool Desktop::Start() {
   events_.Run([this] { program_.Start(); });
-  if (program_.HasEnded()) return program_.Status();
-  if (!bench_controls_.empty()) ShowBench();
+  if (!program_.HasEnded() && !bench_controls_.empty()) ShowBench();
+  return !program_.HasEnded();
+}
+
+int Desktop::Run() {
+  if (!Start()) return program_.Status();
   // A mark in the title bar is no reason to keep the reader from the text.
   constexpr int kWhenTextIsThere = 200;  // milliseconds
   QTimer::singleShot(kWhenTextIsThere, [] { QApplication::setWindowIcon(ProgramIcon()); });

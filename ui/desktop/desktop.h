@@ -30,6 +30,12 @@ class Desktop {
   // Brings the window that was used last, or the box that waits for an answer, before whatever covers it.
   void ComeToFront();
 
+  // The first half of it: whether there is anything to stay for.
+  bool Start();
+
+  ui::Program& Program() { return program_; }
+  Events& GetEvents() { return events_; }
+
  private:
   void JoinWindows();
   void JoinPlatform();

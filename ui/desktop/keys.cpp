@@ -72,6 +72,31 @@ std::optional<QAbstractSlider::SliderAction> ScrollActionOf(const QKeyEvent& key
   }
 }
 
+QKeySequence QuoteKey() { return {Qt::CTRL | Qt::SHIFT | Qt::Key_C}; }
+
+std::optional<int> ZoomOf(const QKeyEvent& key) {
+  // Plus may lie on either level of its key.
+  const Qt::KeyboardModifiers held = key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+  if (held != Qt::ControlModifier) return std::nullopt;
+  switch (key.key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+      return 1;
+    case Qt::Key_Minus:
+    case Qt::Key_Underscore:
+      return -1;
+    case Qt::Key_0:
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+bool IsKey(const QKeyEvent& key, const QKeySequence& named) {
+  if (named.isEmpty()) return false;
+  return QKeyCombination(key.modifiers() & ~Qt::KeypadModifier, Qt::Key(key.key())) == named[0];
+}
+
 bool MovesCaret(const QKeyEvent& key) {
   return key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown;  // with the arrows between them
 }

@@ -3,6 +3,7 @@
 
 #include <QAbstractSlider>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <optional>
 #include <string>
 
@@ -19,6 +20,16 @@ int AccessKey(const QKeyEvent& key);
 
 // What the key scrolls a page by that is only read; nothing for any other key.
 std::optional<QAbstractSlider::SliderAction> ScrollActionOf(const QKeyEvent& key);
+
+// Copies what is selected on a page along with word of where it stands.
+QKeySequence QuoteKey();
+
+// How the key changes the size of the text that is read: a number of steps, 0 for the size that is set;
+// nothing for any other key.
+std::optional<int> ZoomOf(const QKeyEvent& key);
+
+// Whether the key, with all that is held along with it, is the one that is named.
+bool IsKey(const QKeyEvent& key, const QKeySequence& named);
 
 // Whether the key moves a caret, be it with Shift.
 bool MovesCaret(const QKeyEvent& key);

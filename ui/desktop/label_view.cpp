@@ -5,6 +5,7 @@
 
 #include "core/forms/buttons.h"
 #include "core/forms/window.h"
+#include "ui/desktop/spoken.h"
 #include "ui/desktop/style.h"
 #include "ui/desktop/text_fit.h"
 #include "ui/desktop/window_view.h"
@@ -12,7 +13,7 @@
 namespace lectern::desktop {
 
 // A QLabel for those who have it read to them, with its text fitted for those who see it.
-class LabelView::Text : public QLabel {
+class LabelView::Text : public QLabel, public Spoken {
  public:
   explicit Text(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
@@ -61,6 +62,7 @@ class LabelView::Text : public QLabel {
 QWidget* LabelView::Make(QWidget* parent) {
   text_ = new Text(parent);
   PrepareForInput(*text_);
+  text_->is_echo = label_.IsEcho();
   return text_;
 }
 

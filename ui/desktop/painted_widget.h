@@ -5,16 +5,15 @@
 #include <functional>
 #include <utility>
 
+#include "ui/desktop/spoken.h"
+
 namespace lectern::desktop {
 
-class PaintedWidget : public QWidget {
+class PaintedWidget : public QWidget, public Spoken {
  public:
   using Paint = std::function<void(QPainter&, const QRect& exposed)>;
 
   PaintedWidget(QWidget* parent, Paint paint) : QWidget(parent), paint_(std::move(paint)) {}
-
-  // A click without a mouse; empty where clicks mean nothing.
-  std::function<void()> press;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

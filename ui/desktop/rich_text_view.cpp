@@ -1,8 +1,10 @@
 #include "ui/desktop/rich_text_view.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QPlainTextEdit>
 #include <QScrollBar>
-#include <QTextEdit>
+#include <QTextFrame>
 #include <algorithm>
 #include <memory>
 #include <optional>
@@ -11,6 +13,7 @@
 
 #include "ui/desktop/keys.h"
 #include "ui/desktop/page_setting.h"
+#include "ui/desktop/page_widget.h"
 #include "ui/desktop/text_positions.h"
 #include "ui/desktop/text_styles.h"
 #include "ui/desktop/window_view.h"
@@ -22,10 +25,10 @@ namespace {
 constexpr int kPageMargin = 14;  // pixels
 constexpr int kSheetMargin = 8;
 
-// `Edit` is QTextEdit for a page and QPlainTextEdit for a sheet, which agree in all that is called here.
+// `Edit` is PageWidget for a page and QPlainTextEdit for a sheet, which agree in all that is called here.
 template <class Edit>
 class RichTextView : public ControlView {
-  static constexpr bool kIsPage = std::is_same_v<Edit, QTextEdit>;
+  static constexpr bool kIsPage = std::is_same_v<Edit, PageWidget>;
 
  public:
   RichTextView(forms::RichTextBox& pane, WindowView& window, QWidget& parent)
@@ -36,6 +39,8 @@ class RichTextView : public ControlView {
   void Apply() override;
   Ground GetGround() const override { return Ground::kField; }
   QFont WantedFont() const override;
+  void FontWillChange() override;
+  bool HandleWindowKey(const QKeyEvent& key) override;
   bool Needs(const QKeyEvent& key) const override {
     return KeyCode(key) == forms::kEnterKey && !pane_.ReadOnly();
   }
@@ -53,10 +58,15 @@ class RichTextView : public ControlView {
   };
 
   void Load();
+  void PrepareToBeRead();
   void SetStyles(QTextDocument& document);
+  void SetRoomAbove(int pixels);
   void ShowSelection();
   void ScrollToFirstMark();
   QRect OpenArea() const;
+
+  bool CanQuote();
+  void Quote();
 
   void NoteEdit(int at, int removed, int added);
   void ReportEdit();
@@ -73,6 +83,9 @@ class RichTextView : public ControlView {
   QTextDocument* document_ = nullptr;  // of `edit_`, which owns it
   std::optional<Seen> seen_;
   std::optional<PageSetting> setting_;  // of a page
+  std::string text_;                    // the same, as it is shown
+  PageWidget::Place place_;             // the same, ahead of a change of its font
+  int room_above_ = 0;  // pixels ahead of a page, so that its first lines can be scrolled down
   TextPositions positions_;
   int length_ = 0;  // by Qt's count
   std::optional<Edited> edited_;
@@ -85,8 +98,7 @@ template <class Edit>
 QWidget* RichTextView<Edit>::Make(QWidget* parent) {
   edit_ = new Edit(parent);
   if constexpr (kIsPage) {
-    // The width that there is for the text stays the same, whatever its length.
-    edit_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    PrepareToBeRead();
   } else {
     const QTextDocument* const document = edit_->document();
     connect(document, &QTextDocument::contentsChange,
@@ -94,23 +106,33 @@ QWidget* RichTextView<Edit>::Make(QWidget* parent) {
     connect(document, &QTextDocument::contentsChanged, [this] { ReportEdit(); });
   }
   edit_->setTabChangesFocus(true);
-  if (pane_.ReadOnly()) {
-    edit_->setReadOnly(true);
-    edit_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    edit_->setCursorWidth(0);
-  }
+  if (pane_.ReadOnly()) edit_->setCursorWidth(0);
   connect(edit_, &Edit::cursorPositionChanged, [this] { SelectionMoved(); });
   connect(edit_, &Edit::selectionChanged, [this] { SelectionMoved(); });
   return edit_;
 }
 
-// What is read for a long time is set larger than what is pressed.
+template <class Edit>
+void RichTextView<Edit>::PrepareToBeRead() {
+  edit_->wants_larger = [this](int steps) { GetWindow().Enlarge(steps); };
+  if (!pane_.Quote) return;
+  edit_->can_quote = [this] { return CanQuote(); };
+  edit_->quote = [this] { Quote(); };
+}
+
+// What is read for a long time is set larger than what is pressed, and as large as the reader wants it.
 template <class Edit>
 QFont RichTextView<Edit>::WantedFont() const {
   constexpr double kReadingSize = 11;
   QFont font = ControlView::WantedFont();
-  if (kIsPage && !(pane_.FontSize > 0)) font.setPointSizeF(kReadingSize);
+  if (!kIsPage) return font;
+  font.setPointSizeF((pane_.FontSize > 0 ? pane_.FontSize() : kReadingSize) * GetWindow().Enlargement());
   return font;
+}
+
+template <class Edit>
+void RichTextView<Edit>::FontWillChange() {
+  if constexpr (kIsPage) place_ = edit_->TopPlace();
 }
 
 template <class Edit>
@@ -118,25 +140,29 @@ void RichTextView<Edit>::Apply() {
   const QRgb ground = edit_->palette().color(QPalette::Base).rgb();
   const unsigned text = pane_.TextGeneration();
   const unsigned style = pane_.StyleGeneration();
-  const bool loads = !seen_ || seen_->text != text || (kIsPage && seen_->font != edit_->font());
-  const bool is_new = !seen_ || seen_->text != text;
-  const bool styled =
-      !seen_ || seen_->style != style || seen_->ground != ground || std::exchange(runs_moved_, false);
+  const bool written = !seen_ || seen_->text != text;
+  const bool is_new = written && !(kIsPage && seen_ && text_ == pane_.Text);
+  const bool is_set_anew = kIsPage && !is_new && seen_->font != edit_->font();
+  const bool styled = written || seen_->style != style || seen_->ground != ground;
   // A text that comes with styles counts one of each; what goes beyond are marks that the program set.
   const bool marked = seen_ && style - seen_->style > text - seen_->text;
 
+  if (written) SetRoomAbove(0);
   const int scrolled = edit_->verticalScrollBar()->value();
-  if (loads) {
+  if (is_new || is_set_anew) {
     Load();
-    seen_.emplace();
-  } else if (styled) {
+  } else if (std::exchange(runs_moved_, false) || styled) {
     SetStyles(*document_);
   }
-  const bool selects = is_new || seen_->selection != std::pair(pane_.SelStart(), pane_.SelLength());
-  if (selects) ShowSelection();
-  *seen_ = {text, style, edit_->font(), ground, {pane_.SelStart, pane_.SelLength}};
+  const std::pair<int, int> selection{pane_.SelStart, pane_.SelLength};
+  if (written || is_set_anew || seen_->selection != selection) ShowSelection();
+  seen_ = {text, style, edit_->font(), ground, selection};
 
-  if (loads) edit_->verticalScrollBar()->setValue(is_new ? 0 : scrolled);
+  // The selection brings itself into sight; the reader's place is the one that counts.
+  if (written) edit_->verticalScrollBar()->setValue(is_new ? 0 : scrolled);
+  if constexpr (kIsPage) {
+    if (is_set_anew) edit_->ScrollTo(place_);
+  }
   if (marked) ScrollToFirstMark();
 }
 
@@ -151,10 +177,12 @@ void RichTextView<Edit>::Load() {
     std::unique_ptr<QTextDocument> document = setting_->Document(shown, edit_->viewport()->width());
     document->setDocumentMargin(kPageMargin);
     SetStyles(*document);
+    text_ = text;
     document->setParent(edit_);
     std::unique_ptr<QTextDocument> former(document_);
     document_ = document.release();
     edit_->setDocument(document_);
+    SetRoomAbove(std::exchange(room_above_, 0));
   } else {
     document_ = edit_->document();
     document_->setUndoRedoEnabled(false);
@@ -172,7 +200,22 @@ void RichTextView<Edit>::SetStyles(QTextDocument& document) {
   const bool has_runs = !pane_.Runs().All().empty();
   if (!has_runs && !has_styles_) return;
   has_styles_ = kIsPage || has_runs;
-  LayStyles(document, pane_.Runs(), positions_, setting_ ? &*setting_ : nullptr, edit_->palette());
+  LayStyles(document, pane_.Runs(), positions_, setting_ ? &*setting_ : nullptr, edit_->palette(),
+            kIsPage ? GetWindow().Enlargement() : 1);
+}
+
+// The text stays where it is seen, as far as it can.
+template <class Edit>
+void RichTextView<Edit>::SetRoomAbove(int pixels) {
+  if constexpr (kIsPage) {
+    const int more = pixels - std::exchange(room_above_, pixels);
+    if (more == 0) return;
+    QTextFrameFormat format = document_->rootFrame()->frameFormat();
+    format.setTopMargin(kPageMargin + pixels);
+    document_->rootFrame()->setFrameFormat(format);
+    QScrollBar* const bar = edit_->verticalScrollBar();
+    bar->setValue(bar->value() + more);
+  }
 }
 
 template <class Edit>
@@ -205,7 +248,8 @@ QRect RichTextView<Edit>::OpenArea() const {
   return open;
 }
 
-// A mark that is not to be seen at the top of the text comes to stand in the upper part of what is open.
+// A mark that is not to be seen at the top of the text comes to stand in the upper part of what is open; one
+// in the first lines, which lie under a panel however the text is scrolled, gets the room to do so.
 template <class Edit>
 void RichTextView<Edit>::ScrollToFirstMark() {
   const auto& runs = pane_.Runs().All();
@@ -219,7 +263,10 @@ void RichTextView<Edit>::ScrollToFirstMark() {
   if (place.top() >= open.top() && place.bottom() <= open.bottom()) return;
   QScrollBar* const bar = edit_->verticalScrollBar();
   if constexpr (kIsPage) {
-    bar->setValue(bar->value() + place.top() - open.top() - open.height() / 3);
+    const int top = bar->value() + place.top();  // of the mark, in the whole text
+    const int wanted = top - open.top() - open.height() / 3;
+    if (top < open.top()) SetRoomAbove(room_above_ - wanted);
+    bar->setValue(std::max(wanted, 0));
   } else {
     bar->setValue(at.block().firstLineNumber());
   }
@@ -236,6 +283,30 @@ bool RichTextView<Edit>::HandleKey(const QKeyEvent& key) {
   }
   if (MovesCaret(key)) edit_->setCursorWidth(1);
   return false;
+}
+
+template <class Edit>
+bool RichTextView<Edit>::HandleWindowKey(const QKeyEvent& key) {
+  if (!kIsPage) return false;
+  if (const auto steps = ZoomOf(key)) {
+    GetWindow().Enlarge(*steps);
+    return true;
+  }
+  if (!pane_.Quote || !IsKey(key, QuoteKey())) return false;
+  Quote();
+  return true;
+}
+
+template <class Edit>
+bool RichTextView<Edit>::CanQuote() {
+  if (GetWindow().IsAbandoned()) return false;
+  Commit();
+  return !pane_.Quote().empty();
+}
+
+template <class Edit>
+void RichTextView<Edit>::Quote() {
+  if (CanQuote()) QGuiApplication::clipboard()->setText(ToQString(pane_.Quote()));
 }
 
 // Qt counts the end of the document along where an edit reaches it.
@@ -294,7 +365,7 @@ void RichTextView<Edit>::Commit() {
 }  // namespace
 
 std::unique_ptr<ControlView> MakeRichTextView(forms::RichTextBox& pane, WindowView& window, QWidget& parent) {
-  if (pane.ReadOnly()) return std::make_unique<RichTextView<QTextEdit>>(pane, window, parent);
+  if (pane.ReadOnly()) return std::make_unique<RichTextView<PageWidget>>(pane, window, parent);
   return std::make_unique<RichTextView<QPlainTextEdit>>(pane, window, parent);
 }
 

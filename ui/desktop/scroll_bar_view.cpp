@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "ui/desktop/keys.h"
 #include "ui/desktop/style.h"
 #include "ui/desktop/window_view.h"
 
@@ -78,6 +79,16 @@ void ScrollBarView::Apply() {
   if (widget_->isSliderDown()) return;  // the hand is on it
   widget_->setRange(bar_.Min, std::max(bar_.Max(), bar_.Min()));
   widget_->setValue(bar_.Value);
+}
+
+bool ScrollBarView::HandleWindowKey(const QKeyEvent& key) {
+  const bool on = IsKey(key, QKeySequence(ToQString(bar_.KeyOn())));
+  const bool back = IsKey(key, QKeySequence(ToQString(bar_.KeyBack())));
+  if (!on && !back) return false;
+  if (widget_->isEnabled()) {
+    widget_->triggerAction(on ? QAbstractSlider::SliderSingleStepAdd : QAbstractSlider::SliderSingleStepSub);
+  }
+  return true;
 }
 
 void ScrollBarView::TellValue(int value) {

@@ -1,5 +1,6 @@
 // A horizontal scroll bar. A drag counts when the thumb is let go; while it lasts the value under it is told
-// in a tooltip. A value beyond the range has its thumb at the end.
+// in a tooltip. A value beyond the range has its thumb at the end. One that has keys of its own is stepped by
+// them wherever the focus is.
 #pragma once
 
 #include <QScrollBar>
@@ -17,6 +18,7 @@ class ScrollBarView : public ControlView {
  protected:
   QWidget* Make(QWidget* parent) override;
   void Apply() override;
+  bool HandleWindowKey(const QKeyEvent& key) override;
 
  private:
   void TellValue(int value);

@@ -11,7 +11,7 @@ namespace lectern::desktop {
 
 namespace {
 
-QTextCharFormat FormatOf(const forms::TextStyle& style, const QPalette& palette) {
+QTextCharFormat FormatOf(const forms::TextStyle& style, const QPalette& palette, double enlargement) {
   QTextCharFormat format;
   if (style.colour) {
     format.setForeground(Legible(ToColor(*style.colour, palette), palette.color(QPalette::Base)));
@@ -20,14 +20,14 @@ QTextCharFormat FormatOf(const forms::TextStyle& style, const QPalette& palette)
   if (style.italic) format.setFontItalic(*style.italic);
   if (style.underline) format.setFontUnderline(*style.underline);
   if (!style.font.empty()) format.setFontFamilies({QString::fromStdString(style.font)});
-  if (style.size > 0) format.setFontPointSize(style.size);
+  if (style.size > 0) format.setFontPointSize(style.size * enlargement);
   return format;
 }
 
 }  // namespace
 
 void LayStyles(QTextDocument& document, const forms::TextRuns& runs, const TextPositions& positions,
-               const PageSetting* setting, const QPalette& palette) {
+               const PageSetting* setting, const QPalette& palette, double enlargement) {
   QTextCursor edit(&document);
   edit.beginEditBlock();
   auto run = runs.All().begin();
@@ -45,7 +45,7 @@ void LayStyles(QTextDocument& document, const forms::TextRuns& runs, const TextP
       QTextLayout::FormatRange range;
       range.start = run_start - start;
       range.length = run_end - run_start;
-      range.format = FormatOf(run->style, palette);
+      range.format = FormatOf(run->style, palette, enlargement);
       if (range.length > 0) formats.append(range);
       if (positions.ToQt(run->End()) > end) break;  // it goes on in the next paragraph
     }

@@ -13,8 +13,9 @@ namespace lectern::desktop {
 
 class PageSetting;
 
-// `setting` of a page, nullptr for a sheet. Colours are made legible on the palette's base.
+// `setting` of a page, nullptr for a sheet. Colours are made legible on the palette's base; sizes are taken
+// that many times as large.
 void LayStyles(QTextDocument& document, const forms::TextRuns& runs, const TextPositions& positions,
-               const PageSetting* setting, const QPalette& palette);
+               const PageSetting* setting, const QPalette& palette, double enlargement);
 
 }  // namespace lectern::desktop

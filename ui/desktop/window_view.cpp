@@ -36,7 +36,7 @@ class WindowView::FrameWidget : public QWidget {
 
   void keyPressEvent(QKeyEvent* event) override {
     const int letter = AccessKey(*event);
-    const bool taken = letter != 0 ? view_.PressAccessKey(letter) : view_.KeyPressed(event->key());
+    const bool taken = letter != 0 ? view_.PressAccessKey(letter) : view_.KeyPressed(*event);
     if (!taken) QWidget::keyPressEvent(event);
   }
 
@@ -238,7 +238,7 @@ forms::Control* WindowView::ButtonWith(int letter) const {
 bool WindowView::PressAccessKey(int letter) {
   forms::Control* const button = ButtonWith(letter);
   if (button == nullptr) return false;
-  if (ControlView* view = SeenViewOf(button)) view->Widget()->setFocus(Qt::ShortcutFocusReason);
+  if (ControlView* view = SeenViewOf(button)) focus_->TakeToPress(*view);
   // Leaving the field that had the focus may have done away with the button.
   if (abandoned_ || button->RefusesPerson() != forms::Refusal::kNone) return true;
   GetEvents().Deliver(window_, [button] { button->PersonClicks(); });
@@ -249,8 +249,33 @@ void WindowView::CloseAsked() {
   if (!abandoned_) GetEvents().Run([this] { close_(window_); });
 }
 
-bool WindowView::KeyPressed(int key) {
+bool WindowView::HandleKey(const QKeyEvent& key) {
+  if (abandoned_ || !children_) return false;
+  return children_->Any([&key](ControlView& view) { return view.IsSeen() && view.HandleWindowKey(key); });
+}
+
+double WindowView::Enlargement() const {
+  constexpr double kStep = 1.1;
+  return std::pow(kStep, enlarged_);
+}
+
+void WindowView::Enlarge(int steps) {
+  constexpr int kSmallest = -6;
+  constexpr int kLargest = 14;
+  const int wanted = steps == 0 ? 0 : std::clamp(enlarged_ + steps, kSmallest, kLargest);
+  if (abandoned_ || std::exchange(enlarged_, wanted) == wanted) return;
+  GetEvents().Run([this] {
+    children_->Any([](ControlView& view) {
+      view.Changed();
+      return false;
+    });
+  });
+}
+
+bool WindowView::KeyPressed(const QKeyEvent& event) {
+  if (HandleKey(event)) return true;
   if (abandoned_) return false;
+  const int key = event.key();
   if (key == Qt::Key_Escape) {
     GetEvents().Deliver(window_, [this] { window_.PressCancelOfFrontPanel(); });
     return true;

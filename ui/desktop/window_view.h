@@ -6,6 +6,7 @@
 // with it.
 #pragma once
 
+#include <QKeyEvent>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -59,10 +60,18 @@ class WindowView : public QObject, public LayerView {
   bool PressAccessKey(int letter);
   bool HasAccessKey(int letter) const { return ButtonWith(letter) != nullptr; }
 
+  // A key that counts wherever the focus is; whether it does.
+  bool HandleKey(const QKeyEvent& key);
+
+  // How many times as large as it is set the text of pages is shown, for as long as the window stands. 0
+  // steps take it back to the size that is set.
+  double Enlargement() const;
+  void Enlarge(int steps);
+
   // What reaches the frame itself.
   void ThemeChanged();
   void CloseAsked();
-  bool KeyPressed(int key);
+  bool KeyPressed(const QKeyEvent& key);
 
  private:
   class FrameWidget;
@@ -84,6 +93,7 @@ class WindowView : public QObject, public LayerView {
   std::unique_ptr<WindowFocus> focus_;
   std::vector<ControlView*> uncommitted_;
   std::optional<std::pair<double, double>> place_;  // as applied, in twips
+  int enlarged_ = 0;                                // steps
   int pointer_ = forms::kPointerDefault;
   bool front_is_wanted_ = false;
   bool needs_arranging_ = false;

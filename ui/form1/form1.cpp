@@ -1,6 +1,7 @@
 #include "ui/form1/form1.h"
 
 #include "ui/form1/places.h"
+#include "ui/quotation.h"
 
 namespace lectern::ui {
 
@@ -48,6 +49,10 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
   reader.ExtractBookPictures = [this] { pictures.ExtractBookPictures(); };
   reader.FillPictureLists = [this] { pictures.FillPictureLists(); };
   reader.SeekChapterPicture = [this] { pictures.SeekChapterPicture(); };
+  reader.rtxt.Quote = [this] {
+    const forms::Label& version = reader.optk.Value ? reader.Label34 : reader.Label35;
+    return QuotationFrom(reader.rtxt, {reader.lblbk.Caption(), reader.lblc.Caption(), version.Caption()});
+  };
   routines["ConvertPicsDat"] = [this](const std::string&) { old_catalogue.ConvertPicsDat(); };
   routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue.ShowPicsDatPicture(); };
   routines["ListChapterPictures"] = [this](const std::string&) { older_list.ListChapterPictures(); };

@@ -1,0 +1,120 @@
+// The whole program as a screen reader is told of it: every window, every panel, and the keeper's bench.
+#include <QAccessible>
+#include <QApplication>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "tests/desktop/temporary_folder.h"
+#include "ui/desktop/control_view.h"
+#include "ui/desktop/desktop.h"
+#include "ui/desktop/window_focus.h"
+
+namespace lectern::desktop {
+namespace {
+
+class Access : public testing::Test {
+ protected:
+  Access() { EXPECT_TRUE(desktop.Start()); }
+
+  void Do(forms::Window& window, const std::function<void()>& act) {
+    desktop.GetEvents().Deliver(window, act);
+  }
+
+  // Every window with all that can ever come to be seen in it.
+  void ShowEverything() {
+    for (const char* name : {"Form1", "Form2", "Form3", "Form4", "Form5"}) {
+      forms::Window& window = *desktop.Program().Touch(name);
+      Do(window, [&window] {
+        window.Visible = true;
+        for (forms::Control* control : window.Controls()) {
+          if (control->GetKind() != forms::Kind::kMenu) control->Visible = true;
+        }
+      });
+    }
+  }
+
+  static QAccessibleInterface* Read(const forms::Control& control) {
+    const ControlView* const view = SeenViewOf(&control);
+    return view == nullptr ? nullptr : QAccessible::queryAccessibleInterface(view->Widget());
+  }
+
+  TemporaryFolder folder;
+  Desktop desktop{folder.WithSmallBooks(), {"Command12", "Command38", "Frame5", "Frame2"}};
+};
+
+// What a person uses a control of that kind as; NoRole for what is only looked at.
+QAccessible::Role RoleOf(const forms::Control& control) {
+  switch (control.GetKind()) {
+    case forms::Kind::kCommandButton:
+    case forms::Kind::kSSCommand:
+      return QAccessible::Button;
+    case forms::Kind::kOptionButton:
+    case forms::Kind::kSSOption:
+      return QAccessible::RadioButton;
+    case forms::Kind::kTextBox:
+    case forms::Kind::kRichTextBox:
+      return QAccessible::EditableText;
+    case forms::Kind::kListBox:
+    case forms::Kind::kFileListBox:
+    case forms::Kind::kDirListBox:
+      return QAccessible::List;
+    case forms::Kind::kComboBox:
+    case forms::Kind::kDriveListBox:
+      return QAccessible::ComboBox;
+    case forms::Kind::kHScrollBar:
+      return QAccessible::ScrollBar;
+    case forms::Kind::kProgressBar:
+      return QAccessible::ProgressBar;
+    default:
+      return control.Click ? QAccessible::Button : QAccessible::NoRole;
+  }
+}
+
+TEST_F(Access, EveryControlOfEveryWindowHasANameAndTheRoleOfWhatItIs) {
+  ShowEverything();
+  int checked = 0;
+  for (const char* name : {"Form1", "Form2", "Form3", "Form4", "Form5"}) {
+    for (const forms::Control* control : desktop.Program().Touch(name)->Controls()) {
+      QAccessibleInterface* const read = Read(*control);
+      if (read == nullptr || RoleOf(*control) == QAccessible::NoRole) continue;
+      ++checked;
+      const std::string where = name + ("." + control->FullName());
+      EXPECT_EQ(read->role(), RoleOf(*control)) << where;
+      EXPECT_FALSE(read->text(QAccessible::Name).trimmed().isEmpty()) << where;
+      const QWidget* const widget = SeenViewOf(control)->Widget();
+      const bool in_options = read->role() == QAccessible::RadioButton;  // one stop for all of them
+      EXPECT_TRUE(in_options || (widget->focusPolicy() & Qt::TabFocus) != 0 ||
+                  read->role() == QAccessible::ProgressBar)
+          << where << " is not reached by the keyboard";
+    }
+  }
+  EXPECT_GT(checked, 150);
+}
+
+TEST_F(Access, TheWholeChapterIsThereToBeRead) {
+  forms::Window& window = *desktop.Program().Touch("Form1");
+  const auto& pane = dynamic_cast<const forms::RichTextBox&>(*window.Find("rtxt"));
+  QAccessibleInterface* const read = Read(pane);
+  QAccessibleTextInterface* const text = read->textInterface();
+  ASSERT_NE(text, nullptr);
+  std::string expected = pane.Text;
+  std::erase(expected, '\r');
+  EXPECT_GT(expected.size(), 40U);
+  EXPECT_EQ(text->text(0, text->characterCount()).toStdString(), expected);
+  EXPECT_TRUE(read->state().readOnly);
+}
+
+TEST_F(Access, WhatIsDrawnTwiceIsReadOnce) {
+  ShowEverything();
+  forms::Window& window = *desktop.Program().Touch("Form1");
+  QAccessibleInterface* const panel = Read(*window.Find("frmd"));
+  int words = 0;
+  for (int i = 0; i < panel->childCount(); ++i) {
+    EXPECT_EQ(panel->indexOfChild(panel->child(i)), i);
+    words += panel->child(i)->text(QAccessible::Name) == "Word" ? 1 : 0;
+  }
+  EXPECT_EQ(words, 1);
+}
+
+}  // namespace
+}  // namespace lectern::desktop
