@@ -16,6 +16,7 @@ constexpr bool IsSystemColour(Colour colour) { return colour < 0; }
 inline constexpr Colour kWindowBackground = SystemColour(5);  // &H80000005
 inline constexpr Colour kWindowText = SystemColour(8);
 inline constexpr Colour kButtonFace = SystemColour(15);
+inline constexpr Colour kButtonShadow = SystemColour(16);
 inline constexpr Colour kButtonText = SystemColour(18);  // &H80000012
 
 inline constexpr Colour kRed = 255;

@@ -186,6 +186,7 @@ void ControlView::ApplyColours() {
     }
   }
   if (!forms::IsSystemColour(fore)) set_text(Legible(ToColor(fore, theme), ground));
+  if (fore == forms::kButtonShadow) set_text(ShadowOn(ground));
   if (kind == Ground::kTransparent) widget_->setAutoFillBackground(!transparent);
   widget_->setPalette(palette);
 }

@@ -27,11 +27,11 @@ class Desktop {
   // Starts the program and stays until it ends; the exit status.
   int Run();
 
-  // Brings the window that was used last, or the box that waits for an answer, before whatever covers it.
-  void ComeToFront();
-
   // The first half of it: whether there is anything to stay for.
   bool Start();
+
+  // Brings the window that was used last, or the box that waits for an answer, before whatever covers it.
+  void ComeToFront();
 
   ui::Program& Program() { return program_; }
   Events& GetEvents() { return events_; }

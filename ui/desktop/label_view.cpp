@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <utility>
 
 #include "core/forms/buttons.h"
 #include "core/forms/window.h"
@@ -16,6 +17,14 @@ namespace lectern::desktop {
 class LabelView::Text : public QLabel, public Spoken {
  public:
   explicit Text(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
+
+  // Whether the text has the colour of what it stands on, and is not to be seen.
+  void Vanish(bool vanishes) {
+    if (std::exchange(vanishes_, vanishes) != vanishes) update();
+  }
+
+  // Room at both sides, for the ring of a label that can have the focus.
+  void Indent(int pixels) { indent_ = pixels; }
 
   void Show(const QString& text, Qt::Alignment alignment) {
     if (text != this->text()) {
@@ -39,28 +48,33 @@ class LabelView::Text : public QLabel, public Spoken {
 
   void paintEvent(QPaintEvent* /*event*/) override {
     if (!fitted_) {
-      fit_ = Fit(text(), font(), size());
+      fit_ = Fit(text(), font(), size() - QSize(2 * indent_, 0));
       fitted_ = true;
-      setToolTip(fit_.cut ? text() : QString());
+      setToolTip(fit_.cut && !vanishes_ ? text() : QString());
     }
     QPainter painter(this);
+    if (hasFocus()) DrawFocusRing(painter, rect(), palette());
+    if (vanishes_) return;
     painter.setFont(fit_.font);
     painter.setPen(
         palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     const auto across = static_cast<int>(alignment() & Qt::AlignHorizontal_Mask);
     const int down =
         fit_.several_lines ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter | Qt::TextSingleLine;
-    painter.drawText(rect(), across | down, fit_.text);
-    if (hasFocus()) DrawFocusRing(painter, rect(), palette());
+    painter.drawText(rect().adjusted(indent_, 0, -indent_, 0), across | down, fit_.text);
   }
 
  private:
   FittedText fit_;
   bool fitted_ = false;
+  bool vanishes_ = false;
+  int indent_ = 0;
 };
 
 QWidget* LabelView::Make(QWidget* parent) {
+  constexpr int kBesideText = 6;  // pixels
   text_ = new Text(parent);
+  if (label_.Click) text_->Indent(kBesideText);
   PrepareForInput(*text_);
   text_->is_echo = label_.IsEcho();
   return text_;
@@ -70,6 +84,7 @@ void LabelView::Apply() {
   Qt::Alignment alignment = Qt::AlignLeft;
   if (label_.Alignment == forms::kAlignRight) alignment = Qt::AlignRight;
   if (label_.Alignment == forms::kAlignCentre) alignment = Qt::AlignHCenter;
+  text_->Vanish(text_->palette().color(QPalette::WindowText).rgb() == GroundColor().rgb());
   text_->Show(ToQString(label_.Caption), alignment);
 }
 

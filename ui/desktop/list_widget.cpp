@@ -37,6 +37,19 @@ ListWidget::ListWidget(QWidget* parent) : QListView(parent) {
   setVerticalScrollMode(ScrollPerItem);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideRight);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Base);
+}
+
+// The room that is too low for one more row stays empty, above and below: no row is cut.
+void ListWidget::updateGeometries() {
+  const int row = sizeHintForRow(0);
+  const QMargins kept_empty = viewportMargins();
+  const int height = viewport()->height() + kept_empty.top() + kept_empty.bottom();
+  const int spare = row > 0 ? height % row : 0;
+  const QMargins wanted(0, spare / 2, 0, spare - spare / 2);
+  if (wanted != kept_empty) setViewportMargins(wanted);
+  QListView::updateGeometries();
 }
 
 int ListWidget::SelectedRow() const {

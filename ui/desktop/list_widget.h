@@ -28,6 +28,7 @@ class ListWidget : public QListView {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void updateGeometries() override;
 
  private:
   int SelectedRow() const;

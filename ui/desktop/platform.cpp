@@ -112,7 +112,11 @@ void DesktopPlatform::PrintForm(forms::Window& window) {
     const double natural = printer.resolution() / kDotsPerInch;
     const double scale = std::min({natural, paper.width() / face.width(), paper.height() / face.height()});
     painter.scale(scale, scale);
+    // The caret and the ring around what has the focus are not part of the page.
+    QWidget* const focused = face.window()->focusWidget();
+    if (focused != nullptr) focused->clearFocus();
     face.render(&painter);
+    if (focused != nullptr && focused->isVisible()) focused->setFocus(Qt::OtherFocusReason);
   });
   if (!painter.end()) throw no_answer;
 }

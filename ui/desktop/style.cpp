@@ -137,12 +137,9 @@ void Style::DrawFrame(const QStyleOption& option, QPainter& painter) const {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(LineColor(option.palette));
+  const bool has_focus = (option.state & State_HasFocus) != 0 && (option.state & State_Enabled) != 0;
+  painter.setPen(has_focus ? option.palette.color(QPalette::Highlight) : LineColor(option.palette));
   painter.drawRect(OutlineOf(option.rect));
-  if ((option.state & State_HasFocus) != 0 && (option.state & State_Enabled) != 0) {
-    painter.setPen(QPen(option.palette.color(QPalette::Highlight), 2));
-    painter.drawRect(QRectF(option.rect).adjusted(1, 1, -1, -1));
-  }
   painter.restore();
 }
 

@@ -95,6 +95,8 @@ QColor Legible(const QColor& text, const QColor& ground) {
   return lightened;
 }
 
+QColor ShadowOn(const QColor& ground) { return Mixed(ground, Qt::black, IsDark(ground) ? 0.5 : 0.2); }
+
 QColor TextOn(const QColor& ground) {
   return Contrast(Qt::white, ground) > Contrast(Qt::black, ground) ? Qt::white : Qt::black;
 }

@@ -31,6 +31,9 @@ bool IsDark(const QColor& colour);
 // too close. Text in the very colour of its ground is meant to vanish, and does.
 QColor Legible(const QColor& text, const QColor& ground);
 
+// What a shadow on that ground looks like.
+QColor ShadowOn(const QColor& ground);
+
 // Black or white, whichever is better read on the ground.
 QColor TextOn(const QColor& ground);
 
