@@ -21,6 +21,8 @@ Panels::Panels(forms::Window& form)
       Label22(FRMMARK, "Label22", {.caption = "BOOK MARK"}),
       Frame2(form, "Frame2", {.caption = "make concordance"}),
       Frame5(form, "Frame5", {.caption = "pictures", .visible = false}),
-      Frame6(Frame5, "Frame6", {.caption = "needs"}) {}
+      Frame6(Frame5, "Frame6", {.caption = "needs"}) {
+  Picture6.BorderStyle = 0;  // no edge: the tools belong to the text above them
+}
 
 }  // namespace lectern::core

@@ -6,8 +6,9 @@ namespace lectern::paint {
 
 namespace {
 
-constexpr forms::Pixel kInk = forms::kOpaque | 0x503C28;  // a deep blue
-constexpr forms::Pixel kNothing = 0;                      // transparent
+constexpr forms::Pixel kInk = forms::kOpaque | 0x503C28;   // a deep blue
+constexpr forms::Pixel kSign = forms::kOpaque | 0xB07F4A;  // a blue that is seen on a light and a dark ground
+constexpr forms::Pixel kNothing = 0;                       // transparent
 
 }  // namespace
 
@@ -21,21 +22,38 @@ forms::Picture ArrowPicture(Direction direction) {
       const int middle = kSize / 2 + across * 3 / 4;
       switch (direction) {
         case Direction::kLeft:
-          arrow.Set(from_tip, middle, kInk);
+          arrow.Set(from_tip, middle, kSign);
           break;
         case Direction::kRight:
-          arrow.Set(kSize - 1 - from_tip, middle, kInk);
+          arrow.Set(kSize - 1 - from_tip, middle, kSign);
           break;
         case Direction::kUp:
-          arrow.Set(middle, from_tip, kInk);
+          arrow.Set(middle, from_tip, kSign);
           break;
         case Direction::kDown:
-          arrow.Set(middle, kSize - 1 - from_tip, kInk);
+          arrow.Set(middle, kSize - 1 - from_tip, kSign);
           break;
       }
     }
   }
   return forms::Picture(std::move(arrow));
+}
+
+forms::Picture GlassPicture() {
+  constexpr int kSize = 20;
+  constexpr double kMiddle = 8;
+  constexpr double kRim = 6;  // radius
+  constexpr int kThickness = 3;
+  forms::Bitmap glass(kSize, kSize, kNothing);
+  const auto dot = [&glass](double x, double y) {
+    glass.Dot(static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y)), kThickness, kSign,
+              forms::RasterOperation::kCopyPen);
+  };
+  for (double turn = 0; turn < 6.283; turn += 0.1) {
+    dot(kMiddle + kRim * std::cos(turn), kMiddle + kRim * std::sin(turn));
+  }
+  for (double along = kMiddle + kRim * 0.7; along < kSize - kThickness + 1; ++along) dot(along, along);
+  return forms::Picture(std::move(glass));
 }
 
 forms::Picture StrokePicture(int width, int thickness) {

@@ -10,6 +10,9 @@ enum class Direction { kLeft, kUp, kRight, kDown };
 
 forms::Picture ArrowPicture(Direction direction);
 
+// A magnifying glass.
+forms::Picture GlassPicture();
+
 // A brush's stroke from top to bottom, in a picture `width` pixels wide.
 forms::Picture StrokePicture(int width, int thickness);
 

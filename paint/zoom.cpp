@@ -1,6 +1,7 @@
 #include "paint/zoom.h"
 
 #include "core/text/numbers.h"
+#include "paint/drawings.h"
 
 namespace lectern::paint {
 
@@ -11,8 +12,10 @@ Zoom::Zoom(forms::Window& form, Canvas& the_canvas)
       txt5(form, "txt5", {.caption = "0", .name = "Zoom level"}),
       picbox2(form, "picbox2", {.visible = false}),
       canvas(the_canvas) {
-  cmdm.ForEach(
-      [this](int index, forms::SSCommand& button) { button.Click = [this, index] { cmdm_Click(index); }; });
+  cmdm.ForEach([this](int index, forms::SSCommand& button) {
+    button.Picture = GlassPicture();
+    button.Click = [this, index] { cmdm_Click(index); };
+  });
 }
 
 // A canvas grows without an end by going back to a large save at a small level, again and again: what would

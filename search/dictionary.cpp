@@ -7,7 +7,7 @@ namespace {
 constexpr int kWords = 1;  // slot
 
 constexpr forms::Design Shadow(const char* caption) {
-  return {.caption = caption, .is_echo = true, .fore_color = forms::Rgb(198, 198, 194)};
+  return {.caption = caption, .is_echo = true, .fore_color = forms::kButtonShadow};
 }
 
 }  // namespace
@@ -22,6 +22,7 @@ Dictionary::Dictionary(core::Reader& the_reader, core::Panels& the_panels, core:
       dwd2(panels.frmd, "dwd2", Shadow("Word")),
       ddf2(panels.frmd, "ddf2", Shadow("Definition")),
       dex2(panels.frmd, "dex2", Shadow("used in a verce")),
+      linedic(panels.frmd, "linedic"),
       dwd(panels.frmd, "dwd", {.caption = "Word"}),
       ddf(panels.frmd, "ddf", {.caption = "Definition"}),
       dex(panels.frmd, "dex", {.caption = "used in a verce"}),  // ODDITY(kept-spelling)

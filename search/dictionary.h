@@ -6,6 +6,7 @@
 
 #include "core/error_report.h"
 #include "core/forms/label.h"
+#include "core/forms/shape.h"
 #include "core/menus.h"
 #include "core/reader.h"
 #include "core/tool_buttons.h"
@@ -39,9 +40,10 @@ class Dictionary {
   forms::Label dwd2;
   forms::Label ddf2;
   forms::Label dex2;
-  forms::Label dwd;  // the word that was chosen
-  forms::Label ddf;  // its definition
-  forms::Label dex;  // a verse that uses it, and where that stands
+  forms::Line linedic;  // between the definition and the verse
+  forms::Label dwd;     // the word that was chosen
+  forms::Label ddf;     // its definition
+  forms::Label dex;     // a verse that uses it, and where that stands
 
   forms::CommandButton Command19;
 };

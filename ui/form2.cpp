@@ -7,11 +7,13 @@ namespace lectern::ui {
 namespace {
 
 // The client area is 618 by 443 pixels.
+// clang-format off
 constexpr Place kPlaces[] = {
-    {"Text1", 24, 16, 569, 385},
-    {"Command1", 393, 408, 96, 28},
-    {"Command2", 497, 408, 96, 28},
+    {"Text1",     24,  16, 569, 385},
+    {"Command1", 393, 408,  96,  28},
+    {"Command2", 497, 408,  96,  28},
 };
+// clang-format on
 
 }  // namespace
 

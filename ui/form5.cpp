@@ -6,10 +6,12 @@ namespace lectern::ui {
 
 namespace {
 
+// clang-format off
 constexpr Place kPlaces[] = {
-    {"Image1", 0, 0, 320, 240},
-    {"Command1", 112, 8, 96, 28},
+    {"Image1",     0, 0, 320, 240},
+    {"Command1", 112, 8,  96,  28},
 };
+// clang-format on
 
 }  // namespace
 

@@ -5,20 +5,23 @@ namespace lectern::ui {
 
 namespace {
 
+// clang-format off
 constexpr Place kPlaces[] = {
-    {"frmd", 16, 24, 652, 480},
+    {"frmd",       16,  24, 644, 456},
 
-    {"lstd", 16, 16, 192, 448},
+    {"lstd",       16,  16, 184, 424},
 
-    {"dwd2", 225, 17, 412, 32, Look::kTitle},
-    {"dwd", 224, 16, 412, 32, Look::kTitle},
-    {"ddf2", 225, 65, 412, 152, Look::kReading},
-    {"ddf", 224, 64, 412, 152, Look::kReading},
-    {"dex2", 225, 225, 412, 200, Look::kReading},
-    {"dex", 224, 224, 412, 200, Look::kReading},
+    {"dwd2",      218,  18, 412,  32, Look::kTitle},
+    {"dwd",       216,  16, 412,  32, Look::kTitle},
+    {"ddf2",      217,  65, 412, 148, Look::kReading},
+    {"ddf",       216,  64, 412, 148, Look::kReading},
+    {"linedic",   216, 222, 412,   1},
+    {"dex2",      217, 233, 412, 164, Look::kReading},
+    {"dex",       216, 232, 412, 164, Look::kReading},
 
-    {"Command19", 492, 436, 144, 28},
+    {"Command19", 484, 412, 144,  28},
 };
+// clang-format on
 
 }  // namespace
 

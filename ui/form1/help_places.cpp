@@ -8,15 +8,23 @@ namespace {
 
 constexpr double kStart = 160.0 / 3;  // pixels: 800 twips
 
+// clang-format off
 constexpr Place kPlaces[] = {
-    {"frmhelp", kStart, 24, 616, 486}, {"Label19(4)", 16, 14, 112, 24, Look::kHeading},
-    {"lblhp(0)", 16, 50, 112, 24},     {"lblhp(1)", 16, 82, 112, 24},
-    {"lblhp(2)", 16, 114, 112, 24},    {"lblhp(3)", 16, 146, 112, 24},
-    {"lblhp(4)", 16, 178, 112, 24},    {"lblhp(5)", 16, 210, 112, 24},
-    {"lblhp(6)", 16, 242, 112, 24},    {"lblhp(7)", 16, 274, 112, 24},
-    {"txthelp", 144, 48, 456, 382},    {"Command4", 504, 12, 96, 28},
-    {"Command44", 504, 442, 96, 28},
+    {"frmhelp",    kStart,  24, 607, 456},
+    {"Label19(4)",     16,  14, 112,  24, Look::kHeading},
+    {"lblhp(0)",       10,  52, 118,  24},
+    {"lblhp(1)",       10,  84, 118,  24},
+    {"lblhp(2)",       10, 116, 118,  24},
+    {"lblhp(3)",       10, 148, 118,  24},
+    {"lblhp(4)",       10, 180, 118,  24},
+    {"lblhp(5)",       10, 212, 118,  24},
+    {"lblhp(6)",       10, 244, 118,  24},
+    {"lblhp(7)",       10, 276, 118,  24},
+    {"txthelp",       144,  52, 447, 352},
+    {"Command4",      479,  12, 112,  28},
+    {"Command44",     479, 412, 112,  28},
 };
+// clang-format on
 
 }  // namespace
 

@@ -1,38 +1,41 @@
-// The reading window itself: tools at the top, the text at the left, the books and the chapter bar at the
-// right, the strip of pictures along the bottom.
+// The reading window itself: the text at the left; what is open, the chapter bar, the books and the version
+// at the right; the tools below, and the strip of pictures along the bottom. The start lays the panels over
+// the text, which leaves the tools and the books in sight.
 #include "ui/form1/places.h"
 
 namespace lectern::ui {
 
 namespace {
 
+// clang-format off
 constexpr Place kPlaces[] = {
-    {"Picture6", 0, 0, 916, 42},
-    {"Command3", 16, 8, 104, 28},
-    {"Command16", 126, 8, 88, 28},
-    {"Command8", 220, 8, 116, 28},
-    {"Command2", 342, 8, 80, 28},
-    {"Command14", 428, 8, 80, 28},
-    {"Command17", 514, 8, 104, 28},
-    {"Command1", 820, 8, 80, 28},
+    {"rtxt",       24,  24, 636, 456},
 
-    {"lblbook", 0, 0, 0, 0},
-    {"Label30", 16, 57, 58, 20},
-    {"lblbk", 74, 48, 232, 32, Look::kTitle},
-    {"Label21", 310, 57, 60, 20},
-    {"lblc", 370, 48, 60, 32, Look::kTitle},
-    {"LBLVR", 440, 57, 228, 20, Look::kRight},
-    {"rtxt", 16, 86, 652, 424},
+    {"lblbook",     0,   0,   0,   0},
+    {"Label30",   676,  28,  52,  20},
+    {"lblbk",     732,  24, 160,  28, Look::kHeading},
+    {"Label21",   676,  58,  52,  20},
+    {"lblc",      732,  54,  60,  28, Look::kHeading},
+    {"scr",       676,  90, 216,  20},
+    {"lst",       676, 122, 216, 298},
+    {"LBLVR",     676, 430, 216,  20, Look::kStrong},
+    {"optk",      676, 458,  22,  22},
+    {"Label34",   700, 459,  60,  20},
+    {"optn",      776, 458,  22,  22},
+    {"Label35",   800, 459,  60,  20},
 
-    {"optk", 684, 55, 22, 22},
-    {"Label34", 708, 57, 60, 20},
-    {"optn", 784, 55, 22, 22},
-    {"Label35", 808, 57, 60, 20},
-    {"lst", 684, 86, 216, 394},
-    {"scr", 684, 488, 216, 22},
+    {"Picture6",    0, 488, 916,  44},
+    {"Command3",   24,   8, 101,  28},
+    {"Command16", 131,   8, 101,  28},
+    {"Command8",  238,   8, 101,  28},
+    {"Command2",  345,   8, 101,  28},
+    {"Command14", 452,   8, 101,  28},
+    {"Command17", 559,   8, 101,  28},
+    {"Command1",  791,   8, 101,  28},
 
-    {"Picture5", 0, 520, 916, 148},
+    {"Picture5",    0, 532, 916, 136},
 };
+// clang-format on
 
 }  // namespace
 

@@ -5,18 +5,20 @@ namespace lectern::ui {
 
 namespace {
 
+// clang-format off
 constexpr Place kPlaces[] = {
-    {"Picture17", 7, 7, 656, 304},
+    {"Picture17",   7,   7, 653, 260},
 
-    {"lbltrivia", 16, 16, 624, 32, Look::kTitle},
-    {"Label25", 16, 72, 624, 64, Look::kHeading},
-    {"Label26", 16, 152, 624, 80, Look::kReading},
-    {"List3", 312, 260, 64, 28},
+    {"lbltrivia",  16,  12, 621,  32, Look::kTitle},
+    {"Label25",    16,  56, 621,  64, Look::kHeading},
+    {"Label26",    16, 128, 621,  72, Look::kReading},
+    {"List3",     312, 216,  64,  28},
 
-    {"Command29", 16, 260, 112, 28},
-    {"Command31", 136, 260, 112, 28},
-    {"Command28", 528, 260, 112, 28},
+    {"Command29",  16, 216, 112,  28},
+    {"Command31", 136, 216, 112,  28},
+    {"Command28", 525, 216, 112,  28},
 };
+// clang-format on
 
 }  // namespace
 
