@@ -1,6 +1,5 @@
 #include "search/text_search.h"
 
-
 #include "core/error_modes.h"
 #include "core/text/characters.h"
 #include "core/text/numbers.h"

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/files/file_system.h"
+#include "core/files/host_files.h"
 #include "core/run_time_error.h"
 
 namespace lectern::files {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/files/host_files.h"
+#include "core/files/descriptor.h"
 
 namespace lectern::files {
 

@@ -44,10 +44,6 @@ void FailWith(int host_error) {
   }
 }
 
-Descriptor::~Descriptor() {
-  if (number_ >= 0) ::close(number_);
-}
-
 Standing At(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0) return {};

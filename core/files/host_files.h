@@ -5,33 +5,13 @@
 #include <dirent.h>
 #include <string>
 #include <string_view>
-#include <utility>
+
+#include "core/files/descriptor.h"
 
 namespace lectern::files {
 
 // Throws the RunTimeError that stands for the host's error number.
 [[noreturn]] void FailWith(int host_error);
-
-// An open file of the host, closed with its owner.
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(Descriptor&& other) noexcept : number_(other.Release()) {}
-  Descriptor& operator=(Descriptor&& other) noexcept {
-    std::swap(number_, other.number_);
-    return *this;
-  }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor();
-
-  int Number() const { return number_; }
-  bool IsOpen() const { return number_ >= 0; }
-  int Release() { return std::exchange(number_, -1); }
-
- private:
-  int number_;
-};
 
 // What stands at a path, of whatever kind.
 struct Standing {
