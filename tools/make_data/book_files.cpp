@@ -1,8 +1,10 @@
 #include "tools/make_data/book_files.h"
 
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <system_error>
 
 #include "core/canon.h"
 #include "core/files/text_encoding.h"
@@ -37,8 +39,12 @@ void WriteFile(const std::string& path, const std::string& bytes) {
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
   std::error_code failure;
-  if (file) fs::rename(fresh, path, failure);
-  if (!file || failure) throw Obstacle("The file " + path + " could not be written.");
+  if (file) {
+    fs::rename(fresh, path, failure);
+  } else {
+    failure.assign(errno != 0 ? errno : EIO, std::generic_category());
+  }
+  if (failure) throw Obstacle("The file " + path + " could not be written: " + failure.message() + ".");
 }
 
 void WriteBooks(const Version& version, const std::string& folder, const std::string& prefix) {
