@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "ui/desktop/accessible.h"
+#include "ui/desktop/application.h"
 #include "ui/desktop/desktop.h"
 #include "ui/desktop/theme.h"
 
@@ -157,6 +158,7 @@ void MeasureAll() {
 }  // namespace
 
 int main(int /*argc*/, char** arguments) {
+  lectern::desktop::PrepareApplication();
   int only_the_name = 1;
   QApplication application(only_the_name, arguments);
   lectern::desktop::Dress();
