@@ -33,8 +33,8 @@ forms::Picture FromPixbuf(const GdkPixbuf* pixbuf) {
   return forms::Picture(std::move(bitmap));
 }
 
-// The same limit as on the desktop: a gigabyte of pixels. A header that promises more is found out before there
-// is memory asked for: a picture of no size is not decoded.
+// The same limit as on the desktop: a gigabyte of pixels. A header that promises more is found out before
+// there is memory asked for: a picture of no size is not decoded.
 void NoteSize(GdkPixbufLoader* loader, gint width, gint height, gpointer too_large) {
   constexpr std::int64_t kMostPixels = std::int64_t{1024} * 1024 * 1024 / sizeof(forms::Pixel);
   if (std::int64_t{width} * height <= kMostPixels) return;
