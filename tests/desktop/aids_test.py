@@ -35,6 +35,9 @@ class WindowManager:
         self.running = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
         wait_for("a window manager", lambda: b"0x" in subprocess.check_output(
             ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]))
+        # It takes the window that is there under its care, and gives it no focus by itself.
+        wait_for("the window under its care", lambda: subprocess.run(
+            ["xdotool", "search", "--name", "^Lectern 2$", "windowactivate"], stderr=subprocess.PIPE).stderr == b"")
 
     def __exit__(self, *_):
         self.running.terminate()

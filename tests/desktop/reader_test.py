@@ -68,6 +68,7 @@ class Screen:
                 yield from self.walk(child)
 
     def is_so(self, thing, state):
+        thing.clear_cache()  # what is remembered of it may be behind
         return thing.get_state_set().contains(getattr(self.atspi.StateType, state))
 
     def look(self, role, is_it):
@@ -106,15 +107,6 @@ class Screen:
             return thing if len(places) > 1 and places[-1] == places[-2] else None
 
         return wait_for(f"{role} {name!r} to be used", look)
-
-    def focused(self):
-        """What the keyboard's input comes to, by its name."""
-        try:
-            names = [thing.get_name() for thing in self.walk()
-                     if self.is_so(thing, "FOCUSED") and thing.get_name() and self.takes_input(thing)]
-        except self.gone:
-            names = []
-        return names
 
     def text_of(self, name):
         pane = self.find("text", name)

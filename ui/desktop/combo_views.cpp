@@ -30,6 +30,8 @@ class Box : public QComboBox {
 QWidget* ComboView::Make(QWidget* parent) {
   widget_ = new Box(parent);
   widget_->setEditable(true);
+  // A screen reader is told of the field inside, and takes the text in it for the name of the box.
+  widget_->lineEdit()->setAccessibleName(ToQString(combo_.AccessibleName()));
   widget_->setInsertPolicy(QComboBox::NoInsert);
   widget_->setCompleter(nullptr);  // it would write more than the person did
   connect(widget_->lineEdit(), &QLineEdit::textEdited, [this](const QString& text) {
