@@ -67,7 +67,12 @@ BENCHMARK(OpenPanel)->Unit(benchmark::kMillisecond);
 void ClickOnWord(benchmark::State& state) {
   Driver driver(DataFolder(), [](const std::string&) {});
   driver.Execute("click Form1.cc1");
-  for (auto _ : state) driver.Execute("click Form1.lstc 2000");
+  // A click on the word that is shown already reads nothing.
+  bool first = false;
+  for (auto _ : state) {
+    first = !first;
+    driver.Execute(first ? "click Form1.lstc 1000" : "click Form1.lstc 3000");
+  }
 }
 BENCHMARK(ClickOnWord)->Unit(benchmark::kMillisecond);
 
