@@ -36,7 +36,10 @@ class Stage : public testing::Test {
     Do([this] { window->Visible = true; });
     EXPECT_TRUE(QTest::qWaitForWindowActive(view->Frame()));
   }
-  ~Stage() override { LetGo(); }
+  ~Stage() override {
+    LetGo();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // the view goes before its events
+  }
 
   // As the program lets a window go.
   void LetGo() {
