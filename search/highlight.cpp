@@ -1,29 +1,25 @@
 #include "search/highlight.h"
 
+#include <vector>
+
 #include "core/text/characters.h"
 
 namespace lectern::search {
 
 int HighlightText(forms::RichTextBox& pane, std::string_view term, forms::Colour colour) {
-  const int start = pane.SelStart;
-  const int length = pane.SelLength;
-  const int term_length = static_cast<int>(text::Length(term));
-  int count = 0;
-  int position = 0;
+  const std::size_t length = text::Length(term);
+  std::vector<std::size_t> places;
+  std::size_t position = 0;
   while (true) {
-    const int found = pane.Find(term, position, forms::kFindNoHighlight);
+    const int found = pane.Find(term, static_cast<int>(position), forms::kFindNoHighlight);
     // ODDITY(first-character): a term at the very first character is not coloured, and ends the colouring
     // of all the others; it is meant.
     if (found <= 0) break;
-    ++count;
-    pane.SelStart = found;
-    pane.SelLength = term_length;
-    pane.SelColor = colour;
-    position = found + term_length;
+    places.push_back(static_cast<std::size_t>(found));
+    position = places.back() + length;
   }
-  pane.SelStart = start;
-  pane.SelLength = length;
-  return count;
+  pane.ColourPlaces(places, length, colour);
+  return static_cast<int>(places.size());
 }
 
 }  // namespace lectern::search

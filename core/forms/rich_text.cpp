@@ -36,26 +36,41 @@ std::size_t TextRuns::SplitAt(std::size_t position) {
   return index + 1;
 }
 
-void TextRuns::SetColour(std::size_t start, std::size_t length, Colour colour) {
+// Goes over the old runs and the stretches once, however many there are.
+void TextRuns::SetColour(const std::vector<std::size_t>& starts, std::size_t length, Colour colour) {
   if (length == 0) return;
-  const std::size_t end = start + length;
-  if (runs_.empty() || runs_.back().End() <= start) {
-    TextStyle style;
-    style.colour = colour;
-    Append({start, length, style});
-    return;
-  }
-  std::size_t index = SplitAt(start);
-  SplitAt(end);
-  // The gaps between the runs of the stretch get runs of their own.
-  for (std::size_t at = start; at < end; ++index) {
-    if (index == runs_.size() || runs_[index].start > at) {
-      const std::size_t gap_end = index == runs_.size() ? end : std::min(end, runs_[index].start);
-      runs_.insert(runs_.begin() + static_cast<std::ptrdiff_t>(index), TextRun{at, gap_end - at, {}});
+  std::vector<TextRun> old = std::exchange(runs_, {});
+  runs_.reserve(old.size() + starts.size());
+  auto run = old.begin();
+  const auto take_until = [&](std::size_t end) {
+    TextRun taken = *run;
+    taken.length = std::min(end, run->End()) - run->start;
+    run->length -= taken.length;
+    run->start += taken.length;
+    if (run->length == 0) ++run;
+    return taken;
+  };
+  const auto keep_until = [&](std::size_t end) {
+    while (run != old.end() && run->start < end) Append(take_until(end));
+  };
+  for (const std::size_t start : starts) {
+    keep_until(start);
+    const std::size_t end = start + length;
+    for (std::size_t at = start; at < end;) {
+      TextRun piece{at, end - at, {}};
+      if (run != old.end() && run->start < end) {
+        if (run->start == at) {
+          piece = take_until(end);
+        } else {
+          piece.length = run->start - at;  // the gap ahead of it
+        }
+      }
+      piece.style.colour = colour;
+      at = piece.End();
+      Append(std::move(piece));
     }
-    runs_[index].style.colour = colour;
-    at = runs_[index].End();
   }
+  keep_until(std::string::npos);
 }
 
 void TextRuns::Edited(std::size_t start, std::size_t removed, std::size_t inserted) {

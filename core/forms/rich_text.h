@@ -40,8 +40,9 @@ class TextRuns {
 
   TextStyle At(std::size_t position) const;
 
-  // Gives `length` characters from `start` on another colour and leaves the rest of their style.
-  void SetColour(std::size_t start, std::size_t length, Colour colour);
+  // Gives `length` characters from each start on another colour and leaves the rest of their style. The
+  // starts ascend, at least that far from one another.
+  void SetColour(const std::vector<std::size_t>& starts, std::size_t length, Colour colour);
 
   // The text was edited: `removed` characters at `start` gave place to `inserted` others.
   void Edited(std::size_t start, std::size_t removed, std::size_t inserted);

@@ -56,10 +56,8 @@ RichTextBox::RichTextBox(Container& parent, std::string name, const Design& desi
           *this, "SelColor",
           [this] { return runs_.At(static_cast<std::size_t>(SelStart())).colour.value_or(ForeColor()); },
           [this](const Colour& colour) {
-            runs_.SetColour(static_cast<std::size_t>(SelStart()), static_cast<std::size_t>(SelLength()),
-                            colour);
-            ++style_generation_;
-            TellView();
+            ColourPlaces({static_cast<std::size_t>(SelStart())}, static_cast<std::size_t>(SelLength()),
+                         colour);
           }),
       read_only_(design.read_only) {
   BackColor = kWindowBackground;
@@ -150,6 +148,12 @@ int RichTextBox::Find(std::string_view sought, int start, int options) {
     }
   }
   return -1;
+}
+
+void RichTextBox::ColourPlaces(const std::vector<std::size_t>& starts, std::size_t length, Colour colour) {
+  runs_.SetColour(starts, length, colour);
+  ++style_generation_;
+  TellView();
 }
 
 void RichTextBox::Replace(std::size_t start, std::size_t removed, std::string_view inserted) {

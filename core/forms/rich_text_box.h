@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/forms/control.h"
 #include "core/forms/rich_text.h"
@@ -35,6 +36,10 @@ class RichTextBox : public TextControl {
   // does not matter, and the inside of words counts. With kFindNoHighlight the selection stays; without, it
   // moves to what was found.
   int Find(std::string_view sought, int start, int options);
+
+  // Gives `length` characters from each start on a colour, as SelColor would one after the other. The starts
+  // ascend, at least that far from one another.
+  void ColourPlaces(const std::vector<std::size_t>& starts, std::size_t length, Colour colour);
 
   const TextRuns& Runs() const { return runs_; }
   bool TextIsAscii() const { return is_ascii_; }

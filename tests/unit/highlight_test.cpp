@@ -44,6 +44,26 @@ TEST(HighlightText, CountsCharactersInATextOfAnyLengthAndScript) {
   pane.Text = lines;
   EXPECT_EQ(HighlightText(pane, "grace", kMarkColour), kLines);
   EXPECT_EQ(pane.Runs().All().back().start, 13U * kLines - 7);
+  // A second term stands between the places of the first.
+  EXPECT_EQ(HighlightText(pane, "é", forms::kBlack), kLines);
+  EXPECT_EQ(pane.Runs().All().size(), 2U * kLines);
+}
+
+TEST(HighlightText, ColoursOverWhatIsColouredAlready) {
+  TestWindow test;
+  forms::RichTextBox pane(test.form, "rtxt");
+  pane.Text = "in the disgraceful light";
+  HighlightText(pane, "grace", kMarkColour);
+  HighlightText(pane, "disgraceful", forms::kBlack);
+  ASSERT_EQ(pane.Runs().All().size(), 1U);
+  HighlightText(pane, "ace", kMarkColour);
+  HighlightText(pane, "the dis", kMarkColour);
+  std::string marked;
+  for (int i = 0; i < 24; ++i) {
+    pane.SelStart = i;
+    marked += pane.SelColor == kMarkColour ? 'x' : pane.SelColor == forms::kBlack ? 'b' : '.';
+  }
+  EXPECT_EQ(marked, "...xxxxxxxbbxxxbbb......");
 }
 
 TEST(Entry, IsTakenApartBehindItsThirdCharacter) {
