@@ -195,6 +195,27 @@ void FileSystem::ReplaceKeepingBackup(std::string_view name, std::string_view by
   PutInPlace(fresh, path);
 }
 
+// Within the start folder the place under `backup` is the same as outside it; a file from elsewhere takes its
+// whole path along, so that two of one name do not meet. A backup's own is `backup/backup`.
+std::string FileSystem::BackupOf(const std::string& path) const {
+  const bool inside = path.starts_with(start_folder_ + "/");
+  return start_folder_ + "/backup" + (inside ? path.substr(start_folder_.size()) : path);
+}
+
+// Puts a file in the place of another, whose folder need not be there yet.
+void FileSystem::MoveOver(const std::string& path, const std::string& place) const {
+  Announce(Operation::kRename, path);
+  std::error_code failure;
+  std::filesystem::create_directories(std::filesystem::path(place).parent_path(), failure);
+  if (failure) FailWith(failure.value());
+  std::filesystem::rename(path, place, failure);
+  if (failure == std::errc::cross_device_link) {
+    std::filesystem::copy_file(path, place, std::filesystem::copy_options::overwrite_existing, failure);
+    if (!failure) std::filesystem::remove(path, failure);
+  }
+  if (failure) FailWith(failure.value());
+}
+
 void FileSystem::DeleteKeepingBackup(std::string_view name) const {
   const std::string path = HostPath(name);
   const Standing standing = At(path);
@@ -203,21 +224,18 @@ void FileSystem::DeleteKeepingBackup(std::string_view name) const {
     Delete(name);
     return;
   }
-  // Within the start folder the place under `backup` is the same as outside it; a file from elsewhere
-  // takes its whole path along, so that two of one name do not meet.
-  const std::string_view inside =
-      path.starts_with(start_folder_ + "/") ? std::string_view(path).substr(start_folder_.size()) : path;
-  const std::filesystem::path kept = start_folder_ + "/backup" + std::string(inside);
-  Announce(Operation::kRename, path);
-  std::error_code failure;
-  std::filesystem::create_directories(kept.parent_path(), failure);
-  if (failure) FailWith(failure.value());
-  std::filesystem::rename(path, kept, failure);
-  if (failure == std::errc::cross_device_link) {
-    std::filesystem::copy_file(path, kept, std::filesystem::copy_options::overwrite_existing, failure);
-    if (!failure) std::filesystem::remove(path, failure);
-  }
-  if (failure) FailWith(failure.value());
+  constexpr int kVersions = 3;
+  Keep(path, kVersions);
+}
+
+// Moves a file to its place in the backup, where it is the last of so many versions; the one that stands
+// there goes on to the next place, unless it is the same. In the last place the longest stays.
+void FileSystem::Keep(const std::string& path, int versions) const {
+  const std::string place = BackupOf(path);
+  const std::uint64_t length = LengthAt(place);
+  if (versions == 1 && length > LengthAt(path)) return;
+  if (versions > 1 && length > 0 && !HoldTheSame(path, place)) Keep(place, versions - 1);
+  MoveOver(path, place);
 }
 
 namespace {

@@ -56,8 +56,10 @@ class FileSystem {
   void Rename(std::string_view from, std::string_view to) const;
 
   // Deletes something that a person made: its last version stays under `backup` in the start folder, so
-  // that nothing is lost whatever happens before the new one is written. A file of no bytes never takes
-  // the place of a version that holds something.
+  // that nothing is lost whatever happens before the new one is written. The version before stays under
+  // `backup/backup`, and the longest of all before that one under `backup/backup/backup`: what was written
+  // by halves, however often, does not push out what was whole. A file of no bytes is no version, nor is
+  // the same one again.
   void DeleteKeepingBackup(std::string_view name) const;
 
   // The names in a folder, in the order of file lists; empty where the folder cannot be read.
@@ -75,6 +77,9 @@ class FileSystem {
   friend class Appending;
   std::string AsWritten(std::string_view name) const;
   void Announce(Operation operation, const std::string& path) const;
+  std::string BackupOf(const std::string& path) const;
+  void Keep(const std::string& path, int versions) const;
+  void MoveOver(const std::string& path, const std::string& place) const;
   std::string WriteBeside(const std::string& path, std::string_view bytes) const;
 
   std::string start_folder_;

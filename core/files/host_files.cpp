@@ -1,7 +1,10 @@
 #include "core/files/host_files.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
+#include <fstream>
+#include <iterator>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -48,6 +51,20 @@ Standing At(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0) return {};
   return {true, S_ISDIR(status.st_mode), S_ISREG(status.st_mode)};
+}
+
+std::uint64_t LengthAt(const std::string& path) {
+  struct stat status {};
+  const bool is_file = ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+  return is_file ? static_cast<std::uint64_t>(status.st_size) : 0;
+}
+
+bool HoldTheSame(const std::string& path, const std::string& other) {
+  if (LengthAt(path) != LengthAt(other)) return false;
+  std::ifstream one(path, std::ios::binary);
+  std::ifstream two(other, std::ios::binary);
+  return one && two &&
+         std::equal(std::istreambuf_iterator<char>(one), {}, std::istreambuf_iterator<char>(two));
 }
 
 OpenFile OpenRegular(const std::string& path, int flags) {

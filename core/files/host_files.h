@@ -22,6 +22,12 @@ struct Standing {
 
 Standing At(const std::string& path);
 
+// In bytes; 0 where no file is.
+std::uint64_t LengthAt(const std::string& path);
+
+// Whether both are files that can be read and have the same bytes.
+bool HoldTheSame(const std::string& path, const std::string& other);
+
 struct OpenFile {
   Descriptor descriptor;  // not open: errno says why
   std::uint64_t length = 0;

@@ -157,6 +157,29 @@ TEST_F(Files, KeepTheLastVersionOfWhatAPersonMade) {
   EXPECT_EQ(folder.Read("backup/notes/mine.not"), "second");
 }
 
+TEST_F(Files, KeepTheVersionBeforeAndTheLongestOfThoseBeforeIt) {
+  const auto replace = [&](const char* version) {
+    folder.Write("mine.not", version);
+    files.DeleteKeepingBackup(Name("\\mine.not"));
+    EXPECT_EQ(folder.Read("backup/mine.not"), version);
+  };
+  const auto expect_before = [&](const char* last, const char* longest) {
+    EXPECT_EQ(folder.Read("backup/backup/mine.not"), last);
+    EXPECT_EQ(folder.Read("backup/backup/backup/mine.not"), longest);
+  };
+  replace("all of it");
+  expect_before("(missing)", "(missing)");
+  replace("half");
+  replace("half");  // saved unaltered
+  expect_before("all of it", "(missing)");
+  replace("part");
+  expect_before("half", "all of it");
+  for (const char* version : {"other", "some", "half", "some"}) replace(version);
+  expect_before("half", "all of it");
+  for (const char* version : {"all of it!", "nothing", "half"}) replace(version);
+  expect_before("nothing", "all of it!");
+}
+
 TEST_F(Files, LeaveAFileAsItWasWhenTheDiskIsFull) {
   folder.Write("words.dat", "\"kept\",\"Ruth 1 1\"\r\n");
   files.before = [](Operation operation, const std::string&) {
