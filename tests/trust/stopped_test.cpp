@@ -14,7 +14,6 @@ namespace lectern {
 namespace {
 
 using headless::Driver;
-using Steps = std::vector<std::string>;
 
 struct Story {
   const char* name;
@@ -118,17 +117,16 @@ class Telling {
  public:
   explicit Telling(const Story& story) : story_(story) { LaySmallWorld(folder_); }
 
-  // Plays the story in a process of its own until something stops it; the index of the act that was not
-  // played to its end, or the number of acts. The program may be killed ahead of its n-th file operation,
-  // or the disk be full from its n-th write on.
-  enum class Stop { kNone, kKilled, kFullDisk };
   struct End {
-    std::size_t act = 0;
+    std::size_t act = 0;  // that was not played to its end, or the number of acts
     bool stopped = false;
     bool told = false;
   };
+
+  // Plays the story in a process of its own until something stops it: the program is killed ahead of its
+  // n-th file operation, or the disk is full from its n-th write on.
   End Play(Stop stop, int n) {
-    const int status = StatusInChild([&] { return PlayHere(stop, n); });
+    const int status = InChild([&] { return PlayHere(stop, n); });
     EXPECT_GE(status, 0) << "the program crashed";
     return {static_cast<std::size_t>(status) / 4, status % 4 != 0, status % 4 == 2};
   }
@@ -212,7 +210,7 @@ void ExpectNothingLost(const Telling& telling, const Made& before, const Made& a
   }
 }
 
-class Stopped : public testing::TestWithParam<std::tuple<Story, Telling::Stop>> {};
+class Stopped : public testing::TestWithParam<std::tuple<Story, Stop>> {};
 
 TEST_P(Stopped, LosesNothingAndStartsAgain) {
   const auto& [story, stop] = GetParam();
@@ -227,21 +225,59 @@ TEST_P(Stopped, LosesNothingAndStartsAgain) {
       break;
     }
     SCOPED_TRACE("stopped at " + std::to_string(stops + 1) + ", in " + story.acts[end.act]);
-    ExpectNothingLost(telling, states[end.act], states[end.act + 1], stop == Telling::Stop::kKilled);
-    EXPECT_TRUE(stop == Telling::Stop::kKilled || story.silent || end.told);
+    ExpectNothingLost(telling, states[end.act], states[end.act + 1], stop == Stop::kKilled);
+    EXPECT_TRUE(stop == Stop::kKilled || story.silent || end.told);
     telling.ExpectStartsAgain();
   }
-  EXPECT_TRUE(stops >= 1 || stop == Telling::Stop::kFullDisk);
+  EXPECT_TRUE(stops >= 1 || stop == Stop::kFullDisk);
 }
 
 INSTANTIATE_TEST_SUITE_P(Everywhere, Stopped,
                          testing::Combine(testing::ValuesIn(Stories()),
-                                          testing::Values(Telling::Stop::kKilled, Telling::Stop::kFullDisk)),
+                                          testing::Values(Stop::kKilled, Stop::kFullDisk)),
                          [](const auto& test) {
-                           const bool killed = std::get<1>(test.param) == Telling::Stop::kKilled;
+                           const bool killed = std::get<1>(test.param) == Stop::kKilled;
                            return std::string(std::get<0>(test.param).name) +
                                   (killed ? "Killed" : "FullDisk");
                          });
+
+// Whether one of the versions that are kept is the one that was.
+bool IsKept(const TemporaryFolder& folder, const std::string& name, const std::string& was) {
+  for (std::string place : {"backup/", "backup/backup/", "backup/backup/backup/"}) {
+    if (folder.Read(place + name) == was) return true;
+  }
+  return false;
+}
+
+TEST(Backup, OutlivesABuildThatIsStoppedAgainAndAgain) {
+  const TemporaryFolder folder;
+  LaySmallWorld(folder.Path());
+  std::string words = folder.Read("CONCORD.DAT");
+  for (int i = 0; i < 5; ++i) words += words;
+  folder.Write("CONCORD.DAT", words);
+  const Steps build = {"click! Form1.Command27", "run"};
+  for (const int stop : {8, 12, 6, 10, 7, 9}) {
+    EXPECT_FALSE(PlaysToItsEnd(folder.Path(), {"start"}, build, Stop::kKilled, stop));
+    EXPECT_NE(folder.Read("CONCORD.DAT"), kMissing) << stop;
+    EXPECT_NE(folder.Read("CONCORD.DAT"), words);
+    EXPECT_TRUE(IsKept(folder, "CONCORD.DAT", words)) << "stopped at " << stop;
+  }
+}
+
+// The program comes up with its own settings then, and writes them at each exit.
+TEST(Backup, OutlivesSettingsThatFellBack) {
+  const TemporaryFolder folder;
+  LaySmallWorld(folder.Path());
+  const std::string settings = folder.Read("codex.cfg");
+  const Steps leave = {"click Form1.Command1"};
+  EXPECT_FALSE(PlaysToItsEnd(folder.Path(), {"start"}, leave, Stop::kKilled, 2));
+  EXPECT_EQ(folder.Read("codex.cfg"), kMissing);
+  for (int exit = 0; exit < 6; ++exit) {
+    PlaysToItsEnd(folder.Path(), {"start"}, leave, Stop::kKilled, kNever);
+    EXPECT_NE(folder.Read("codex.cfg"), settings);
+    EXPECT_TRUE(IsKept(folder, "codex.cfg", settings)) << exit;
+  }
+}
 
 }  // namespace
 }  // namespace lectern

@@ -1,11 +1,10 @@
 // Nothing that a person wrote is lost, whatever happens while it is saved, moved or thrown away.
 #include <csignal>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "core/forms/label.h"
 #include "core/forms/rich_text_box.h"
-#include "tests/unit/child_process.h"
+#include "tests/unit/stopping.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
 
@@ -13,11 +12,6 @@ namespace lectern {
 namespace {
 
 using headless::Driver;
-using Steps = std::vector<std::string>;
-
-void Play(Driver& driver, const Steps& steps) {
-  for (const std::string& step : steps) driver.Execute(step);
-}
 
 struct Act {
   const char* name;
@@ -39,32 +33,21 @@ class KilledAtEveryOperation : public testing::TestWithParam<Act> {};
 
 TEST_P(KilledAtEveryOperation, LeavesTheOldOrTheNewInPlaceOrTheOldInTheBackup) {
   const Act& act = GetParam();
-  constexpr int kKilled = 77;
-  int status = kKilled;
   int deaths = 0;
-  for (int at = 0; status == kKilled; ++at) {
+  for (bool done = false; !done;) {
     const TemporaryFolder folder;
     folder.Write(act.file, act.before);
-    status = InChild([&] {
-      Driver driver(folder.Path(), [](const std::string&) {});
-      Play(driver, act.way);
-      int operation = 0;
-      driver.Files().before = [&](files::Operation, const std::string&) {
-        if (operation++ == at) ::_exit(kKilled);
-      };
-      Play(driver, act.act);
-    });
+    done = PlaysToItsEnd(folder.Path(), act.way, act.act, Stop::kKilled, deaths + 1);
     const std::string in_place = folder.Read(act.file);
     const std::string kept = folder.Read("backup/" + act.file);
-    if (status == kKilled) {
+    if (!done) {
       ++deaths;
       EXPECT_TRUE(in_place == act.before || in_place == act.after || kept == act.before)
-          << "killed at " << at << ": " << in_place << " and in the backup " << kept;
+          << "killed at " << deaths << ": " << in_place << " and in the backup " << kept;
     } else {
       EXPECT_EQ(in_place, act.after);
     }
   }
-  EXPECT_EQ(status, 0);
   EXPECT_GE(deaths, act.after == "(missing)" ? 1 : 2);
 }
 

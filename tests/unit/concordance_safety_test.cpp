@@ -2,11 +2,9 @@
 // before is under `backup`.
 #include <csignal>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "core/canon.h"
-#include "core/run_time_error.h"
-#include "tests/unit/child_process.h"
+#include "tests/unit/stopping.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
 
@@ -14,15 +12,9 @@ namespace lectern {
 namespace {
 
 using headless::Driver;
-using Steps = std::vector<std::string>;
 
-constexpr int kKilled = 77;
 constexpr const char* kWords =
     "\"river\",\"Genesis 1 1\"\r\n\"lamp\",\"Genesis 1 2\"\r\n\"Peace kept\",\"Jude 1 2\"\r\n";
-
-void Play(Driver& driver, const Steps& steps) {
-  for (const std::string& step : steps) driver.Execute(step);
-}
 
 struct Change {
   const char* name;
@@ -54,55 +46,38 @@ void LayOut(const TemporaryFolder& folder, const std::string& file) {
   folder.Write(file, kWords);
 }
 
-class StoppedAtEveryOperation : public testing::TestWithParam<std::tuple<Change, bool>> {};
+class StoppedAtEveryOperation : public testing::TestWithParam<std::tuple<Change, Stop>> {};
 
 TEST_P(StoppedAtEveryOperation, LeavesTheWordsInPlaceOrInTheBackup) {
-  const auto& [change, disk_is_full] = GetParam();
+  const auto& [change, stop] = GetParam();
   const TemporaryFolder folder;
-  const auto carry_out = [&](int stop_at) {
-    return InChild([&] {
-      Driver driver(folder.Path(), [](const std::string&) {});
-      Play(driver, change.way);
-      int operation = 0;
-      bool stopped = false;
-      driver.Files().before = [&](files::Operation, const std::string&) {
-        if (operation++ != stop_at) return;
-        if (!disk_is_full) ::_exit(kKilled);
-        stopped = true;
-        throw core::RunTimeError(core::ErrorNumber::kDiskFull);
-      };
-      Play(driver, change.act);
-      if (stopped) ::_exit(kKilled);
-    });
-  };
   LayOut(folder, change.file);
-  ASSERT_EQ(carry_out(-1), 0);
+  ASSERT_TRUE(PlaysToItsEnd(folder.Path(), change.way, change.act, stop, kNever));
   const std::string after = folder.Read(change.file);
   EXPECT_NE(after, kWords);
 
   int stops = 0;
-  int status = kKilled;
-  for (; status == kKilled; ++stops) {
+  for (bool done = false; !done;) {
+    ++stops;
     std::filesystem::remove_all(folder.Path() + "/backup");
     std::filesystem::remove(folder.Path() + "/concord1.dat");
     folder.Write(change.file, kWords);
     // The builders go through the whole text: it is enough to stop them in its first books and far inside.
-    status = carry_out(stops < 20 ? stops : stops * 7);
+    done = PlaysToItsEnd(folder.Path(), change.way, change.act, stop, stops < 20 ? stops : stops * 7);
     const std::string in_place = folder.Read(change.file);
     const std::string kept = folder.Read(std::string("backup/") + change.file);
     EXPECT_TRUE(in_place.starts_with(kWords) || in_place == after || kept == kWords)
         << "stopped at " << stops << ": " << in_place << " and in the backup " << kept;
   }
-  EXPECT_EQ(status, 0);
   EXPECT_GE(stops, 6);
 }
 
 INSTANTIATE_TEST_SUITE_P(Concordance, StoppedAtEveryOperation,
                          testing::Combine(testing::Values(kDeletion, kAdd, kBuild, kOnePassBuild),
-                                          testing::Bool()),
+                                          testing::Values(Stop::kKilled, Stop::kFullDisk)),
                          [](const auto& test) {
                            return std::string(std::get<0>(test.param).name) +
-                                  (std::get<1>(test.param) ? "OnAFullDisk" : "Killed");
+                                  (std::get<1>(test.param) == Stop::kFullDisk ? "OnAFullDisk" : "Killed");
                          });
 
 TEST(FullDisk, IsToldByAnAddAndByADeletionAndNoWordIsLost) {

@@ -2,12 +2,11 @@
 // has the new record whole or not at all, and a picture or palette that was there is in place, or under
 // `backup`.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "core/forms/label.h"
 #include "core/forms/list_box.h"
 #include "core/forms/picture.h"
-#include "tests/unit/child_process.h"
+#include "tests/unit/stopping.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
 
@@ -15,7 +14,6 @@ namespace lectern {
 namespace {
 
 using headless::Driver;
-using Steps = std::vector<std::string>;
 
 constexpr const char* kCatalogue = "\"river\",\"Genesis 1: 1\",\"PICTURES BY: A\"\r\n";
 constexpr const char* kPalette = "\"16776960\",255\r\n";
@@ -33,37 +31,15 @@ const Steps kSaveAsDusk = {"answer \"dusk\"", "click Form4.Command2"};
 const Steps kSaveOverRiver = {"answer \"river\"", "answer yes", "click Form4.Command2"};
 const Steps kSavePalette = {"click Form4.Command3"};
 
-void Play(Driver& driver, const Steps& steps) {
-  for (const std::string& step : steps) driver.Execute(step);
-}
-
-enum class Stop { kPowerCut, kFullDisk };
-
-// Lets a person paint and save in a process of its own, and stops it ahead of the n-th file operation of the
-// saving; whether it came to an end before.
+// Lets a person paint and save, and stops the saving ahead of its n-th file operation; whether it came to its
+// end before.
 bool Saves(const TemporaryFolder& folder, const Steps& saving, Stop stop, int n) {
-  constexpr int kStopped = 77;
-  const int status = InChild([&] {
-    Driver driver(folder.Path(), [](const std::string&) {});
-    Play(driver, kPaintARedDot);
-    bool stopped = false;
-    int left = n;
-    driver.Files().before = [&](files::Operation, const std::string&) {
-      if (--left != 0) return;
-      stopped = true;
-      if (stop == Stop::kPowerCut) ::_exit(kStopped);
-      throw core::RunTimeError(core::ErrorNumber::kDiskFull);
-    };
-    Play(driver, saving);
-    if (stopped) ::_exit(kStopped);
-  });
-  EXPECT_TRUE(status == 0 || status == kStopped) << "the program crashed";
-  return status == 0;
+  return PlaysToItsEnd(folder.Path(), kPaintARedDot, saving, stop, n);
 }
 
 // Plays the saving with a stop ahead of each operation in turn; `check` looks at what each one leaves.
 void StopAtEveryOperation(const Steps& saving, const std::function<void(const TemporaryFolder&)>& check) {
-  for (const Stop stop : {Stop::kPowerCut, Stop::kFullDisk}) {
+  for (const Stop stop : {Stop::kKilled, Stop::kFullDisk}) {
     int stops = 0;
     for (bool done = false; !done; ++stops) {
       const TemporaryFolder folder;
@@ -82,7 +58,7 @@ TEST(PaintSafety, ANewPictureStandsInTheCatalogueWhollyOrNotAtAll) {
   {
     const TemporaryFolder folder;
     LayOut(folder);
-    ASSERT_TRUE(Saves(folder, kSaveAsDusk, Stop::kPowerCut, -1));
+    ASSERT_TRUE(Saves(folder, kSaveAsDusk, Stop::kKilled, kNever));
     dusk = folder.Read("pics/dusk.JPG");
     EXPECT_EQ(dusk.size(), kPicture.size());
     EXPECT_NE(dusk, kPicture);
@@ -114,7 +90,7 @@ TEST(PaintSafety, ANewPictureStandsInTheCatalogueWhollyOrNotAtAll) {
 void ExpectReplaced(const std::string& file, const std::string& before, const Steps& saving) {
   const TemporaryFolder undisturbed;
   LayOut(undisturbed);
-  ASSERT_TRUE(Saves(undisturbed, saving, Stop::kPowerCut, -1));
+  ASSERT_TRUE(Saves(undisturbed, saving, Stop::kKilled, kNever));
   const std::string after = undisturbed.Read(file);
   EXPECT_NE(after, before);
   EXPECT_EQ(undisturbed.Read("backup/" + file), before);

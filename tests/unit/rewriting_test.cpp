@@ -2,11 +2,9 @@
 // catalogue is in place, or whole in the new file with the old one under `backup`.
 #include <array>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "core/forms/picture.h"
-#include "core/run_time_error.h"
-#include "tests/unit/child_process.h"
+#include "tests/unit/stopping.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
 
@@ -14,8 +12,6 @@ namespace lectern {
 namespace {
 
 using headless::Driver;
-
-enum class Stop { kPowerCut, kFullDisk };
 
 constexpr const char* kOldCatalogue =
     "\"river\",\"Genesis 1: 1\",\"A\"\r\n\"flock \",\"Genesis 1: 2\",\"A\"\r\n\"tent\",\"Genesis 1: "
@@ -33,26 +29,10 @@ void LayOut(const TemporaryFolder& folder) {
   folder.Write("KJV/rem/flock/here", "");
 }
 
-// Lets the keeper use a tool on the second picture in a process of its own, and stops it ahead of its n-th
-// file operation; whether it came to an end before.
+// Lets the keeper use a tool on the second picture, and stops it ahead of its n-th file operation; whether it
+// came to its end before.
 bool UsesTool(const TemporaryFolder& folder, const std::string& tool, Stop stop, int n) {
-  constexpr int kStopped = 77;
-  const int status = InChild([&] {
-    Driver driver(folder.Path(), [](const std::string&) {});
-    driver.Execute("click Form1.imgp(1)");
-    bool stopped = false;
-    int left = n;
-    driver.Files().before = [&](files::Operation, const std::string&) {
-      if (--left != 0) return;
-      stopped = true;
-      if (stop == Stop::kPowerCut) ::_exit(kStopped);
-      throw core::RunTimeError(core::ErrorNumber::kDiskFull);
-    };
-    driver.Execute("click! Form1." + tool);
-    if (stopped) ::_exit(kStopped);
-  });
-  EXPECT_TRUE(status == 0 || status == kStopped) << "the program crashed";
-  return status == 0;
+  return PlaysToItsEnd(folder.Path(), {"click Form1.imgp(1)"}, {"click! Form1." + tool}, stop, n);
 }
 
 class Rewriting : public testing::TestWithParam<std::tuple<const char*, Stop>> {};
@@ -63,7 +43,7 @@ TEST_P(Rewriting, LeavesTheCatalogueRecoverableWhereverItStops) {
   {
     const TemporaryFolder folder;
     LayOut(folder);
-    ASSERT_TRUE(UsesTool(folder, tool, stop, -1));
+    ASSERT_TRUE(UsesTool(folder, tool, stop, kNever));
     fresh = folder.Read("pics2.dat");
     EXPECT_NE(fresh, kOldCatalogue);
     EXPECT_EQ(folder.Read("pics22.dat"), "(missing)");
@@ -102,7 +82,7 @@ TEST_P(Rewriting, LeavesTheCatalogueRecoverableWhereverItStops) {
 INSTANTIATE_TEST_SUITE_P(Tools, Rewriting,
                          testing::Combine(testing::Values("Command45", "Command47", "SSCommand1",
                                                           "SSCommand2"),
-                                          testing::Values(Stop::kPowerCut, Stop::kFullDisk)));
+                                          testing::Values(Stop::kKilled, Stop::kFullDisk)));
 
 }  // namespace
 }  // namespace lectern
