@@ -48,16 +48,22 @@ std::string HouseRules::BrokenByScratch() const {
   return "";
 }
 
-// A question of the game that could not be asked leaves its file open until the next chapter is loaded.
+// A question of the game that could not be asked leaves its file open until the next chapter is loaded, and
+// so does the older builder of the concordance.
 std::string HouseRules::BrokenBySlots(std::string_view command, const Lines& printed) {
   if (ControlOf(command) == "Form1.Command29" && Printed(printed, "message")) question_left_open_ = true;
+  if (ControlOf(command) == "Form1.Command13") builder_left_open_ = true;
   constexpr int kHighest = 255;
   for (forms::Window* window : driver_.Program().windows.All()) {
     for (int slot = 1; slot <= kHighest; ++slot) {
       const bool open = window->Slots().IsOpen(slot);
-      const bool may_be = slot == 1 && window->Name() == "Form1" && question_left_open_;
-      if (open && !may_be) return window->Name() + " has left file " + std::to_string(slot) + " open";
-      if (!open && may_be) question_left_open_ = false;
+      bool* left_open = nullptr;
+      if (window->Name() == "Form1" && slot == 1) left_open = &question_left_open_;
+      if (window->Name() == "Form1" && slot == 2) left_open = &builder_left_open_;
+      if (open && (left_open == nullptr || !*left_open)) {
+        return window->Name() + " has left file " + std::to_string(slot) + " open";
+      }
+      if (left_open != nullptr) *left_open = open;
     }
   }
   return "";
@@ -158,8 +164,8 @@ std::string HouseRules::BrokenByEnd(std::string_view command, const Lines& print
   const int error = ErrorIn(printed);
   const bool ended = std::find(printed.begin(), printed.end(), "end") != printed.end();
   if (error == 0 && !ended) return "";
-  // The file that a question left open is in everybody's way.
-  if (error == kFileAlreadyOpen && question_left_open_) return "";
+  // A file that was left open is in everybody's way.
+  if (error == kFileAlreadyOpen && (question_left_open_ || builder_left_open_)) return "";
   if (error != 0 && failures_ == Failures::kAnywhere) return "";
   const std::string control = ControlOf(command);
   const auto& told = ToldFailures();

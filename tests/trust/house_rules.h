@@ -34,6 +34,7 @@ class HouseRules {
   std::string folder_;
   Failures failures_;
   bool question_left_open_ = false;
+  bool builder_left_open_ = false;
 };
 
 }  // namespace lectern

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/canon.h"
 #include "core/forms/bitmap.h"
 #include "core/forms/picture.h"
 
@@ -110,6 +111,14 @@ void LaySmallWorld(const std::string& folder) {
     const std::filesystem::path path = folder + "/" + name;
     std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << bytes;
+  }
+}
+
+void LayBooksToBuildFrom(const std::string& folder) {
+  constexpr std::size_t kShortName = 8;
+  for (const std::string_view book : core::kCanon) {
+    std::ofstream(folder + "/" + std::string(book.substr(0, kShortName)) + ".txt", std::ios::binary)
+        << Book({{"The river by the tent."}});
   }
 }
 

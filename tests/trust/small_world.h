@@ -14,4 +14,8 @@ std::vector<std::pair<std::string, std::string>> SmallWorld();
 // Makes the folder hold just that.
 void LaySmallWorld(const std::string& folder);
 
+// Puts all 66 books beside it, where the older builder of the concordance looks for them and gives up at the
+// first that is missing.
+void LayBooksToBuildFrom(const std::string& folder);
+
 }  // namespace lectern

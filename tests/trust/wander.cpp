@@ -50,6 +50,7 @@ class Walk {
   bool Begin() {
     driver_.reset();
     lectern::LaySmallWorld(folder_);
+    if (++sessions_ % 2 == 0) lectern::LayBooksToBuildFrom(folder_);
     session_ = 0;
     done_.clear();
     driver_ = std::make_unique<Driver>(folder_, [this](const std::string& line) {
@@ -78,7 +79,8 @@ class Walk {
   WanderingPerson person_;
   Failures failures_;
   bool watched_;
-  int session_ = 0;
+  int sessions_ = 0;
+  int session_ = 0;  // actions of this one
   std::deque<std::string> done_;
   std::vector<std::string> printed_;
   std::unique_ptr<Driver> driver_;
