@@ -34,14 +34,17 @@ void ChapterStore::lblc_Change() {
     // Opened for appending, so that lines a broken run left there come first.
     bool written = trap([&] { slots.OpenForAppending(kScratch, scratch); });
     std::string held;
-    CopyChapter(trap, held);
+    const bool found = CopyChapter(trap, held);
     trap([&] { slots.Close(kBook); });
     // ODDITY(next-heading): the line in hand is written once more, whatever it is. It is the last line of
     // the book, or the heading of the next chapter, with which every other chapter ends; it is meant.
     written = trap([&] { slots.PrintLine(kScratch, held); }) && written;
     written = trap([&] { slots.Close(kScratch); }) && written;
     // What a full disk cut off is no chapter: the pane keeps its text.
-    if (written) trap([&] { reader.rtxt.LoadFile(scratch); });
+    if (written && trap([&] { reader.rtxt.LoadFile(scratch); })) {
+      const forms::Label& version = reader.optk.Value ? reader.Label34 : reader.Label35;
+      shown_ = {reader.lblbk.Caption(), found ? reader.lblc.Caption() : "", version.Caption()};
+    }
     trap([&] { reader.form.Files().Delete(scratch); });
   }
   trap([&] { reader.LBLMRK(2).Caption = reader.lblc.Caption; });
@@ -49,9 +52,9 @@ void ChapterStore::lblc_Change() {
   trap([&] { reader.SeekChapterPicture(); });
 }
 
-// Copies the chapter from the book to the scratch file, all but its last line, and leaves the line in hand.
-// A failure closes the book, and with it ends the loop.
-void ChapterStore::CopyChapter(const Trapping& trap, std::string& held) {
+// Copies the chapter from the book to the scratch file, all but its last line, and leaves the line in hand;
+// whether the book has it. A failure closes the book, and with it ends the loop.
+bool ChapterStore::CopyChapter(const Trapping& trap, std::string& held) {
   files::FileSlots& slots = reader.form.Slots();
   int counter = 0;  // 16 bits
   bool done = false;
@@ -74,6 +77,7 @@ void ChapterStore::CopyChapter(const Trapping& trap, std::string& held) {
     done = true;
   }
   held = line;
+  return done;
 }
 
 void ChapterStore::optk_Click() { ChangeVersion("King James Version", "\\KJV"); }

@@ -14,19 +14,30 @@
 
 namespace lectern::core {
 
+// Where the text in the pane was taken from. A load that failed left the text before in the pane, and the
+// labels ahead of it.
+struct ShownChapter {
+  std::string book;     // as displayed
+  std::string chapter;  // "" where the book has no such chapter: its last line then stands alone
+  std::string version;  // "KJV"
+};
+
 class ChapterStore {
  public:
   explicit ChapterStore(Reader& the_reader);
+
+  const ShownChapter& Shown() const { return shown_; }
 
  private:
   void lblc_Change();
   void optk_Click();
   void optn_Click();
 
-  void CopyChapter(const Trapping& trap, std::string& held);
+  bool CopyChapter(const Trapping& trap, std::string& held);
   void ChangeVersion(const std::string& name, const std::string& folder);
 
   Reader& reader;
+  ShownChapter shown_;
 };
 
 }  // namespace lectern::core

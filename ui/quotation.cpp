@@ -52,7 +52,7 @@ std::vector<Line> SelectedLines(std::string_view text, std::size_t from, std::si
 }  // namespace
 
 std::string Quotation(std::string_view text, std::size_t start, std::size_t length,
-                      const ShownChapter& place) {
+                      const core::ShownChapter& place) {
   const std::size_t from = text::ByteOf(text, start + 1);
   const std::size_t to = text::ByteOf(text, start + length + 1);
   std::string quotation;
@@ -68,15 +68,17 @@ std::string Quotation(std::string_view text, std::size_t start, std::size_t leng
     if (first_verse.empty()) first_verse = line.number;
     last_verse = line.number;
   }
-  ((quotation += " (") += place.book) += ' ';
-  quotation += place.chapter;
-  if (!first_verse.empty()) (quotation += ':') += first_verse;
-  if (last_verse != first_verse) (quotation += '-') += last_verse;
+  (quotation += " (") += place.book;
+  if (!place.chapter.empty()) {
+    (quotation += ' ') += place.chapter;
+    if (!first_verse.empty()) (quotation += ':') += first_verse;
+    if (last_verse != first_verse) (quotation += '-') += last_verse;
+  }
   if (!place.version.empty()) (quotation += ", ") += place.version;
   return quotation += ')';
 }
 
-std::string QuotationFrom(const forms::RichTextBox& pane, const ShownChapter& place) {
+std::string QuotationFrom(const forms::RichTextBox& pane, const core::ShownChapter& place) {
   return Quotation(pane.Text(), static_cast<std::size_t>(pane.SelStart()),
                    static_cast<std::size_t>(pane.SelLength()), place);
 }

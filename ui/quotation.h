@@ -5,23 +5,18 @@
 #include <string>
 #include <string_view>
 
+#include "core/chapter_store.h"
 #include "core/forms/rich_text_box.h"
 
 namespace lectern::ui {
 
-struct ShownChapter {
-  std::string_view book;
-  std::string_view chapter;
-  std::string_view version;
-};
-
 // The selection of a pane that shows the chapter. A verse by itself goes without its number; several keep
-// theirs and a line each. The heading of the chapter that follows is left out. "" where no words are
-// selected.
-std::string QuotationFrom(const forms::RichTextBox& pane, const ShownChapter& place);
+// theirs and a line each. The heading of the chapter that follows is left out. Of a line whose chapter is not
+// known only the book is told. "" where no words are selected.
+std::string QuotationFrom(const forms::RichTextBox& pane, const core::ShownChapter& place);
 
 // The same for `length` characters of a chapter's text from `start` on, which counts from 0.
 std::string Quotation(std::string_view text, std::size_t start, std::size_t length,
-                      const ShownChapter& place);
+                      const core::ShownChapter& place);
 
 }  // namespace lectern::ui

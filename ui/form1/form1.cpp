@@ -49,10 +49,7 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
   reader.ExtractBookPictures = [this] { pictures.ExtractBookPictures(); };
   reader.FillPictureLists = [this] { pictures.FillPictureLists(); };
   reader.SeekChapterPicture = [this] { pictures.SeekChapterPicture(); };
-  reader.rtxt.Quote = [this] {
-    const forms::Label& version = reader.optk.Value ? reader.Label34 : reader.Label35;
-    return QuotationFrom(reader.rtxt, {reader.lblbk.Caption(), reader.lblc.Caption(), version.Caption()});
-  };
+  reader.rtxt.Quote = [this] { return QuotationFrom(reader.rtxt, chapter_store.Shown()); };
   routines["ConvertPicsDat"] = [this](const std::string&) { old_catalogue.ConvertPicsDat(); };
   routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue.ShowPicsDatPicture(); };
   routines["ListChapterPictures"] = [this](const std::string&) { older_list.ListChapterPictures(); };
