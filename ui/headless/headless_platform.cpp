@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cmath>
+#include <ctime>
 #include <utility>
 
 #include "core/forms/window.h"
@@ -51,10 +52,11 @@ void HeadlessPlatform::Beep() { event_("beep"); }
 
 core::Date HeadlessPlatform::Today() {
   if (date) return *date;
-  const auto days = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
-  const std::chrono::year_month_day today{days};
-  return {static_cast<int>(today.year()), static_cast<int>(static_cast<unsigned>(today.month())),
-          static_cast<int>(static_cast<unsigned>(today.day()))};
+  const std::time_t now = std::time(nullptr);
+  std::tm today{};
+  ::localtime_r(&now, &today);
+  constexpr int kFirstYear = 1900;
+  return {today.tm_year + kFirstYear, today.tm_mon + 1, today.tm_mday};
 }
 
 void HeadlessPlatform::SeedRandom() {
