@@ -1,12 +1,15 @@
 // Runs a fuzz target for a bounded time where no coverage-guided fuzzer is at hand: texts put together from
 // the pieces that the target names, and changed by chance. The seed is fixed, so that a fault comes again;
-// an argument takes another number of runs, a second one another seed. Built with a fuzzer of its own, the
+// an argument takes another number of runs, a second one another seed, a third one a file that keeps the
+// input in hand. An input that takes a minute hangs, and ends the run. Built with a fuzzer of its own, the
 // target alone is enough.
 #include <cstdint>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
 #include <random>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
@@ -30,6 +33,9 @@ int main(int count, char** arguments) {
     for (std::size_t changes = below(4); changes > 0 && !input.empty(); --changes) {
       input[below(input.size())] = static_cast<char>(below(256));
     }
+    if (count > 3) std::ofstream(arguments[3], std::ios::binary) << input;
+    constexpr unsigned kLongest = 60;  // seconds
+    ::alarm(kLongest);
     LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
   }
   std::cout << runs << " inputs taken\n";

@@ -1,6 +1,7 @@
 #include "ui/headless/values.h"
 
 #include <charconv>
+#include <cmath>
 
 #include "core/text/characters.h"
 #include "core/text/letter_case.h"
@@ -141,6 +142,7 @@ std::optional<Number> Parsed(const Word& word) {
   const char* const last = word.text.data() + word.text.size();
   const auto [end, failure] = std::from_chars(word.text.data(), last, number);
   if (word.quoted || failure != std::errc{} || end != last) return std::nullopt;
+  if (!std::isfinite(static_cast<double>(number))) return std::nullopt;  // "inf" and "nan" are none
   return number;
 }
 
