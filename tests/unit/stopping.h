@@ -86,10 +86,10 @@ inline void Play(headless::Driver& driver, const Steps& steps) {
 
 enum class Stop { kKilled, kFullDisk };
 
-// Lets a person come to an act and carry it out, in a process of its own, and stops the act ahead of its n-th
-// file operation, counted from 1; whether it came to its end before.
+// Lets a person come to an act and carry it out, and stops the act ahead of its n-th file operation, counted
+// from 1; whether it came to its end before. What is to be killed runs in a process of its own.
 inline bool PlaysToItsEnd(const std::string& folder, const Steps& way, const Steps& act, Stop stop, int n) {
-  const int status = InChild([&] {
+  const auto play = [&] {
     headless::Driver driver(folder, [](const std::string&) {});
     Play(driver, way);
     bool failed = false;
@@ -97,7 +97,8 @@ inline bool PlaysToItsEnd(const std::string& folder, const Steps& way, const Ste
     if (stop == Stop::kFullDisk) FailAt(driver.Files(), n, failed);
     Play(driver, act);
     return failed ? kStopped : 0;
-  });
+  };
+  const int status = stop == Stop::kKilled ? InChild(play) : play();
   EXPECT_TRUE(status == 0 || status == kStopped) << "the program crashed";
   return status == 0;
 }

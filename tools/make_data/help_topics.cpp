@@ -39,7 +39,7 @@ std::string Marked(std::string_view text) {
 }
 
 // Puts the paragraphs of a topic together from its lines.
-class Topic {
+class RichTopic {
  public:
   void Take(std::string_view line) {
     if (line.empty()) {
@@ -82,7 +82,7 @@ class Topic {
 }  // namespace
 
 std::string RichTextOf(std::string_view source) {
-  Topic topic;
+  RichTopic topic;
   files::RecordReader lines(source);
   while (!lines.AtEnd()) topic.Take(lines.Line());
   return topic.Finish();

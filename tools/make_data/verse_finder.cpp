@@ -19,7 +19,7 @@ std::string Folded(std::string_view words) {
   return folded;
 }
 
-bool IsLetter(char c) { return c >= 'a' && c <= 'z'; }
+bool IsSmallLetter(char c) { return c >= 'a' && c <= 'z'; }
 
 enum class Fit { kBeginning, kWhole };
 
@@ -28,8 +28,8 @@ bool Uses(const std::string& verse, const std::string& sought, Fit fit) {
   for (std::size_t at = verse.find(sought); at != std::string::npos; at = verse.find(sought, at + 1)) {
     std::size_t end = at + sought.size();
     if (end < verse.size() && verse[end] == 's') ++end;
-    const bool ends = end == verse.size() || !IsLetter(verse[end]);
-    if ((at == 0 || !IsLetter(verse[at - 1])) && (fit == Fit::kBeginning || ends)) return true;
+    const bool ends = end == verse.size() || !IsSmallLetter(verse[end]);
+    if ((at == 0 || !IsSmallLetter(verse[at - 1])) && (fit == Fit::kBeginning || ends)) return true;
   }
   return false;
 }
