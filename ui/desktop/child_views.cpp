@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ui/desktop/control_view.h"
+#include "ui/desktop/reading_order.h"
 #include "ui/desktop/view_factory.h"
 
 namespace lectern::desktop {
@@ -89,27 +90,20 @@ void ChildViews::Stack() {
 }
 
 void ChildViews::AppendInTabOrder(std::vector<ControlView*>& order) const {
-  std::vector<ControlView*> seen;
+  // Only what takes the focus counts, or holds what does: a figure behind it all would join everything.
+  std::vector<std::vector<ControlView*>> stops;
+  std::vector<QRect> places;
   for (const auto& view : views_) {
-    if (view->IsSeen()) seen.push_back(view.get());
+    if (!view->IsSeen()) continue;
+    std::vector<ControlView*> stop;
+    if ((view->Widget()->focusPolicy() & Qt::TabFocus) != 0) stop.push_back(view.get());
+    if (const ChildViews* inner = view->Children()) inner->AppendInTabOrder(stop);
+    if (stop.empty()) continue;
+    stops.push_back(std::move(stop));
+    places.push_back(view->Place());
   }
-  const auto top = [](const ControlView* view) { return view->Place().top(); };
-  std::stable_sort(seen.begin(), seen.end(),
-                   [&](const ControlView* a, const ControlView* b) { return top(a) < top(b); });
-  // A line reaches to the middle of its first control.
-  for (auto line = seen.begin(); line != seen.end();) {
-    const int reach = (*line)->Place().center().y();
-    const auto end =
-        std::find_if(line, seen.end(), [&](const ControlView* view) { return top(view) > reach; });
-    std::stable_sort(line, end, [](const ControlView* a, const ControlView* b) {
-      return a->Place().left() < b->Place().left();
-    });
-    line = end;
-  }
-  for (ControlView* view : seen) {
-    if ((view->Widget()->focusPolicy() & Qt::TabFocus) != 0) order.push_back(view);
-    if (const ChildViews* inner = view->Children()) inner->AppendInTabOrder(order);
-  }
+  for (const std::size_t i : ReadingOrder(places))
+    order.insert(order.end(), stops[i].begin(), stops[i].end());
 }
 
 }  // namespace lectern::desktop

@@ -24,6 +24,7 @@ class MenuBarView {
 
  private:
   class Entry;
+  class Letters;
   void AddEntries(forms::Container& from, WindowView& view, QWidget& to);
 
   QMenuBar* bar_;
