@@ -28,7 +28,7 @@ class SampleWindow : public forms::Window {
  public:
   explicit SampleWindow(forms::Services services) : Window(services, "Sample", "Every kind of control") {
     constexpr double kPixel = forms::kTwipsPerPixel;
-    Width = 860 * kPixel + forms::kFrameWidth;
+    Width = 790 * kPixel + forms::kFrameWidth;
     Height = 600 * kPixel + forms::kFrameHeight + forms::kMenuBarHeight;
     const auto place = [](forms::PlacedControl& control, double left, double top, double width,
                           double height) {
@@ -42,29 +42,29 @@ class SampleWindow : public forms::Window {
     place(page_box, 10, 40, 250, 70);
     place(command, 10, 120, 110, 28);
     place(search, 130, 120, 130, 28);
-    place(option, 10, 155, 110, 22);
-    place(bare_option, 130, 155, 20, 22);
-    place(option_text, 152, 157, 108, 20);
+    place(option, 10, 158, 110, 22);
+    place(bare_option, 130, 158, 20, 22);
+    place(option_text, 152, 160, 108, 20);
     place(combo, 10, 185, 250, 26);
     place(bar, 10, 220, 250, 22);
     place(progress, 10, 250, 250, 16);
-    place(list, 280, 10, 180, 180);
-    place(files, 280, 200, 180, 66);
-    place(folders, 470, 10, 180, 180);
-    place(drives, 470, 200, 180, 26);
-    place(image, 670, 10, 80, 60);
-    place(clickable_image, 760, 10, 80, 60);
-    place(shape, 670, 80, 40, 40);
-    place(swatch_label, 680, 90, 30, 20);
-    place(line, 720, 100, 120, 0);
-    place(frame, 670, 130, 180, 136);
+    place(list, 280, 10, 145, 180);
+    place(files, 280, 200, 145, 66);
+    place(folders, 435, 10, 145, 180);
+    place(drives, 435, 200, 145, 26);
+    place(image, 600, 10, 80, 60);
+    place(clickable_image, 690, 10, 80, 60);
+    place(shape, 600, 80, 40, 40);
+    place(swatch_label, 610, 90, 30, 20);
+    place(line, 650, 100, 120, 0);
+    place(frame, 600, 130, 180, 136);
     place(in_frame, 10, 30, 160, 20);
     place(ss_option, 10, 56, 100, 22);
     place(ss_option2, 10, 80, 100, 22);
     place(ss_command, 10, 104, 100, 26);
     place(canvas, 10, 280, 250, 200);
-    place(page, 280, 280, 280, 200);
-    place(sheet, 570, 280, 280, 200);
+    place(page, 280, 280, 245, 200);
+    place(sheet, 535, 280, 245, 200);
     place(panel, 300, 250, 300, 160);
     place(cancel, 180, 120, 100, 28);
     place(in_panel, 10, 10, 200, 24);

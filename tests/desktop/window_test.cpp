@@ -20,7 +20,7 @@ TEST_F(Stage, EveryKindOfControlInReachHasAWidget) {
     const auto* const widget = view->Frame()->findChild<QWidget*>(name);
     EXPECT_EQ(widget != nullptr && widget->isVisible(), is_seen) << name.toStdString();
   }
-  EXPECT_EQ(view->Face().size(), QSize(860, 600));
+  EXPECT_EQ(view->Face().size(), QSize(790, 600));
   EXPECT_EQ(view->Frame()->height(), 600 + Find<QMenuBar>("")->height());
 }
 

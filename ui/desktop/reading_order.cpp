@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace lectern::desktop {
 
@@ -18,13 +19,20 @@ class Order {
       found.insert(found.end(), group.begin(), group.end());
       return;
     }
-    for (const Along along : {Along::kDown, Along::kAcross}) {
-      const std::size_t before = SortedUpToGap(group, along);
-      if (before == group.size()) continue;
-      const auto cut = group.begin() + static_cast<std::ptrdiff_t>(before);
-      Append({group.begin(), cut});
-      return Append({cut, group.end()});
-    }
+    const auto [between_lines, lines_before] = SortedUpToGap(group, Along::kDown);
+    const auto [between_columns, columns_before] = SortedUpToGap(group, Along::kAcross);
+    if (between_lines == 0 && between_columns == 0) return TakeHighest(std::move(group));
+    const bool is_across = between_columns > between_lines;
+    if (!is_across) SortedUpToGap(group, Along::kDown);
+    const auto cut = group.begin() + (is_across ? columns_before : lines_before);
+    Append({group.begin(), cut});
+    Append({cut, group.end()});
+  }
+
+  std::vector<std::size_t> found;
+
+ private:
+  void TakeHighest(std::vector<std::size_t> group) {
     const auto highest = std::min_element(group.begin(), group.end(), [this](std::size_t a, std::size_t b) {
       return std::pair(places_[a].top(), places_[a].left()) < std::pair(places_[b].top(), places_[b].left());
     });
@@ -33,11 +41,8 @@ class Order {
     Append(std::move(group));
   }
 
-  std::vector<std::size_t> found;
-
- private:
-  // Sorts the group, and tells how many stand before the widest gap that no place reaches into.
-  std::size_t SortedUpToGap(std::vector<std::size_t>& group, Along along) const {
+  // Sorts the group; the widest gap that no place reaches into, and how many stand before it.
+  std::pair<int, std::ptrdiff_t> SortedUpToGap(std::vector<std::size_t>& group, Along along) const {
     const auto begin = [&](std::size_t i) {
       return along == Along::kDown ? places_[i].top() : places_[i].left();
     };
@@ -46,18 +51,15 @@ class Order {
     };
     std::stable_sort(group.begin(), group.end(),
                      [&](std::size_t a, std::size_t b) { return begin(a) < begin(b); });
-    std::size_t before = group.size();
-    int widest = 0;
+    std::pair<int, std::ptrdiff_t> widest{0, 0};
     int reach = end(group.front());
     for (std::size_t i = 1; i < group.size(); ++i) {
-      const int gap = begin(group[i]) - reach;
-      if (gap > widest) {
-        before = i;
-        widest = gap;
+      if (const int gap = begin(group[i]) - reach; gap > widest.first) {
+        widest = {gap, static_cast<std::ptrdiff_t>(i)};
       }
       reach = std::max(reach, end(group[i]));
     }
-    return before;
+    return widest;
   }
 
   const std::vector<QRect>& places_;

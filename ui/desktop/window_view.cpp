@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QScreen>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "core/forms/buttons.h"
 #include "ui/desktop/child_views.h"
 #include "ui/desktop/control_view.h"
+#include "ui/desktop/fitted_face.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/menu_views.h"
 #include "ui/desktop/pictures.h"
@@ -19,6 +21,9 @@
 namespace lectern::desktop {
 
 namespace {
+
+// What the desktop puts around a window, at most: borders and a title.
+constexpr QSize kDecoration(8, 36);
 
 int ToPixels(double twips) { return static_cast<int>(std::lround(twips / forms::kTwipsPerPixel)); }
 
@@ -116,8 +121,8 @@ void WindowView::TakeFocus() {
 void WindowView::Build() {
   frame_ = std::make_unique<FrameWidget>(*this);
   frame_->setObjectName(ToQString(window_.Name()));
-  face_ = new QWidget(frame_.get());
-  face_->setAutoFillBackground(true);
+  fitted_ = std::make_unique<FittedFace>(*frame_);
+  face_ = &fitted_->Face();
   if (window_.HasMenuBar()) menu_bar_ = std::make_unique<MenuBarView>(window_, *this, *frame_);
   ApplySize();
   children_ = std::make_unique<ChildViews>(window_, *this, *face_);
@@ -133,23 +138,43 @@ QWidget& WindowView::Face() {
   return *face_;
 }
 
+// What the controls take up of the client area, whether they can be seen by now or not. A dot is only kept
+// there.
+QRect WindowView::Covered(const QSize& client) const {
+  const QRect all(QPoint(0, 0), client);
+  QRect covered;
+  for (const forms::Control* child : window_.Children()) {
+    const auto* const control = dynamic_cast<const forms::PlacedControl*>(child);
+    if (control == nullptr) continue;
+    const QRect place(ToPixels(control->Left), ToPixels(control->Top), ToPixels(control->Width),
+                      ToPixels(control->Height));
+    if (place.width() > 1 && place.height() > 1) covered |= place & all;
+  }
+  return covered;
+}
+
 // Around the client area, which is what the window's size means; the menu bar takes its height above it.
 void WindowView::ApplySize() {
   const QSize client(ToPixels(window_.ClientWidth()), ToPixels(window_.ClientHeight()));
   const int above = menu_bar_ ? menu_bar_->Place(client.width()) : 0;
-  const QSize size = client + QSize(0, above);
-  if (frame_->size() == size && face_->size() == client) return;
-  frame_->setFixedSize(size);
-  face_->setGeometry(0, above, client.width(), client.height());
-  if (children_) children_->MarkStale();
+  const QSize room = frame_->screen()->availableSize() - kDecoration;
+  const bool resized = face_->size() != client;
+  const QSize size = fitted_->Place(client, Covered(client), above, room);
+  if (frame_->size() != size) frame_->setFixedSize(size);
+  if (resized && children_) children_->MarkStale();
 }
 
-// Only when the program moves the window: where a person has put it, it stays.
+// Only when the program moves the window: where a person has put it, it stays. Where it takes up all that
+// there is, it begins where the room does.
 void WindowView::ApplyPlace() {
   const std::pair<double, double> wanted{window_.Left, window_.Top};
   if (place_ == wanted) return;
   place_ = wanted;
-  frame_->move(std::max(ToPixels(wanted.first), 0), std::max(ToPixels(wanted.second), 0));
+  const QRect room = frame_->screen()->availableGeometry();
+  const QSize left_over = room.size() - kDecoration - frame_->size();
+  const int left = left_over.width() > 0 ? std::max(ToPixels(wanted.first), 0) : room.left();
+  const int top = left_over.height() > 0 ? std::max(ToPixels(wanted.second), 0) : room.top();
+  frame_->move(left, top);
 }
 
 void WindowView::ApplyPointer() {
@@ -215,7 +240,9 @@ void WindowView::FocusIsWanted() {
 }
 
 void WindowView::FocusArrived() {
-  if (!abandoned_ && focus_) focus_->Arrived();
+  if (abandoned_ || !focus_) return;
+  if (QWidget* const focus = frame_->focusWidget()) fitted_->BringIntoSight(*focus);
+  focus_->Arrived();
 }
 
 forms::Control* WindowView::ButtonWith(int letter) const {

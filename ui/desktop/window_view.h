@@ -21,6 +21,7 @@ namespace lectern::desktop {
 
 class ChildViews;
 class ControlView;
+class FittedFace;
 class MenuBarView;
 class WindowFocus;
 
@@ -76,6 +77,7 @@ class WindowView : public QObject, public LayerView {
  private:
   class FrameWidget;
   void Build();
+  QRect Covered(const QSize& client) const;
   void ApplySize();
   void ApplyPlace();
   void ApplyPointer();
@@ -87,6 +89,7 @@ class WindowView : public QObject, public LayerView {
   forms::Window& window_;
   std::function<void(forms::Window&)> close_;
   std::unique_ptr<QWidget> frame_;
+  std::unique_ptr<FittedFace> fitted_;
   QWidget* face_ = nullptr;
   std::unique_ptr<MenuBarView> menu_bar_;
   std::unique_ptr<ChildViews> children_;
