@@ -21,7 +21,8 @@ OldCatalogue::OldCatalogue(PictureCatalogue& the_catalogue, Viewer& the_viewer)
     : catalogue(the_catalogue),
       viewer(the_viewer),
       reader(catalogue.reader),
-      Command38(reader.form, "Command38", {.caption = "Command38"}) {
+      Command38(reader.form, "Command38",
+                {.caption = "Command38", .name = "Show the chapter's picture of the old catalogue"}) {
   Command38.Click = [this] { Command38_Click(); };
 }
 

@@ -20,7 +20,19 @@ Palette::Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
                  SaveSlots& the_slots)
     : Picture1(the_form, "Picture1"),
       clrbox(Picture1, "clrbox", kSwatches),
-      clrboxs(Picture1, "clrboxs", kSwatches),
+      clrboxs(Picture1, "clrboxs",
+              {{.caption = "x", .name = "Colour 1"},  {.caption = " x", .name = "Colour 2"},
+               {.caption = "X", .name = "Colour 3"},  {.caption = "X", .name = "Colour 4"},
+               {.caption = "X", .name = "Colour 5"},  {.caption = "X", .name = "Colour 6"},
+               {.caption = "X", .name = "Colour 7"},  {.caption = "X", .name = "Colour 8"},
+               {.caption = "X", .name = "Colour 9"},  {.caption = "X", .name = "Colour 10"},
+               {.caption = "X", .name = "Colour 11"}, {.caption = "X", .name = "Colour 12"},
+               {.caption = "X", .name = "Colour 13"}, {.caption = "X", .name = "Colour 14"},
+               {.caption = "X", .name = "Colour 15"}, {.caption = "X", .name = "Colour 16"},
+               {.caption = "X", .name = "Colour 17"}, {.caption = "X", .name = "Colour 18"},
+               {.caption = "X", .name = "Colour 19"}, {.caption = "X", .name = "Colour 20"},
+               {.caption = "X", .name = "Colour 21"}, {.caption = "X", .name = "Colour 22"},
+               {.caption = "X", .name = "Colour 23"}, {.caption = "X", .name = "Colour 24"}}),
       clr2(Picture1, "clr2", {.name = "The colour in hand", .back_color = kYellow}),
       Command4(Picture1, "Command4", {.caption = "More Colors"}),
       Command3(Picture1, "Command3", {.caption = "Save Pallette"}),
@@ -39,7 +51,6 @@ Palette::Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
     circle.BackColor = index == 0 ? kOrange : forms::kRed;
   });
   clrboxs.ForEach([this](int index, forms::Label& swatch) {
-    swatch.Caption = index == 0 ? "x" : index == 1 ? " x" : "X";
     swatch.ForeColor = clrbox(index).BackColor;
     swatch.MouseDown = [this, index](forms::MouseEvent mouse) { clrboxs_MouseDown(index, mouse); };
   });

@@ -19,7 +19,8 @@ ConcordanceEditing::ConcordanceEditing(core::Reader& the_reader, core::Panels& t
                                        core::ErrorReport& the_report, TextSearch& the_search,
                                        ResultNavigation& the_results, ConcordanceViewer& the_viewer)
     : Command21(the_panels.frmc, "Command21", {.caption = "Delete Word/Phrase"}),
-      Command18(the_panels.Frame2, "Command18", {.caption = "Command18"}),
+      Command18(the_panels.Frame2, "Command18",
+                {.caption = "Command18", .name = "Cut the file back to its true end"}),
       reader(the_reader),
       panels(the_panels),
       report(the_report),

@@ -17,7 +17,7 @@ constexpr int kTruth = -1;  // what a true comparison counts as
 
 OnePassBuilder::OnePassBuilder(core::Reader& the_reader, core::Panels& panels, TextSearch& the_search,
                                ConcordanceBuilder& the_builder)
-    : Command13(panels.Frame2, "Command13", {.caption = "Command13"}),
+    : Command13(panels.Frame2, "Command13", {.caption = "Command13", .name = "Build in one pass"}),
       books(panels.Frame2, "books"),
       pbar3(panels.Frame2, "pbar3", {.name = "Books done"}),
       reader(the_reader),

@@ -1,6 +1,7 @@
 // The whole program as a screen reader is told of it: every window, every panel, and the keeper's bench.
 #include <QAccessible>
 #include <QApplication>
+#include <QTest>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -66,7 +67,8 @@ QAccessible::Role RoleOf(const forms::Control& control) {
     case forms::Kind::kProgressBar:
       return QAccessible::ProgressBar;
     default:
-      return control.Click ? QAccessible::Button : QAccessible::NoRole;
+      return control.Click || (control.MouseDown && !control.MouseMove) ? QAccessible::Button
+                                                                        : QAccessible::NoRole;
   }
 }
 
@@ -82,13 +84,40 @@ TEST_F(Access, EveryControlOfEveryWindowHasANameAndTheRoleOfWhatItIs) {
       EXPECT_EQ(read->role(), RoleOf(*control)) << where;
       EXPECT_FALSE(read->text(QAccessible::Name).trimmed().isEmpty()) << where;
       const QWidget* const widget = SeenViewOf(control)->Widget();
-      const bool in_options = read->role() == QAccessible::RadioButton;  // one stop for all of them
-      EXPECT_TRUE(in_options || (widget->focusPolicy() & Qt::TabFocus) != 0 ||
+      // One stop for all of them.
+      const bool in_options = read->role() == QAccessible::RadioButton;
+      const bool in_row = !control->Click && control->Index() > 0 && widget->focusPolicy() == Qt::ClickFocus;
+      EXPECT_TRUE(in_options || in_row || (widget->focusPolicy() & Qt::TabFocus) != 0 ||
                   read->role() == QAccessible::ProgressBar)
           << where << " is not reached by the keyboard";
     }
   }
   EXPECT_GT(checked, 150);
+}
+
+TEST_F(Access, ThePaletteIsOneStopWhoseColoursTheArrowsGoThrough) {
+  forms::Window& window = *desktop.Program().Touch("Form4");
+  Do(window, [&window] { window.Visible = true; });
+  ASSERT_TRUE(QTest::qWaitForWindowActive(SeenViewOf(window.Find("clr2"))->Widget()->window()));
+  const auto colour = [](const forms::Control* control) {
+    return dynamic_cast<const forms::PlacedControl&>(*control).BackColor();
+  };
+  const auto circle = [&](int index) { return colour(window.Find("clrbox", index)); };
+  const auto key = [&](Qt::Key pressed) { QTest::keyClick(SeenViewOf(window.Focus())->Widget(), pressed); };
+  const forms::Colour first = circle(0);
+  ASSERT_NE(first, circle(7));
+  SeenViewOf(window.Find("clrboxs", 0))->Widget()->setFocus();
+  key(Qt::Key_Space);
+  EXPECT_EQ(colour(window.Find("clr2")), first);
+  key(Qt::Key_Right);
+  key(Qt::Key_Down);
+  EXPECT_EQ(window.Focus()->FullName(), "clrboxs(7)");
+  key(Qt::Key_Menu);  // as the mouse's right button: the colour in hand goes there
+  EXPECT_EQ(circle(7), first);
+  key(Qt::Key_Tab);
+  EXPECT_EQ(window.Focus()->FullName(), "Command4");
+  key(Qt::Key_Backtab);
+  EXPECT_EQ(window.Focus()->FullName(), "clrboxs(7)");
 }
 
 TEST_F(Access, TheWholeChapterIsThereToBeRead) {

@@ -94,7 +94,7 @@ void BenchView::Settle() {
   for (const auto& view : views_) {
     if (!view->IsSeen()) continue;
     view->Stacked();
-    if ((view->Widget()->focusPolicy() & Qt::TabFocus) != 0) order.push_back(view.get());
+    if (view->Widget()->focusPolicy() != Qt::NoFocus) order.push_back(view.get());
     if (ChildViews* inner = view->Children()) {
       inner->Stack();
       inner->AppendInTabOrder(order);

@@ -27,6 +27,8 @@ QWidget* ButtonView::Make(QWidget* parent) {
   widget_ = new QPushButton(parent);
   widget_->setAutoDefault(false);
   widget_->setDefault(button_.IsDefaultButton());
+  // A sign or a number on it leaves one guessing.
+  if (button_.HasNameOfItsOwn()) widget_->setToolTip(ToQString(button_.AccessibleName()));
   connect(widget_, &QPushButton::clicked, [this] {
     if (std::exchange(pressed_by_mouse_, false)) {
       Act([this] { button_.Click(); });

@@ -89,21 +89,23 @@ void ChildViews::Stack() {
   }
 }
 
-void ChildViews::AppendInTabOrder(std::vector<ControlView*>& order) const {
-  // Only what takes the focus counts, or holds what does: a figure behind it all would join everything.
+// Only what is used counts, by keys or by the mouse alone: a figure behind it all would join everything.
+bool ChildViews::AppendInTabOrder(std::vector<ControlView*>& order) const {
   std::vector<std::vector<ControlView*>> stops;
   std::vector<QRect> places;
   for (const auto& view : views_) {
     if (!view->IsSeen()) continue;
     std::vector<ControlView*> stop;
-    if ((view->Widget()->focusPolicy() & Qt::TabFocus) != 0) stop.push_back(view.get());
-    if (const ChildViews* inner = view->Children()) inner->AppendInTabOrder(stop);
-    if (stop.empty()) continue;
+    if (view->Widget()->focusPolicy() != Qt::NoFocus) stop.push_back(view.get());
+    const ChildViews* const inner = view->Children();
+    const bool holds_any = inner != nullptr && inner->AppendInTabOrder(stop);
+    if (stop.empty() && !holds_any && !view->Control().MouseDown) continue;
     stops.push_back(std::move(stop));
     places.push_back(view->Place());
   }
   for (const std::size_t i : ReadingOrder(places))
     order.insert(order.end(), stops[i].begin(), stops[i].end());
+  return !places.empty();
 }
 
 }  // namespace lectern::desktop

@@ -33,7 +33,7 @@ class ChildViews {
 
   // Of these and of all that lies in them.
   void Stack();
-  void AppendInTabOrder(std::vector<ControlView*>& order) const;
+  bool AppendInTabOrder(std::vector<ControlView*>& order) const;  // whether any of them is used at all
 
  private:
   QWidget& parent_;

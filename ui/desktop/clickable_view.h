@@ -1,6 +1,10 @@
 // What is pressed where it lies, without being a button: labels, images, picture boxes. One whose control has
-// a handler for clicks can be reached and pressed by the keyboard too.
+// a handler for clicks or presses can be reached and pressed by the keyboard too, with the menu key for the
+// mouse's right button. Several of a control array that tell a press from its button, such as the colours of
+// a palette, are one stop on the way of the Tab key; the arrows go through them.
 #pragma once
+
+#include <vector>
 
 #include "ui/desktop/control_view.h"
 
@@ -11,6 +15,9 @@ class ClickableView : public ControlView {
   using ControlView::ControlView;
 
  protected:
+  // Whether it can be pressed and does not follow the pointer.
+  bool IsButton() const;
+
   // Gives a new widget the focus policy that the control's handlers call for.
   void PrepareForInput(QWidget& widget);
 
@@ -21,6 +28,11 @@ class ClickableView : public ControlView {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  bool IsOneOfARow() const { return IsButton() && !Control().Click && Control().Index() >= 0; }
+  std::vector<ControlView*> Row() const;  // with this one
+  bool MoveInRow(int key);                // whether the key is one that moves
+  void StandForRow();                     // as the stop of the Tab key
+  void PressByKey(int button);
   bool Pressed(const QMouseEvent& event);
   bool Released(const QMouseEvent& event);
   bool Moved(const QMouseEvent& event);

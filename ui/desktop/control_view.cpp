@@ -144,7 +144,15 @@ QColor ControlView::GroundColor() const {
       return ToColor(figure.BackColor, parent_.palette());
     }
   }
-  return parent_.palette().color(QPalette::Window);
+  return PictureColor().value_or(parent_.palette().color(QPalette::Window));
+}
+
+// The colour of what is drawn behind the control, on the whole; none where nothing is.
+std::optional<QColor> ControlView::PictureColor() const {
+  const auto* const box = dynamic_cast<const forms::PictureBox*>(&control_.Parent());
+  if (box == nullptr || !box->Picture()) return std::nullopt;
+  const QImage behind = ImageOf(*box->Picture()).copy(Place());
+  return behind.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0);
 }
 
 void ControlView::ApplyColours() {
@@ -184,6 +192,9 @@ void ControlView::ApplyColours() {
     } else if (kind == Ground::kPanel) {
       set_text(theme.color(QPalette::WindowText));
     }
+  }
+  if (transparent && forms::IsSystemColour(fore)) {
+    if (const auto picture = PictureColor()) set_text(TextOn(*picture));
   }
   if (!forms::IsSystemColour(fore)) set_text(Legible(ToColor(fore, theme), ground));
   if (fore == forms::kButtonShadow) set_text(ShadowOn(ground));

@@ -84,6 +84,7 @@ class ControlView : public QObject, public LayerView {
  private:
   bool IsInReach() const;
   void MakeWidget();
+  std::optional<QColor> PictureColor() const;
   void ApplyPointer();
   void ApplyFont();
   void ApplyColours();

@@ -6,6 +6,7 @@
 
 #include "core/forms/buttons.h"
 #include "core/forms/window.h"
+#include "ui/desktop/design_text.h"
 #include "ui/desktop/spoken.h"
 #include "ui/desktop/style.h"
 #include "ui/desktop/text_fit.h"
@@ -74,7 +75,7 @@ class LabelView::Text : public QLabel, public Spoken {
 QWidget* LabelView::Make(QWidget* parent) {
   constexpr int kBesideText = 6;  // pixels
   text_ = new Text(parent);
-  if (label_.Click) text_->Indent(kBesideText);
+  if (IsButton()) text_->Indent(kBesideText);
   PrepareForInput(*text_);
   text_->is_echo = label_.IsEcho();
   return text_;
@@ -85,7 +86,7 @@ void LabelView::Apply() {
   if (label_.Alignment == forms::kAlignRight) alignment = Qt::AlignRight;
   if (label_.Alignment == forms::kAlignCentre) alignment = Qt::AlignHCenter;
   text_->Vanish(text_->palette().color(QPalette::WindowText).rgb() == GroundColor().rgb());
-  text_->Show(ToQString(label_.Caption), alignment);
+  text_->Show(IsDesignText(label_.Caption) ? QString() : ToQString(label_.Caption), alignment);
 }
 
 // The option without a caption that stands at the label's left side, as close as its own text would.

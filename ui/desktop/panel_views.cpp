@@ -92,7 +92,7 @@ void FrameView::Paint(QPainter& painter, const QRect& /*exposed*/) {
   PaintEdges(painter);
   const QString caption = ToQString(frame_.Caption);
   if (caption.trimmed().isEmpty()) return;
-  constexpr int kIndent = 10;
+  constexpr int kIndent = 16;
   const QFontMetrics metrics(Widget()->font());
   const QRect heading(kIndent, 2, Widget()->width() - 2 * kIndent, metrics.height());
   painter.setPen(Widget()->palette().color(QPalette::WindowText));

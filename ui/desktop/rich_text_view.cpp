@@ -16,6 +16,7 @@
 #include "ui/desktop/page_widget.h"
 #include "ui/desktop/text_positions.h"
 #include "ui/desktop/text_styles.h"
+#include "ui/desktop/theme.h"
 #include "ui/desktop/window_view.h"
 
 namespace lectern::desktop {
@@ -125,7 +126,7 @@ template <class Edit>
 QFont RichTextView<Edit>::WantedFont() const {
   constexpr double kReadingSize = 11;
   QFont font = ControlView::WantedFont();
-  if (!kIsPage) return font;
+  if (!kIsPage) return ForWriting(font);
   font.setPointSizeF((pane_.FontSize > 0 ? pane_.FontSize() : kReadingSize) * GetWindow().Enlargement());
   return font;
 }

@@ -4,6 +4,7 @@
 #include <QPlainTextEdit>
 
 #include "core/forms/rich_text.h"
+#include "ui/desktop/design_text.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/window_view.h"
 
@@ -30,7 +31,7 @@ class OneLineView : public ControlView {
   void Apply() override {
     if (box_.Text == shown_) return;
     shown_ = box_.Text;
-    edit_->setText(ToQString(shown_));
+    edit_->setText(IsDesignText(shown_) ? QString() : ToQString(shown_));
   }
 
   Ground GetGround() const override { return Ground::kField; }

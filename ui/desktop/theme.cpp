@@ -66,6 +66,12 @@ QFont OwnFont() {
   return font;
 }
 
+QFont ForWriting(QFont font) {
+  constexpr double kSmallest = 10.5;  // points
+  if (font.pointSizeF() > 0 && font.pointSizeF() < kSmallest) font.setPointSizeF(kSmallest);
+  return font;
+}
+
 QColor ToColor(forms::Colour colour, const QPalette& palette) {
   if (!forms::IsSystemColour(colour)) {
     return {forms::RedOf(colour), forms::GreenOf(colour), forms::BlueOf(colour)};

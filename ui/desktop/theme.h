@@ -18,6 +18,9 @@ void Dress();
 // it.
 QFont OwnFont();
 
+// The font, not smaller than what one can write in for an hour. Not for what is printed as it stands.
+QFont ForWriting(QFont font);
+
 // Dark ink on a light ground: the program's own colours, and what goes to a printer whatever the screen looks
 // like.
 QPalette OwnPalette();
