@@ -43,6 +43,7 @@ class ControlView : public QObject, public LayerView {
 
   // The upper left corner of its parent widget is its place from now on, wherever the control stands.
   void StandInTheCorner() { corner_ = QPoint(0, 0); }
+  bool StandsInTheCorner() const { return corner_.has_value(); }
 
   // Its widget has come to lie where it belongs, above or below its siblings.
   virtual void Stacked() {}

@@ -87,9 +87,10 @@ void FrameView::Apply() {
   Widget()->update();
 }
 
-// A heading stands in the frame's upper line, which leaves room for it.
+// A heading stands in the frame's upper line, which leaves room for it. On a page of its own the page has it.
 void FrameView::Paint(QPainter& painter, const QRect& /*exposed*/) {
   PaintEdges(painter);
+  if (StandsInTheCorner()) return;
   const QString caption = ToQString(frame_.Caption);
   if (caption.trimmed().isEmpty()) return;
   constexpr int kIndent = 16;

@@ -1,5 +1,5 @@
 // The concordance panel: words at the left, the verses of the chosen one at the right. The builder's panel
-// lies off the window.
+// lies off the window: what it does in a row above, the words at the left, how far it is at the right.
 #include "ui/form1/places.h"
 
 namespace lectern::ui {
@@ -19,20 +19,20 @@ constexpr Place kPlaces[] = {
     {"Command21",    212, 220, 182,  28},
     {"Command9",     402, 220, 182,  28},
 
-    {"Frame2",      1112, -56, 400, 480},
-    {"Command27",     16,  72, 104,  28},
-    {"Command23",    128,  72, 104,  28},
-    {"Command13",     16, 108, 104,  28},
-    {"Command18",    128, 108, 104,  28},
-    {"List2",         16, 148, 216, 220},
-    {"wrd",          248,  72, 136,  20},
-    {"lbln",         248, 100, 136,  20},
-    {"Label32",      248, 128, 136,  20},
-    {"books",        248, 156, 136,  20},
-    {"Text1",        248, 184, 136,  28},
-    {"Text2",        248, 220, 136,  28},
-    {"pbar2",         16, 384, 368,  16},
-    {"pbar3",         16, 408, 368,  16},
+    {"Frame2",      1112, -56, 916, 628},
+    {"Command27",     16,  32, 112,  28},
+    {"Command23",    136,  32, 112,  28},
+    {"Command13",    256,  32, 112,  28},
+    {"Command18",    376,  32, 112,  28},
+    {"List2",         16,  76, 352, 536},
+    {"wrd",          392,  76, 508,  28, Look::kHeading},
+    {"Label32",      392, 116, 376,  20},
+    {"lbln",         780, 116, 120,  20, Look::kRight},
+    {"pbar2",        392, 144, 508,  16},
+    {"books",        392, 176, 508,  20},
+    {"pbar3",        392, 204, 508,  16},
+    {"Text2",        392, 240, 160,  28},
+    {"Text1",        560, 240, 160,  28},
 };
 // clang-format on
 
