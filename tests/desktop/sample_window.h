@@ -83,6 +83,7 @@ class SampleWindow : public forms::Window {
   forms::Menu mark{file, "mark", {.caption = "&Mark", .value = 1}};
   forms::Menu stories{*this, "stories", {.caption = "Codex &Stories"}};
   forms::Menu flood{stories, "flood", {.caption = "Flood"}};
+  forms::Menu fall{stories, "fall", {.caption = "Fall"}};
 
   // Stands ahead of all others, so that only being shown later puts it on top of them.
   forms::Frame panel{*this, "panel", {.visible = false, .name = "Panel"}};

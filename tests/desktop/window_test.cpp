@@ -212,6 +212,17 @@ TEST_F(Stage, MenusShowTheirStateAndPress) {
   EXPECT_EQ(Log(), "open click");
 }
 
+TEST_F(Stage, AnEntryThatMarksNoLetterGetsOneThatIsFree) {
+  const auto text = [this](const char* name) {
+    return view->Frame()->findChild<QAction*>(name)->text().toStdString();
+  };
+  EXPECT_EQ(text("stories"), "Codex &Stories");
+  EXPECT_EQ(text("flood"), "&Flood");
+  EXPECT_EQ(text("fall"), "F&all");
+  Do([this] { window->flood.Caption = "No rain"; });
+  EXPECT_EQ(text("flood"), "No rain");
+}
+
 TEST_F(Stage, NothingIsDeliveredWhileAHandlerIsAtWork) {
   Do([this] {
     // As from the loop of a modal box.
