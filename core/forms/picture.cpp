@@ -4,6 +4,26 @@
 
 namespace lectern::forms {
 
+Picture::Picture(Bitmap bitmap) : content_(std::make_shared<Content>()) {
+  content_->width = bitmap.Width();
+  content_->height = bitmap.Height();
+  content_->bitmap = std::move(bitmap);
+}
+
+Picture::Picture(std::unique_ptr<const PictureSource> source) : content_(std::make_shared<Content>()) {
+  content_->width = source->Width();
+  content_->height = source->Height();
+  content_->source = std::move(source);
+}
+
+const Bitmap& Picture::operator*() const {
+  if (content_->source) {
+    content_->bitmap = content_->source->Pixels();
+    content_->source.reset();
+  }
+  return content_->bitmap;
+}
+
 std::string BmpBytes(const Bitmap& bitmap) {
   constexpr std::uint32_t kHeaders = 14 + 40;
   const auto width = static_cast<std::uint32_t>(bitmap.Width());

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <cstring>
 #include <functional>
+#include <memory>
 #include <numeric>
+#include <string>
 #include <utility>
 
 #include "core/forms/control.h"
@@ -45,6 +47,86 @@ void Copy(const QImage& image, forms::Bitmap& bitmap) {
   for (int y = 0; y < image.height(); ++y) std::memcpy(bitmap.Row(y), image.constScanLine(y), row);
 }
 
+forms::Bitmap BitmapOf(QImage image) {
+  forms::Bitmap bitmap(image.width(), image.height());
+  if (image.format() == QImage::Format_RGB32) {
+    CopyOpaque(image, bitmap);
+  } else {
+    Copy(std::move(image).convertToFormat(QImage::Format_RGBA8888), bitmap);
+  }
+  return bitmap;
+}
+
+// Reads bytes that stay where they are; what has a gigabyte of pixels and more is not read.
+class Reader {
+ public:
+  Reader(std::string_view bytes, const char* format)
+      : held_(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()))),
+        buffer_(&held_),
+        reader_(&buffer_, format) {
+    QImageReader::setAllocationLimit(kLargest);
+    reader_.setAutoDetectImageFormat(false);
+  }
+
+  static bool Allows(const QSize& size) {
+    constexpr qint64 kMostPixels = qint64{kLargest} * 1024 * 1024 / qint64{sizeof(forms::Pixel)};
+    return size.width() > 0 && size.height() > 0 && qint64{size.width()} * size.height() <= kMostPixels;
+  }
+
+  QImageReader* operator->() { return &reader_; }
+
+ private:
+  static constexpr int kLargest = 1024;  // megabytes, for a header that promises the moon
+
+  QByteArray held_;
+  QBuffer buffer_;
+  QImageReader reader_;
+};
+
+// A JPEG. Read for a small place, it takes a fraction of the time and memory of all its pixels.
+class JpegSource : public forms::PictureSource {
+ public:
+  // Null where the bytes are no picture. Whatever can make the decoder give up shows before the first row, or
+  // behind the last: a picture of one scan has at most gaps on the way, and of any other all scans are read
+  // for the first row.
+  static std::unique_ptr<const JpegSource> From(std::string_view bytes) {
+    const QSize size = Reader(bytes, kFormat)->size();
+    if (!Reader::Allows(size) || FirstRows(bytes, {size.width(), 1}).isNull()) return nullptr;
+    return std::make_unique<const JpegSource>(bytes, size);
+  }
+
+  JpegSource(std::string_view bytes, const QSize& size) : bytes_(bytes), size_(size) {}
+
+  int Width() const override { return size_.width(); }
+  int Height() const override { return size_.height(); }
+
+  forms::Bitmap Pixels() const override {
+    QImage image = Reader(bytes_, kFormat)->read();
+    // With the last row the decoder looks at what stands behind it, which is no reason to lose the others.
+    if (image.isNull()) image = FirstRows(bytes_, {size_.width(), size_.height() - 1}).copy({{}, size_});
+    return BitmapOf(std::move(image));
+  }
+
+  // Null where the pixels have to be made for it.
+  QImage FilledInto(const QSize& size) const {
+    Reader reader(bytes_, kFormat);
+    reader->setScaledSize(size);
+    return reader->read();
+  }
+
+  static constexpr const char* kFormat = "jpeg";
+
+ private:
+  static QImage FirstRows(std::string_view bytes, const QSize& size) {
+    Reader reader(bytes, kFormat);
+    reader->setClipRect({{}, size});
+    return reader->read();
+  }
+
+  std::string bytes_;
+  QSize size_;
+};
+
 bool IsOpaque(const forms::Bitmap& bitmap) {
   const std::size_t count =
       static_cast<std::size_t>(bitmap.Width()) * static_cast<std::size_t>(bitmap.Height());
@@ -67,25 +149,22 @@ forms::Picture Decode(std::string_view bytes) {
   const char* const format = FormatOf(bytes);
   if (format == nullptr) throw none;
 
-  constexpr int kLargest = 1024;  // megabytes, for a header that promises the moon
-  QImageReader::setAllocationLimit(kLargest);
-  QByteArray held = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  QBuffer buffer(&held);
-  QImageReader reader(&buffer, format);
-  reader.setAutoDetectImageFormat(false);
-  QImage image = reader.read();
-  if (image.isNull()) throw none;
-  forms::Bitmap bitmap(image.width(), image.height());
-  if (image.format() == QImage::Format_RGB32) {
-    CopyOpaque(image, bitmap);
-  } else {
-    Copy(std::move(image).convertToFormat(QImage::Format_RGBA8888), bitmap);
+  if (format == std::string_view(JpegSource::kFormat)) {
+    std::unique_ptr<const JpegSource> jpeg = JpegSource::From(bytes);
+    if (jpeg == nullptr) throw none;
+    return forms::Picture(std::move(jpeg));
   }
-  return forms::Picture(std::move(bitmap));
+  QImage image = Reader(bytes, format)->read();
+  if (image.isNull()) throw none;
+  return forms::Picture(BitmapOf(std::move(image)));
 }
 
 QPixmap Filled(const forms::Picture& picture, const QSize& size) {
-  if (!picture || picture->Empty() || size.isEmpty()) return {};
+  if (!picture || size.isEmpty()) return {};
+  if (const auto* const jpeg = dynamic_cast<const JpegSource*>(picture.Source())) {
+    if (const QImage filled = jpeg->FilledInto(size); !filled.isNull()) return QPixmap::fromImage(filled);
+  }
+  if (picture->Empty()) return {};
   QImage image = ImageOf(*picture);
   // Without an opacity to reckon with, Qt scales four times as fast.
   if (IsOpaque(*picture)) image.reinterpretAsFormat(QImage::Format_RGBX8888);
