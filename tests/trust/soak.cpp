@@ -1,7 +1,7 @@
 // A reader of many hours: actions by chance on a copy of a real data folder, and the memory of the program at
 // each tenth of them: what it holds between two sessions, which may not grow by a megabyte from the first
-// tenth on, and the most that the system gave it, which may never be more than 512 MB. That much goes by the
-// largest picture that was painted on, and so may turn up at any time.
+// tenth on, and the most that the system gave it, which may never be more than a gigabyte. That much goes by
+// the largest picture that was painted on, and so may turn up at any time.
 //
 // usage: soak DATA_FOLDER [ACTIONS [SEED]]
 //
@@ -111,8 +111,8 @@ class Soak {
   }
 
   bool IsFlat() const {
-    constexpr double kGrowth = 1;     // megabytes
-    constexpr double kCeiling = 512;  // megabytes
+    constexpr double kGrowth = 1;      // megabytes
+    constexpr double kCeiling = 1024;  // megabytes
     const bool grew = held_.back() > held_.front() + kGrowth;
     const bool passed = *std::max_element(resident_.begin(), resident_.end()) > kCeiling;
     std::cout << (grew ? "it grew\n" : passed ? "it took too much\n" : "flat\n");
