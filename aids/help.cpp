@@ -51,23 +51,23 @@ Help::Help(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons
 
   for (const StoredNote& note : kStoredNotes) {
     reader.form.routines[std::string(note.routine)] = [this, &note](const std::string&) {
-      txthelp.Text = std::string(note.text);
+      ShowText(std::string(note.text));
     };
   }
   reader.form.routines["OpenWebPage"] = [this](const std::string& address) { OpenWebPage(address); };
   ShowAbout();
 }
 
-// What a first opening shows.
+// What a first opening shows, in letters of its own; whatever takes its place comes in the window's.
 void Help::ShowAbout() {
-  forms::RichText about;
-  about.text = kAboutText;
-  forms::TextRun run;
-  run.length = kAboutText.size();  // of ASCII alone
-  run.style.bold = true;
-  run.style.size = 12;
-  about.runs.Append(run);
-  txthelp.Show(std::move(about));
+  txthelp.Text = std::string(kAboutText);
+  txthelp.FontBold = true;
+  txthelp.FontSize = 12;
+}
+
+void Help::LeaveAbout() {
+  txthelp.FontBold = false;
+  txthelp.FontSize.EditInPlace([](double& points) { points = 0; });
 }
 
 void Help::xh2_Click() { panels.frmhelp.Visible = true; }
@@ -75,6 +75,7 @@ void Help::xh2_Click() { panels.frmhelp.Visible = true; }
 void Help::lblhp_Click(int index) {
   if (index < 0 || index >= static_cast<int>(kTopicFiles.size())) return;
   txthelp.LoadFile(reader.Dir1.Path + "\\" + kTopicFiles[static_cast<std::size_t>(index)]);
+  LeaveAbout();
 }
 
 // ODDITY(help-close-unlocks): one of the two Close buttons enables the tool buttons, also where another open
@@ -101,9 +102,14 @@ bool Help::OpenWebPage(const std::string& address) {
 
 void Help::ShowNote(const std::string& text) {
   panels.frmhelp.Visible = true;
-  txthelp.Text = text;
+  ShowText(text);
 }
 
-void Help::HelpChangingBook() { txthelp.Text = std::string(StoredNoteText("HelpChangingBook")); }
+void Help::HelpChangingBook() { ShowText(std::string(StoredNoteText("HelpChangingBook"))); }
+
+void Help::ShowText(const std::string& text) {
+  txthelp.Text = text;
+  LeaveAbout();
+}
 
 }  // namespace lectern::aids

@@ -46,6 +46,8 @@ class Help {
   void webb1_Click();
   void webb2_Click();
   void ShowAbout();
+  void LeaveAbout();
+  void ShowText(const std::string& text);
 
   core::Reader& reader;
   core::Panels& panels;
