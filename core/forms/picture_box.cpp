@@ -26,6 +26,17 @@ int ToPixel(double position) {
 constexpr int kCopyPen = static_cast<int>(RasterOperation::kCopyPen);
 constexpr int kWidestPen = 32767;
 
+// The colour at a place of the bitmap, or with no place named, the bitmap itself.
+void ReadFrom(const Bitmap& bitmap, const std::vector<int>& place, Value& value) {
+  constexpr int kNoColour = -1;
+  if (place.empty()) {
+    value = forms::Picture(bitmap);
+  } else {
+    const bool inside = bitmap.Contains(place[0], place[1]);
+    value = inside ? static_cast<int>(bitmap.At(place[0], place[1]) & ~kOpaque) : kNoColour;
+  }
+}
+
 }  // namespace
 
 PictureBox::PictureBox(Container& parent, std::string name, const Design& design)
@@ -133,10 +144,14 @@ void PictureBox::WindowWasHidden() { ForgetScreen(); }
 
 bool PictureBox::ReadIndexed(std::string_view property, const std::vector<int>& arguments,
                              Value& value) const {
-  if (!text::EqualFolded(property, "Point") || arguments.size() != 2) return false;
-  constexpr int kNoColour = -1;
-  const bool inside = persistent_.Contains(arguments[0], arguments[1]);
-  value = inside ? static_cast<int>(persistent_.At(arguments[0], arguments[1]) & ~kOpaque) : kNoColour;
+  const bool image = text::EqualFolded(property, "Image") && arguments.empty();
+  const bool point = text::EqualFolded(property, "Point") && arguments.size() == 2;
+  if (!image && !point) return false;
+  if (persistent_.Empty()) {
+    ReadFrom(Blank(), arguments, value);
+  } else {
+    ReadFrom(persistent_, arguments, value);
+  }
   return true;
 }
 

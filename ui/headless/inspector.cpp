@@ -35,7 +35,7 @@ namespace {
 
 // The name of what is read by an index, as it is written everywhere.
 std::string IndexedName(const std::string& name) {
-  for (const char* known : {"List", "ListCount", "Selected", "Point"}) {
+  for (const char* known : {"List", "ListCount", "Selected", "Point", "Image"}) {
     if (text::EqualFolded(name, known)) return known;
   }
   return name;
