@@ -60,6 +60,18 @@ void WriteBooks(const Version& version, const std::string& folder, const std::st
   }
 }
 
+void WriteStandIn(const Version& version, const std::string& folder, const std::string& prefix) {
+  Version wanted = version;
+  for (std::size_t i = 0; i < core::kCanon.size(); ++i) {
+    std::ifstream book(folder + "/" + prefix + std::string(core::kCanon[i]) + ".txt");
+    std::string first_line;
+    if (std::getline(book, first_line) && first_line.find(version.chapter_remark) == std::string::npos) {
+      wanted.books[i].clear();
+    }
+  }
+  WriteBooks(wanted, folder, prefix);
+}
+
 void WriteChapterCounts(const Version& version, const std::string& data_folder) {
   // The tool reads the books from the data folder itself, by names cut to eight characters: it gets a
   // folder of its own.

@@ -20,6 +20,10 @@ std::string BookText(const Book& book, const std::string& chapter_remark);
 // hyphenated names as well.
 void WriteBooks(const Version& version, const std::string& folder, const std::string& prefix);
 
+// Writes the books of a text that stands in for a person's own. The stand-in's chapter lines say what it is:
+// a book that is there and does not say so is the person's, and stays.
+void WriteStandIn(const Version& version, const std::string& folder, const std::string& prefix);
+
 // Makes `bookschap.txt` in the data folder with the program's own tool, from the book files of the first
 // version.
 void WriteChapterCounts(const Version& version, const std::string& data_folder);

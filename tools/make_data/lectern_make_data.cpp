@@ -55,9 +55,8 @@ class Steps {
   int shown_ = 0;
 };
 
-void MakeSecondVersion(const Version& version, const std::string& folder) {
-  WriteBooks(version, folder + "/NEW", "N");
-}
+constexpr const char* kSecondFolder = "/NEW";
+constexpr const char* kSecondPrefix = "N";
 
 // The settings are the person's as soon as they are there.
 void MakeSettings(const std::string& folder) {
@@ -95,7 +94,7 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   WriteBooks(king_james, folder + "/KJV", "");
   steps.Begin("World English Bible, for the second version", 4);
   const Version world_english = ReadWorldEnglish();
-  MakeSecondVersion(world_english, folder);
+  WriteStandIn(world_english, folder + kSecondFolder, kSecondPrefix);
   steps.Begin("Chapter counts", 4);
   WriteChapterCounts(king_james, folder);
   steps.Begin("Dictionary", 4);
@@ -128,7 +127,8 @@ int Run(const std::vector<std::string>& arguments) {
   }
   if (arguments.size() == 3 && arguments[0] == "--second") {
     const Version own = ReadOwnText(arguments[1]);
-    MakeSecondVersion(own, std::filesystem::absolute(arguments[2]).lexically_normal().string());
+    const std::string folder = std::filesystem::absolute(arguments[2]).lexically_normal().string();
+    WriteBooks(own, folder + kSecondFolder, kSecondPrefix);
     Tell("The second version is in place: " + std::to_string(own.VerseCount()) + " verses.");
     return 0;
   }
