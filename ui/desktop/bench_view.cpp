@@ -81,15 +81,24 @@ void BenchView::AddPage(forms::PlacedControl& panel, QWidget& holder) {
   auto* const opener = new QPushButton("Open " + title, &holder);
   constexpr int kMargin = 16;
   opener->move(kMargin, kMargin);
+  opener->hide();
   QObject::connect(opener, &QPushButton::clicked, opener, open);
+  openers_.emplace_back(&panel, opener);
   open();
   auto* const page = new Page;
   page->setFrameShape(QFrame::NoFrame);
+  page->setFocusPolicy(Qt::NoFocus);
   page->setWidget(&holder);
   pages_->addTab(page, title);
 }
 
 void BenchView::Settle() {
+  for (const auto& [panel, opener] : openers_) {
+    const bool is_open = panel->Visible;
+    if (opener->isHidden() == is_open) continue;
+    opener->setVisible(!is_open);
+    if (!is_open) opener->setFocus(Qt::OtherFocusReason);
+  }
   std::vector<ControlView*> order;
   for (const auto& view : views_) {
     if (!view->IsSeen()) continue;

@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/forms/window.h"
@@ -16,6 +17,7 @@
 #include "ui/desktop/window_view.h"
 
 class QHBoxLayout;
+class QPushButton;
 class QTabWidget;
 
 namespace lectern::desktop {
@@ -41,6 +43,7 @@ class BenchView {
   QHBoxLayout* row_;
   QTabWidget* pages_;
   std::vector<std::unique_ptr<ControlView>> views_;
+  std::vector<std::pair<const forms::PlacedControl*, QPushButton*>> openers_;  // of the pages
 };
 
 }  // namespace lectern::desktop
