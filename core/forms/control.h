@@ -137,7 +137,8 @@ class Control : public PropertyOwner {
   bool IsDefaultButton() const { return is_default_; }
   bool IsCancelButton() const { return is_cancel_; }
 
-  // Indexed reading, such as List(3) or Point(10,12); false where the control has none of that name.
+  // What is only read, such as List(3), Point(10,12) or Sorted; false where the control has none of that
+  // name.
   virtual bool ReadIndexed(std::string_view property, const std::vector<int>& arguments, Value& value) const;
 
   // The window it lies in was hidden.

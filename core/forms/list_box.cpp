@@ -109,4 +109,12 @@ void ListBox::RemoveItem(int index) {
 
 void ListBox::Clear() { SetItems({}); }
 
+bool ListBox::ReadIndexed(std::string_view property, const std::vector<int>& arguments, Value& value) const {
+  if (!text::EqualFolded(property, "Sorted") || !arguments.empty()) {
+    return ItemList::ReadIndexed(property, arguments, value);
+  }
+  value = sorted_;
+  return true;
+}
+
 }  // namespace lectern::forms

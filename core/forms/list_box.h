@@ -53,6 +53,7 @@ class ListBox : public ItemList {
   void AddItems(const text::TextList& items);
   void RemoveItem(int index);  // error 5 where there is none
   void Clear();                // and the selection with it
+  bool ReadIndexed(std::string_view property, const std::vector<int>& arguments, Value& value) const override;
 
  private:
   bool sorted_;

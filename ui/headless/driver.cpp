@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <chrono>
 #include <optional>
 #include <utility>
 
@@ -20,6 +21,10 @@ std::string ErrorText(const RunTimeError& error) {
 }
 
 enum class Needs { kNothing, kWindows };
+
+void WantNoWords(const std::vector<Word>& words) {
+  if (!words.empty()) throw Misunderstood{"no more words are wanted"};
+}
 
 }  // namespace
 
@@ -41,14 +46,18 @@ const std::vector<Driver::Command>& Driver::Commands() {
       {"controls", Needs::kWindows, [](Driver& d, Words w) { d.inspector_.Controls(w); }},
       {"set", Needs::kWindows, {}, [](Driver& d, std::string_view rest) { d.Set(rest); }},
       {"call", Needs::kWindows, [](Driver& d, Words w) { d.Call(w); }},
-      {"tick", Needs::kWindows, [](Driver& d, Words) { d.program_.Tick(); }},
+      {"tick", Needs::kWindows,
+       [](Driver& d, Words w) {
+         WantNoWords(w);
+         d.program_.Tick();
+       }},
       {"run", Needs::kWindows, [](Driver& d, Words w) { d.RunTimers(w); }},
       {"close", Needs::kWindows,
        [](Driver& d, Words w) {
          if (w.size() != 1) throw Misunderstood{"a window is wanted"};
          d.program_.Close(FindWindow(d.program_, w[0].text));
        }},
-      {"start", Needs::kWindows, [](Driver&, Words) {}},
+      {"start", Needs::kWindows, [](Driver&, Words w) { WantNoWords(w); }},
       {"answer", Needs::kNothing, [](Driver& d, Words w) { d.LayAnswer(w); }},
       {"date", Needs::kNothing, [](Driver& d, Words w) { d.SetDate(w); }},
       {"random", Needs::kNothing, [](Driver& d, Words w) { d.LayRandom(w); }},
@@ -128,6 +137,20 @@ void Driver::TellEnd() {
   if (program_.HasEnded() && !std::exchange(told_end_, true)) print_("end");
 }
 
+namespace {
+
+// Selected(index) of a list that holds one selection: taking it off another item changes nothing.
+void SetSelected(forms::ItemList& list, int index, bool selected) {
+  if (index < 0 || index >= list.ListCount()) throw RunTimeError(core::ErrorNumber::kInvalidProperty);
+  if (selected) {
+    list.Select(index);
+  } else if (list.Selected(index)) {
+    list.Select(-1);
+  }
+}
+
+}  // namespace
+
 void Driver::Set(std::string_view rest) {
   const std::size_t sign = std::min(rest.find('='), rest.size());
   const auto left = Words(rest.substr(0, sign));
@@ -143,7 +166,7 @@ void Driver::Set(std::string_view rest) {
   if (auto* list = dynamic_cast<forms::ItemList*>(target.control);
       list != nullptr && text::EqualFolded(target.property, "Selected") && target.arguments.size() == 1 &&
       std::holds_alternative<bool>(*value)) {
-    write = [&, list] { list->Select(std::get<bool>(*value) ? target.arguments[0] : -1); };
+    write = [&, list] { SetSelected(*list, target.arguments[0], std::get<bool>(*value)); };
   } else if (forms::PropertyBase* property = target.Owner().FindProperty(target.property);
              property != nullptr && target.arguments.empty()) {
     write = [&, property] { property->Write(*value); };
@@ -172,6 +195,7 @@ void Driver::RunTimers(const std::vector<Word>& words) {
   if (!most || words.size() > 1) throw Misunderstood{"a number is wanted"};
   int ticks = 0;
   while (ticks < *most && !program_.HasEnded() && program_.Tick()) ++ticks;
+  TellEnd();  // as it happened, ahead of the count
   print_("ran " + std::to_string(ticks) + " ticks");
 }
 
@@ -201,17 +225,22 @@ void Driver::SetDate(const std::vector<Word>& words) {
     left.remove_prefix(static_cast<std::size_t>(end - left.data()));
     if (left.starts_with('-')) left.remove_prefix(1);
   }
-  if (!left.empty() || date.month < 1 || date.month > 12 || date.day < 1 || date.day > 31) throw wanted;
+  const std::chrono::year_month_day day{std::chrono::year(date.year),
+                                        std::chrono::month(static_cast<unsigned>(date.month)),
+                                        std::chrono::day(static_cast<unsigned>(date.day))};
+  if (!left.empty() || !day.ok()) throw wanted;
   platform_.date = date;
 }
 
 void Driver::LayRandom(const std::vector<Word>& words) {
+  std::vector<double> numbers;
   for (const Word& word : words) {
     const auto number = ToReal(word);
     if (!number || *number < 0 || *number >= 1)
       throw Misunderstood{"numbers from 0 up to but not 1 are wanted"};
-    platform_.random_numbers.push_back(*number);
+    numbers.push_back(*number);
   }
+  platform_.random_numbers.insert(platform_.random_numbers.end(), numbers.begin(), numbers.end());
 }
 
 void Driver::SetScreen(const std::vector<Word>& words) {

@@ -33,9 +33,9 @@ std::optional<ShownItems> ItemsOf(const forms::Control& control) {
 
 namespace {
 
-// The name of what is read by an index, as it is written everywhere.
-std::string IndexedName(const std::string& name) {
-  for (const char* known : {"List", "ListCount", "Selected", "Point", "Image"}) {
+// The name of what is read by an index or only read, as it is written everywhere.
+std::string ReadName(const std::string& name) {
+  for (const char* known : {"List", "ListCount", "Selected", "Sorted", "Point", "Image"}) {
     if (text::EqualFolded(name, known)) return known;
   }
   return name;
@@ -54,7 +54,7 @@ void Inspector::Get(const std::vector<Word>& words) {
     value = property->Read();
   } else if (target.control != nullptr &&
              target.control->ReadIndexed(target.property, target.arguments, value)) {
-    name = IndexedName(target.property);
+    name = ReadName(target.property);
   } else {
     throw Misunderstood{"no property " + words[0].text};
   }
@@ -90,6 +90,7 @@ void Inspector::PrintMenu(const forms::Container& container, int level) {
 }
 
 void Inspector::Menu(const std::vector<Word>& words) {
+  if (words.size() > 1) throw Misunderstood{"one window is wanted"};
   PrintMenu(FindWindow(program, words.empty() ? "Form1" : words[0].text), 0);
 }
 

@@ -81,9 +81,11 @@ int NamedItem(const forms::ItemList& list, const std::vector<Word>& words) {
 
 void ScriptedPerson::Click(const Target& target, const std::vector<Word>& words) {
   if (auto* list = dynamic_cast<forms::ItemList*>(target.control)) {
+    if (words.size() > 2) throw Misunderstood{"one item is wanted"};
     const int index = NamedItem(*list, words);
     Deliver(target, [&] { list->PersonPicks(index); });
   } else {
+    if (words.size() > 1) throw Misunderstood{target.Name() + " has no items to click"};
     Deliver(target, [&] { target.control->PersonClicks(); });
   }
 }
