@@ -118,6 +118,33 @@ TEST_F(Stage, APressOnACanvasPaintsWhereItFell) {
   EXPECT_EQ(shot.pixelColor(place + QPoint(30, 0)), QColor(Qt::white));  // no line between two events
 }
 
+TEST_F(Stage, ACanvasIsDrawnOnByKeys) {
+  QWidget* const canvas = Find("canvas");
+  EXPECT_TRUE(canvas->focusPolicy() & Qt::TabFocus);
+  canvas->setFocus(Qt::TabFocusReason);
+  const QPoint middle = canvas->visibleRegion().boundingRect().center();
+  const auto at = [this](const QPoint& place) {
+    const forms::Bitmap& shown = window->canvas.Shown();
+    return shown.Empty() ? forms::kWhitePixel : shown.At(place.x(), place.y());
+  };
+  const forms::Pixel ground = at(middle);
+  QTest::keyClick(canvas, Qt::Key_Right);  // the pen is up
+  QTest::keyClick(canvas, Qt::Key_Left);
+  EXPECT_EQ(at(middle), ground);
+  QTest::keyClick(canvas, Qt::Key_Space);
+  QTest::keyClick(canvas, Qt::Key_Down);
+  QTest::keyClick(canvas, Qt::Key_Right, Qt::ShiftModifier);
+  constexpr forms::Pixel kInk = 0xFF000000U;
+  for (int y = 0; y <= 8; ++y) EXPECT_EQ(at(middle + QPoint(0, y)), kInk) << y;
+  EXPECT_EQ(at(middle + QPoint(1, 8)), kInk);
+  QTest::keyClick(canvas, Qt::Key_Space);
+  QTest::keyClick(canvas, Qt::Key_Down);
+  EXPECT_EQ(at(middle + QPoint(1, 16)), ground);
+  for (int i = 0; i < 200; ++i) QTest::keyClick(canvas, Qt::Key_Up);  // stays on what is seen
+  QTest::keyClick(canvas, Qt::Key_Space);
+  EXPECT_EQ(at({middle.x() + 1, 0}), kInk);
+}
+
 // Notes what a widget is asked to paint.
 class Painted : public QObject {
  public:

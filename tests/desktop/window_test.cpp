@@ -91,13 +91,14 @@ TEST_F(Stage, WhatStoodForAMomentNeverShows) {
 TEST_F(Stage, TheKeyboardGoesThroughTheColumnsLineByLine) {
   Find("line_box")->setFocus();
   std::string order;
-  for (int i = 0; i < 12; ++i) {
+  for (int i = 0; i < 13; ++i) {
     order += view->Frame()->focusWidget()->objectName().toStdString() + " ";
     QTest::keyClick(view->Frame()->focusWidget(), Qt::Key_Tab);
   }
   // Options are one stop; the arrows go through them.
   EXPECT_EQ(order,
-            "line_box page_box command search option combo bar list folders files drives clickable_image ");
+            "line_box page_box command search option combo bar canvas list folders files drives "
+            "clickable_image ");
 }
 
 TEST_F(Stage, FocusMovesBothWays) {

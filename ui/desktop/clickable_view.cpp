@@ -35,6 +35,8 @@ void ClickableView::PrepareForInput(QWidget& widget) {
     widget.setFocusPolicy(waits ? Qt::ClickFocus : Qt::StrongFocus);
     if (auto* spoken = dynamic_cast<Spoken*>(&widget)) spoken->press = [this] { PressByKey(kLeft); };
   }
+  // The mouse draws without taking the focus from the button that was pressed last.
+  if (IsSurface()) widget.setFocusPolicy(Qt::TabFocus);
   widget.setMouseTracking(static_cast<bool>(Control().MouseMove));
 }
 
@@ -140,7 +142,7 @@ bool ClickableView::eventFilter(QObject* watched, QEvent* event) {
       case QEvent::MouseMove:
         return Moved(static_cast<const QMouseEvent&>(*event));
       case QEvent::Enter:
-        WantEveryMovement(Control().MouseDown && Control().MouseMove);
+        WantEveryMovement(IsSurface());
         break;
       case QEvent::Leave:  // comes only when no button is held down any more
         WantEveryMovement(false);

@@ -18,6 +18,9 @@ class ClickableView : public ControlView {
   // Whether it can be pressed and does not follow the pointer.
   bool IsButton() const;
 
+  // Whether it is drawn on: it can be pressed and follows the pointer.
+  bool IsSurface() const { return Control().MouseDown && Control().MouseMove; }
+
   // Gives a new widget the focus policy that the control's handlers call for.
   void PrepareForInput(QWidget& widget);
 

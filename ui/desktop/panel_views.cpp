@@ -25,6 +25,10 @@ void PaintShadow(QPainter& painter, const QRect& /*exposed*/) {
   }
 }
 
+bool IsByTab(const QFocusEvent& event) {
+  return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason;
+}
+
 }  // namespace
 
 QWidget* PanelView::Make(QWidget* parent) {
@@ -124,6 +128,31 @@ void PictureBoxView::Paint(QPainter& painter, const QRect& exposed) {
     painter.drawImage(part, ImageOf(shown), part);
   }
   if (box_.BorderStyle != 0) PaintEdges(painter);
+  pen_.Paint(painter);
+}
+
+bool PictureBoxView::HandleKey(const QKeyEvent& key) {
+  if (!IsSurface()) return PanelView::HandleKey(key);
+  return pen_.HandleKey(key, *Widget(),
+                        {[this](const QPoint& place) { DrawByKey(place, &forms::Control::PersonPresses); },
+                         [this](const QPoint& place) { DrawByKey(place, &forms::Control::PersonMoves); }});
+}
+
+void PictureBoxView::DrawByKey(const QPoint& place, void (forms::Control::*way)(const forms::MouseEvent&)) {
+  forms::MouseEvent mouse;
+  mouse.button = 1;
+  mouse.x = place.x() * forms::kTwipsPerPixel;
+  mouse.y = place.y() * forms::kTwipsPerPixel;
+  Act([this, way, mouse = InScale(mouse)] { (box_.*way)(mouse); });
+}
+
+bool PictureBoxView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == Widget() && IsSurface()) {
+    const QEvent::Type type = event->type();
+    if (type == QEvent::FocusOut || type == QEvent::MouseButtonPress) pen_.PutAway(*Widget());
+    if (type == QEvent::FocusIn && IsByTab(static_cast<const QFocusEvent&>(*event))) pen_.TakeUp(*Widget());
+  }
+  return PanelView::eventFilter(watched, event);
 }
 
 forms::MouseEvent PictureBoxView::InScale(forms::MouseEvent mouse) const {

@@ -8,6 +8,7 @@
 #include "core/forms/picture_box.h"
 #include "ui/desktop/child_views.h"
 #include "ui/desktop/clickable_view.h"
+#include "ui/desktop/key_pen.h"
 
 namespace lectern::desktop {
 
@@ -64,9 +65,14 @@ class PictureBoxView : public PanelView {
   void Paint(QPainter& painter, const QRect& exposed) override;
   forms::MouseEvent InScale(forms::MouseEvent mouse) const override;
   QCursor Pointer() const override;
+  bool HandleKey(const QKeyEvent& key) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void DrawByKey(const QPoint& place, void (forms::Control::*way)(const forms::MouseEvent&));
+
   forms::PictureBox& box_;
+  KeyPen pen_;
   forms::Picture icon_;  // of its pointer
 };
 

@@ -153,12 +153,14 @@ void WindowFocus::TakeToPanel(ControlView* panel) {
   (first == order.end() ? order.front() : *first)->Widget()->setFocus(Qt::OtherFocusReason);
 }
 
-// The largest of the controls is what the window is for.
+// The largest of the controls is what the window is for, but for a surface that only the Tab key leads to.
 void WindowFocus::TakeToMainControl() {
   std::vector<ControlView*> order;
   views_.AppendInTabOrder(order);
   const auto area = [](const ControlView* view) {
-    return view->Widget()->isEnabled() ? view->Place().width() * view->Place().height() : 0;
+    const QWidget& widget = *view->Widget();
+    const bool can_be_main = widget.isEnabled() && (widget.focusPolicy() & Qt::ClickFocus) != 0;
+    return can_be_main ? view->Place().width() * view->Place().height() : 0;
   };
   const auto largest =
       std::max_element(order.begin(), order.end(),
