@@ -1,9 +1,18 @@
 #include "paint/zoom.h"
 
+#include <cstdint>
+
 #include "core/text/numbers.h"
 #include "paint/drawings.h"
 
 namespace lectern::paint {
+
+namespace {
+
+// In whole twips; an odd one is dropped.
+std::int32_t HalfOf(double length) { return text::RoundToLong(length) / 2; }
+
+}  // namespace
 
 Zoom::Zoom(forms::Window& form, Canvas& the_canvas)
     : cmdm(form, "cmdm",
@@ -45,8 +54,8 @@ void Zoom::cmdm_Click(int index) {
   const double level = text::NumberValue(txt5.Text());
   if (index == kOut) {
     txt5.Text = text::NumberText(level - 1);
-    picbox2.Width = text::RoundToLong(picbox.Width) / 2;
-    picbox2.Height = text::RoundToLong(picbox.Height) / 2;
+    picbox2.Width = HalfOf(picbox.Width);
+    picbox2.Height = HalfOf(picbox.Height);
   } else {
     txt5.Text = text::NumberText(level + 1);
     picbox2.Width = picbox.Width + picbox.Width;

@@ -92,6 +92,7 @@ std::vector<std::string> ConcordanceWords(const Version& version, std::size_t mo
   });
   fitting.resize(std::min(most, fitting.size()));
   std::vector<std::string> words;
+  words.reserve(fitting.size());
   for (const auto& [spread, word] : fitting) words.push_back(word);
   std::sort(words.begin(), words.end());
   return words;
