@@ -147,7 +147,7 @@ void PictureBoxView::DrawByKey(const QPoint& place, void (forms::Control::*way)(
 }
 
 bool PictureBoxView::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == Widget() && IsSurface()) {
+  if (watched == Widget() && !GetWindow().IsAbandoned() && IsSurface()) {
     const QEvent::Type type = event->type();
     if (type == QEvent::FocusOut || type == QEvent::MouseButtonPress) pen_.PutAway(*Widget());
     if (type == QEvent::FocusIn && IsByTab(static_cast<const QFocusEvent&>(*event))) pen_.TakeUp(*Widget());
