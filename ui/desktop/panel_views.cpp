@@ -133,17 +133,22 @@ void PictureBoxView::Paint(QPainter& painter, const QRect& exposed) {
 
 bool PictureBoxView::HandleKey(const QKeyEvent& key) {
   if (!IsSurface()) return PanelView::HandleKey(key);
-  return pen_.HandleKey(key, *Widget(),
-                        {[this](const QPoint& place) { DrawByKey(place, &forms::Control::PersonPresses); },
-                         [this](const QPoint& place) { DrawByKey(place, &forms::Control::PersonMoves); }});
+  const auto press = [this](const QPoint& place) {
+    Act([this, mouse = LeftAt(place)] { box_.PersonPresses(mouse); });
+  };
+  const auto move = [this](const QPoint& place) {
+    Act([this, mouse = LeftAt(place)] { box_.PersonMoves(mouse); });
+  };
+  return pen_.HandleKey(key, *Widget(), {press, move});
 }
 
-void PictureBoxView::DrawByKey(const QPoint& place, void (forms::Control::*way)(const forms::MouseEvent&)) {
+// The mouse at that pixel, with its left button held.
+forms::MouseEvent PictureBoxView::LeftAt(const QPoint& place) const {
   forms::MouseEvent mouse;
   mouse.button = 1;
   mouse.x = place.x() * forms::kTwipsPerPixel;
   mouse.y = place.y() * forms::kTwipsPerPixel;
-  Act([this, way, mouse = InScale(mouse)] { (box_.*way)(mouse); });
+  return InScale(mouse);
 }
 
 bool PictureBoxView::eventFilter(QObject* watched, QEvent* event) {

@@ -69,7 +69,7 @@ class PictureBoxView : public PanelView {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void DrawByKey(const QPoint& place, void (forms::Control::*way)(const forms::MouseEvent&));
+  forms::MouseEvent LeftAt(const QPoint& place) const;
 
   forms::PictureBox& box_;
   KeyPen pen_;
