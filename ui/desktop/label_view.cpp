@@ -6,7 +6,6 @@
 
 #include "core/forms/buttons.h"
 #include "core/forms/window.h"
-#include "ui/desktop/design_text.h"
 #include "ui/desktop/spoken.h"
 #include "ui/desktop/style.h"
 #include "ui/desktop/text_fit.h"
@@ -86,7 +85,8 @@ void LabelView::Apply() {
   if (label_.Alignment == forms::kAlignRight) alignment = Qt::AlignRight;
   if (label_.Alignment == forms::kAlignCentre) alignment = Qt::AlignHCenter;
   text_->Vanish(text_->palette().color(QPalette::WindowText).rgb() == GroundColor().rgb());
-  text_->Show(IsDesignText(label_.Caption) ? QString() : ToQString(label_.Caption), alignment);
+  const bool is_unused = label_.Caption == design_text_;
+  text_->Show(is_unused ? QString() : ToQString(label_.Caption), alignment);
 }
 
 // The option without a caption that stands at the label's left side, as close as its own text would.

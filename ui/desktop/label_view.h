@@ -3,13 +3,16 @@
 
 #include "core/forms/label.h"
 #include "ui/desktop/clickable_view.h"
+#include "ui/desktop/design_text.h"
 
 namespace lectern::desktop {
 
 class LabelView : public ClickableView {
  public:
   LabelView(forms::Label& label, WindowView& window, QWidget& parent)
-      : ClickableView(label, window, parent), label_(label) {}
+      : ClickableView(label, window, parent),
+        label_(label),
+        design_text_(IsDesignText(label.Caption) ? label.Caption() : "") {}
 
  protected:
   QWidget* Make(QWidget* parent) override;
@@ -22,6 +25,7 @@ class LabelView : public ClickableView {
   forms::Control* OptionBeside() const;
 
   forms::Label& label_;
+  std::string design_text_;  // not shown; anything else may be a name that a person gave
   Text* text_ = nullptr;
 };
 
