@@ -24,8 +24,8 @@ std::string CleanName(std::string_view name) {
   return clean;
 }
 
-std::string AskForName(core::Platform& platform, std::string_view prompt, std::string_view title) {
-  const core::Date today = platform.Today();
+std::string AskForName(base::Platform& platform, std::string_view prompt, std::string_view title) {
+  const base::Date today = platform.Today();
   const std::string proposed =
       TwoDigits(today.month) + " - " + TwoDigits(today.day) + " - " + TwoDigits(today.year);
   return CleanName(platform.Input(prompt, title, proposed));

@@ -4,13 +4,13 @@
 #include <string>
 #include <string_view>
 
-#include "core/platform.h"
+#include "base/platform.h"
 
 namespace lectern::aids {
 
 // Asks for a name, with today's date proposed ("11 - 16 - 26"), and cleans the answer; "" where the box was
 // cancelled or left empty.
-std::string AskForName(core::Platform& platform, std::string_view prompt, std::string_view title);
+std::string AskForName(base::Platform& platform, std::string_view prompt, std::string_view title);
 
 // The name without the characters that a record or a path has a use for: a double quote becomes two
 // apostrophes, a slash of either kind one. What else a file system may refuse stays.

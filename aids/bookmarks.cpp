@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "aids/asked_name.h"
-#include "core/error_modes.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/numbers.h"
 
 namespace lectern::aids {
 
@@ -41,8 +41,8 @@ forms::Picture Arrows() {
 
 }  // namespace
 
-Bookmarks::Bookmarks(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
-                     core::Menus& menus)
+Bookmarks::Bookmarks(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+                     reader::Menus& menus)
     : Label19_3(the_panels.Picture1, "Label19", {.caption = "BOOK MARKER"}),
       C_4(the_panels.Picture1, "C", {.caption = "Chapter"}),
       File1(the_panels.Picture1, "File1", {.pattern = "*.bkm", .name = "Bookmarks"}),
@@ -124,7 +124,7 @@ void Bookmarks::Command10_Click() {
 // `.bkm`; after a Delete it comes back; where a file's first field is not its name, another file is
 // written. The labels stay. It is meant.
 void Bookmarks::Command6_Click() {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   const std::string& name = reader.LBLMRK(0).Caption;
   ignore([&] { reader.form.Files().DeleteKeepingBackup(PathOf(name)); });
   ignore([&] { AppendPlace(name); });

@@ -3,20 +3,20 @@
 // which are all that the panel knows. A bookmark holds no verse and no version.
 #pragma once
 
-#include "core/forms/buttons.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/label.h"
-#include "core/menus.h"
-#include "core/panels.h"
-#include "core/reader.h"
-#include "core/tool_buttons.h"
+#include "forms/buttons.h"
+#include "forms/folder_lists.h"
+#include "forms/label.h"
+#include "reader/menus.h"
+#include "reader/panels.h"
+#include "reader/reader.h"
+#include "reader/tool_buttons.h"
 
 namespace lectern::aids {
 
 class Bookmarks {
  public:
-  Bookmarks(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
-            core::Menus& menus);
+  Bookmarks(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+            reader::Menus& menus);
 
   forms::Label Label19_3;  // Label19(3), the heading
   forms::Label C_4;        // C(4), before the chapter
@@ -42,9 +42,9 @@ class Bookmarks {
   void AppendPlace(const std::string& name);
   void Leave();
 
-  core::Reader& reader;
-  core::Panels& panels;
-  core::ToolButtons& tools;
+  reader::Reader& reader;
+  reader::Panels& panels;
+  reader::ToolButtons& tools;
 };
 
 }  // namespace lectern::aids

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "aids/stored_notes.h"
-#include "core/text/letter_case.h"
+#include "base/text/letter_case.h"
 
 namespace lectern::aids {
 
@@ -19,8 +19,8 @@ constexpr std::string_view kDefaultHost = "www.example.org";
 
 }  // namespace
 
-Help::Help(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
-           core::Menus& menus)
+Help::Help(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+           reader::Menus& menus)
     : Label19_4(the_panels.frmhelp, "Label19", {.caption = "HELP"}),
       lblhp(the_panels.frmhelp, "lblhp",
             {{.caption = "Book Mark", .fore_color = kLink},

@@ -5,20 +5,21 @@
 
 #include <string>
 
-#include "core/forms/buttons.h"
-#include "core/forms/label.h"
-#include "core/forms/rich_text_box.h"
-#include "core/forms/timer.h"
-#include "core/menus.h"
-#include "core/panels.h"
-#include "core/reader.h"
-#include "core/tool_buttons.h"
+#include "forms/buttons.h"
+#include "forms/label.h"
+#include "forms/rich_text_box.h"
+#include "forms/timer.h"
+#include "reader/menus.h"
+#include "reader/panels.h"
+#include "reader/reader.h"
+#include "reader/tool_buttons.h"
 
 namespace lectern::aids {
 
 class Help {
  public:
-  Help(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools, core::Menus& menus);
+  Help(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+       reader::Menus& menus);
 
   // Hands an address to the default browser; whether it was accepted. One that does not begin with "http"
   // is replaced as a whole.
@@ -49,9 +50,9 @@ class Help {
   void LeaveAbout();
   void ShowText(const std::string& text);
 
-  core::Reader& reader;
-  core::Panels& panels;
-  core::ToolButtons& tools;
+  reader::Reader& reader;
+  reader::Panels& panels;
+  reader::ToolButtons& tools;
 };
 
 }  // namespace lectern::aids

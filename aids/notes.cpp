@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "aids/asked_name.h"
-#include "core/run_time_error.h"
-#include "core/text/characters.h"
+#include "base/run_time_error.h"
+#include "base/text/characters.h"
 
 namespace lectern::aids {
 
@@ -198,7 +198,7 @@ void Notes::f6_Click() {
 
 // ODDITY(drive-fails): the choice of a drive is handed to something that does not exist; the folder is
 // chosen in its own list. It is meant.
-void Notes::Drive1_Change() { throw core::RunTimeError(core::ErrorNumber::kObjectRequired); }
+void Notes::Drive1_Change() { throw base::RunTimeError(base::ErrorNumber::kObjectRequired); }
 
 // What a person sees in the title bar: which note this is, and whether something in it is not saved yet.
 void Notes::ShowTitle() {

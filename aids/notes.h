@@ -5,15 +5,15 @@
 // the editor and the note marked as altered; the last version of a saved or deleted note is kept.
 #pragma once
 
-#include "core/forms/buttons.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/frame.h"
-#include "core/forms/label.h"
-#include "core/forms/menu.h"
-#include "core/forms/picture_box.h"
-#include "core/forms/rich_text_box.h"
-#include "core/forms/text_box.h"
-#include "core/forms/window.h"
+#include "forms/buttons.h"
+#include "forms/folder_lists.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/menu.h"
+#include "forms/picture_box.h"
+#include "forms/rich_text_box.h"
+#include "forms/text_box.h"
+#include "forms/window.h"
 
 namespace lectern::aids {
 

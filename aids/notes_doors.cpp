@@ -4,7 +4,7 @@
 
 namespace lectern::aids {
 
-NotesDoors::NotesDoors(core::Panels& panels, core::ToolButtons& tools, core::Menus& menus,
+NotesDoors::NotesDoors(reader::Panels& panels, reader::ToolButtons& tools, reader::Menus& menus,
                        std::function<Notes&()> notes) {
   menus.cc0.Click = [notes] { notes().Open(); };
   tools.Command14.Click = [notes = std::move(notes), &panels] {

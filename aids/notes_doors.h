@@ -4,16 +4,16 @@
 #include <functional>
 
 #include "aids/notes.h"
-#include "core/menus.h"
-#include "core/panels.h"
-#include "core/tool_buttons.h"
+#include "reader/menus.h"
+#include "reader/panels.h"
+#include "reader/tool_buttons.h"
 
 namespace lectern::aids {
 
 class NotesDoors {
  public:
   // `notes` makes the window of the notes where there is none yet.
-  NotesDoors(core::Panels& panels, core::ToolButtons& tools, core::Menus& menus,
+  NotesDoors(reader::Panels& panels, reader::ToolButtons& tools, reader::Menus& menus,
              std::function<Notes&()> notes);
 };
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "core/error_modes.h"
+#include "base/error_modes.h"
 
 namespace lectern::aids {
 
@@ -12,7 +12,7 @@ constexpr int kNote = 1;  // slot
 
 }  // namespace
 
-PagePrinting::PagePrinting(core::Reader& the_reader, core::Panels& panels,
+PagePrinting::PagePrinting(reader::Reader& the_reader, reader::Panels& panels,
                            std::function<forms::Window&()> page)
     : Command30(panels.Picture1, "Command30", {.caption = "Print Page"}),
       reader(the_reader),
@@ -24,7 +24,7 @@ PagePrinting::PagePrinting(core::Reader& the_reader, core::Panels& panels,
 // NAME, and reads its first field; but nothing of it comes to the page, which shows what it showed before.
 // It is meant.
 void PagePrinting::Command30_Click() {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   files::FileSlots& slots = reader.form.Slots();
   const std::string& bookmark = reader.LBLMRK(0).Caption;
   const std::string note = reader.Dir1.Path + "\\" + (bookmark.empty() ? "NAME" : bookmark) + ".NOT";

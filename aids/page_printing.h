@@ -3,23 +3,23 @@
 
 #include <functional>
 
-#include "core/forms/buttons.h"
-#include "core/panels.h"
-#include "core/reader.h"
+#include "forms/buttons.h"
+#include "reader/panels.h"
+#include "reader/reader.h"
 
 namespace lectern::aids {
 
 class PagePrinting {
  public:
   // `page` makes the window of the page where there is none yet.
-  PagePrinting(core::Reader& the_reader, core::Panels& panels, std::function<forms::Window&()> page);
+  PagePrinting(reader::Reader& the_reader, reader::Panels& panels, std::function<forms::Window&()> page);
 
   forms::CommandButton Command30;
 
  private:
   void Command30_Click();
 
-  core::Reader& reader;
+  reader::Reader& reader;
   std::function<forms::Window&()> page_;
 };
 

@@ -1,6 +1,6 @@
 #include "aids/printed_page.h"
 
-#include "core/error_modes.h"
+#include "base/error_modes.h"
 
 namespace lectern::aids {
 
@@ -14,7 +14,7 @@ PrintedPage::PrintedPage(forms::Window& window)
 }
 
 void PrintedPage::Form_Load() {
-  const core::ScreenSize screen = form.Platform().Screen();
+  const base::ScreenSize screen = form.Platform().Screen();
   form.Left = (screen.width - form.Width) / 2;
   form.Top = (screen.height - form.Height) / 2;
 }
@@ -24,7 +24,7 @@ void PrintedPage::Command1_Click() {
   constexpr double kPrintedHeight = 14000;  // twips
   constexpr double kMoreText = 7000;
   constexpr double kHeight = 7050;
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   Command1.Visible = false;
   Command2.Visible = false;
   form.Height = kPrintedHeight;

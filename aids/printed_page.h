@@ -2,9 +2,9 @@
 // window.
 #pragma once
 
-#include "core/forms/buttons.h"
-#include "core/forms/text_box.h"
-#include "core/forms/window.h"
+#include "forms/buttons.h"
+#include "forms/text_box.h"
+#include "forms/window.h"
 
 namespace lectern::aids {
 

@@ -1,6 +1,6 @@
 #include "aids/printed_picture.h"
 
-#include "core/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace lectern::aids {
 
@@ -13,14 +13,14 @@ PrintedPicture::PrintedPicture(forms::Window& window)
 void PrintedPicture::Command1_Click() {
   try {
     form.Platform().PrintForm(form);
-  } catch (const core::RunTimeError&) {
+  } catch (const base::RunTimeError&) {
     form.Platform().Message(
         "Printer not found. Make sure that your printer is connected and turned on and ty again.");
   }
 }
 
 void PrintedPicture::PrintPaintPicture(const forms::Picture& picture) {
-  const core::ScreenSize screen = form.Platform().Screen();
+  const base::ScreenSize screen = form.Platform().Screen();
   Image1.Picture = picture;
   form.Visible = true;
   // ODDITY(print-picture-cut): the window gets the picture's size, frame and title bar included, so that the

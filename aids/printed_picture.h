@@ -2,9 +2,9 @@
 // it stands ready for whoever has a picture to print.
 #pragma once
 
-#include "core/forms/buttons.h"
-#include "core/forms/image.h"
-#include "core/forms/window.h"
+#include "forms/buttons.h"
+#include "forms/image.h"
+#include "forms/window.h"
 
 namespace lectern::aids {
 

@@ -7,19 +7,19 @@
 #include <unistd.h>
 #include <vector>
 
+#include "base/files/file_system.h"
 #include "bench/real_data.h"
-#include "core/canon.h"
-#include "core/files/file_system.h"
-#include "core/forms/label.h"
-#include "core/forms/picture.h"
+#include "forms/label.h"
+#include "forms/picture.h"
+#include "reader/canon.h"
 #include "ui/headless/driver.h"
 #include "ui/headless/picture_decoder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
-using lectern::core::kCanon;
 using lectern::headless::Driver;
+using lectern::reader::kCanon;
 
 // A data folder with a catalogue and pictures of a pixel each, so that what is measured is the catalogue.
 class Folder {

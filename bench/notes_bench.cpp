@@ -9,10 +9,10 @@
 #include <unistd.h>
 #include <vector>
 
-#include "core/files/text_encoding.h"
-#include "core/forms/label.h"
-#include "core/forms/rich_text_box.h"
-#include "core/text/characters.h"
+#include "base/files/text_encoding.h"
+#include "base/text/characters.h"
+#include "forms/label.h"
+#include "forms/rich_text_box.h"
 #include "ui/headless/driver.h"
 
 namespace {

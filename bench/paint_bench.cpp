@@ -4,7 +4,7 @@
 #include <string>
 
 #include "bench/real_data.h"
-#include "core/forms/picture_box.h"
+#include "forms/picture_box.h"
 #include "ui/headless/driver.h"
 
 namespace {

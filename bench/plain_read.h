@@ -9,14 +9,14 @@
 #include <vector>
 
 #include "bench/real_data.h"
-#include "core/canon.h"
+#include "reader/canon.h"
 
 namespace lectern::bench {
 
 class PlainRead {
  public:
   PlainRead() : room_(1 << 20) {
-    for (const std::string_view book : core::kCanon) {
+    for (const std::string_view book : reader::kCanon) {
       paths_.push_back(DataFolder() + "/KJV/" + std::string(book) + ".txt");
     }
   }

@@ -2,12 +2,12 @@
 
 #include <string_view>
 
-#include "core/text/characters.h"
+#include "base/text/characters.h"
 
 namespace lectern::gallery {
 
-using core::ErrorNumber;
-using core::RunTimeError;
+using base::ErrorNumber;
+using base::RunTimeError;
 
 namespace {
 
@@ -16,7 +16,7 @@ constexpr int kBook = 3;
 
 }  // namespace
 
-BookConverter::BookConverter(core::Panels& panels)
+BookConverter::BookConverter(reader::Panels& panels)
     : Dir2(panels.Frame5, "Dir2", {.name = "Folder for the book file"}),
       File2(panels.Frame5, "File2", {.name = "Files of that folder"}),
       RTB1(panels.Frame5, "RTB1", {.name = "Source of the book"}),

@@ -13,17 +13,17 @@
 
 #include <string>
 
-#include "core/forms/buttons.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/label.h"
-#include "core/forms/rich_text_box.h"
-#include "core/panels.h"
+#include "forms/buttons.h"
+#include "forms/folder_lists.h"
+#include "forms/label.h"
+#include "forms/rich_text_box.h"
+#include "reader/panels.h"
 
 namespace lectern::gallery {
 
 class BookConverter {
  public:
-  explicit BookConverter(core::Panels& panels);
+  explicit BookConverter(reader::Panels& panels);
 
   forms::DirListBox Dir2;  // where the book file goes
   forms::FileListBox File2;

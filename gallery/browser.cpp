@@ -1,8 +1,8 @@
 #include "gallery/browser.h"
 
-#include "core/error_modes.h"
-#include "core/text/characters.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/characters.h"
+#include "base/text/numbers.h"
 #include "gallery/place.h"
 
 namespace lectern::gallery {
@@ -16,7 +16,7 @@ forms::Design Slot(std::string_view name) { return {.value = 1, .name = name}; }
 
 }  // namespace
 
-Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, core::Panels& the_panels)
+Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, reader::Panels& the_panels)
     : SSCommand4(the_panels.Picture5, "SSCommand4", {.caption = "‹", .name = "Pictures before these"}),
       imgp(the_panels.Picture5, "imgp",
            {Slot("First picture on the strip"), Slot("Second picture on the strip"),
@@ -87,7 +87,7 @@ void Browser::SSCommand4_Click() {
 }
 
 void Browser::imgp_Click(int slot) {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   const int index = catalogue.PageStart() + slot;
   ResetPictureLabels();
   for (int field = 0; field < catalogue.selfile.Count(); ++field) {

@@ -7,7 +7,7 @@
 // below is red; the keeper's tools find it by that colour.
 #pragma once
 
-#include "core/forms/image.h"
+#include "forms/image.h"
 #include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"
 
@@ -19,7 +19,7 @@ inline constexpr forms::Colour kUnpickedColour = forms::kButtonText;
 
 class Browser {
  public:
-  Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, core::Panels& the_panels);
+  Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, reader::Panels& the_panels);
 
   // Takes the mark from whichever picture is picked.
   void ResetPictureLabels();
@@ -41,7 +41,7 @@ class Browser {
 
   PictureCatalogue& catalogue;
   Viewer& viewer;
-  core::Panels& panels;
+  reader::Panels& panels;
 };
 
 }  // namespace lectern::gallery

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "core/text/characters.h"
+#include "base/text/characters.h"
 
 namespace lectern::gallery {
 
@@ -14,7 +14,7 @@ constexpr int kRemoved = 3;
 
 }  // namespace
 
-Maintenance::Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, core::Panels& the_panels)
+Maintenance::Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, reader::Panels& the_panels)
     : HelpChangingBook([] {}),
       Command26(the_panels.Frame5, "Command26", {.caption = "pictures"}),
       Label2(the_panels.Frame5, "Label2", {.caption = "pictures"}),

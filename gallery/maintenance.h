@@ -19,7 +19,7 @@ namespace lectern::gallery {
 
 class Maintenance {
  public:
-  Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, core::Panels& the_panels);
+  Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, reader::Panels& the_panels);
 
   // Writes the help's note on changing books into the help pane; the window that owns both joins it.
   std::function<void()> HelpChangingBook;
@@ -57,8 +57,8 @@ class Maintenance {
 
   PictureCatalogue& catalogue;
   Browser& browser;
-  core::Panels& panels;
-  core::Reader& reader;
+  reader::Panels& panels;
+  reader::Reader& reader;
 };
 
 }  // namespace lectern::gallery

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "core/error_modes.h"
-#include "core/text/characters.h"
-#include "core/text/letter_case.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/characters.h"
+#include "base/text/letter_case.h"
+#include "base/text/numbers.h"
 #include "gallery/place.h"
 
 namespace lectern::gallery {
@@ -31,7 +31,7 @@ std::string OldCatalogue::OldFile() const { return reader.Dir1.Path + "\\pics.da
 void OldCatalogue::ConvertPicsDat() {
   enum class Expected { kCredit, kName, kPlace };
   files::FileSlots& slots = reader.form.Slots();
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   ignore([&] { reader.form.Files().DeleteKeepingBackup(catalogue.CatalogueFile()); });  // or it was missing
   slots.OpenForReading(kOld, OldFile());
   slots.OpenForAppending(kNew, catalogue.CatalogueFile());

@@ -23,7 +23,7 @@ class OldCatalogue {
 
   PictureCatalogue& catalogue;
   Viewer& viewer;
-  core::Reader& reader;
+  reader::Reader& reader;
   forms::CommandButton Command38;  // beyond the window's right edge
 };
 

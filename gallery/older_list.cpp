@@ -1,8 +1,8 @@
 #include "gallery/older_list.h"
 
-#include "core/error_modes.h"
-#include "core/text/characters.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/characters.h"
+#include "base/text/numbers.h"
 
 namespace lectern::gallery {
 
@@ -12,7 +12,7 @@ constexpr int kEmpty = 2;  // slot
 
 }  // namespace
 
-OlderList::OlderList(PictureCatalogue& the_catalogue, core::Panels& panels)
+OlderList::OlderList(PictureCatalogue& the_catalogue, reader::Panels& panels)
     : Command40(panels.Frame5, "Command40", {.caption = "list?"}),
       List4(panels.Frame6, "List4", {.name = "Older list of the book's pictures"}),
       List5(panels.Frame6, "List5", {.name = "Older list of the chapter's pictures"}),
@@ -22,7 +22,7 @@ OlderList::OlderList(PictureCatalogue& the_catalogue, core::Panels& panels)
 }
 
 void OlderList::Command40_Click() {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   files::FileSlots& slots = reader.form.Slots();
   const std::string empty_file = reader.Dir1.Path + "\\tmppics3.dat";
   List4.Clear();

@@ -9,7 +9,7 @@ namespace lectern::gallery {
 
 class OlderList {
  public:
-  OlderList(PictureCatalogue& the_catalogue, core::Panels& panels);
+  OlderList(PictureCatalogue& the_catalogue, reader::Panels& panels);
 
   void ListChapterPictures();
 
@@ -21,7 +21,7 @@ class OlderList {
   void Command40_Click();
 
   PictureCatalogue& catalogue;
-  core::Reader& reader;
+  reader::Reader& reader;
 };
 
 }  // namespace lectern::gallery

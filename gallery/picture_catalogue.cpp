@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/error_modes.h"
-#include "core/text/characters.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/characters.h"
+#include "base/text/numbers.h"
 #include "gallery/place.h"
 
 namespace lectern::gallery {
@@ -18,7 +18,7 @@ constexpr int kCatalogue = 2;
 // Each whole record that is left in a file, failures passed over; none where the file did not open.
 template <class Take>
 void ForEachRecord(files::FileSlots& slots, int slot, Take take) {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   while (slots.IsOpen(slot) && !slots.EndOfFile(slot)) {
     ignore([&] { take(ReadPictureRecord(slots, slot)); });
   }
@@ -26,7 +26,7 @@ void ForEachRecord(files::FileSlots& slots, int slot, Take take) {
 
 }  // namespace
 
-PictureCatalogue::PictureCatalogue(core::Reader& the_reader, core::Panels& panels)
+PictureCatalogue::PictureCatalogue(reader::Reader& the_reader, reader::Panels& panels)
     : reader(the_reader),
       lstmc(panels.Frame6, "lstmc",
             {{.name = "Names of the book's pictures"},
@@ -52,7 +52,7 @@ void PictureCatalogue::ClearLists() {
 }
 
 int PictureCatalogue::CopyBookRecords() {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   files::FileSlots& slots = reader.form.Slots();
   const std::string& book = reader.lblbk.Caption;
   const std::size_t book_length = text::Length(book);
@@ -70,7 +70,7 @@ int PictureCatalogue::CopyBookRecords() {
 }
 
 void PictureCatalogue::ExtractBookPictures() {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   ClearLists();
   ignore([&] { reader.form.Files().Delete(WorkFile()); });
   const int highest = CopyBookRecords();
@@ -84,7 +84,7 @@ void PictureCatalogue::ExtractBookPictures() {
 // mistyped as two thousand million costs nothing.
 std::vector<PictureCatalogue::Entry> PictureCatalogue::RecordsByChapter(std::size_t book_length,
                                                                         int highest) {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   files::FileSlots& slots = reader.form.Slots();
   std::vector<Entry> entries;
   ignore([&] { slots.OpenForReading(kWork, WorkFile()); });
@@ -100,7 +100,7 @@ std::vector<PictureCatalogue::Entry> PictureCatalogue::RecordsByChapter(std::siz
 }
 
 void PictureCatalogue::FillPictureLists() {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   ClearLists();
   const int highest = text::RoundToLong(text::NumberValue(lbltm.Caption()));
   for (Entry& entry : RecordsByChapter(text::Length(reader.lblbk.Caption()), highest)) {
@@ -114,7 +114,7 @@ void PictureCatalogue::FillPictureLists() {
 }
 
 void PictureCatalogue::SeekChapterPicture() {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   const std::size_t book_length = text::Length(reader.lblbook.Caption());
   const double chapter = text::NumberValue(reader.lblc.Caption());
   for (int i = 0; i < lstmc(1).ListCount(); ++i) {

@@ -12,20 +12,20 @@
 #include <string_view>
 #include <vector>
 
-#include "core/forms/buttons.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/label.h"
-#include "core/forms/list_box.h"
-#include "core/forms/scroll_bar.h"
-#include "core/forms/text_box.h"
-#include "core/reader.h"
+#include "forms/buttons.h"
+#include "forms/folder_lists.h"
+#include "forms/label.h"
+#include "forms/list_box.h"
+#include "forms/scroll_bar.h"
+#include "forms/text_box.h"
 #include "gallery/picture_record.h"
+#include "reader/reader.h"
 
 namespace lectern::gallery {
 
 class PictureCatalogue {
  public:
-  PictureCatalogue(core::Reader& the_reader, core::Panels& panels);
+  PictureCatalogue(reader::Reader& the_reader, reader::Panels& panels);
 
   // The two stand together: the book's records to the work file, and from there into the lists. Whoever
   // changed `pics2.dat` runs both. The strip is then on its first page. Neither shows a failure.
@@ -53,7 +53,7 @@ class PictureCatalogue {
   // The list index of the first picture on the strip's page.
   int PageStart() const;
 
-  core::Reader& reader;
+  reader::Reader& reader;
 
   forms::ControlArray<forms::ListBox> lstmc;    // name, place and author, index by index
   forms::Label lbltm;                           // the highest chapter with a picture

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "core/files/file_slots.h"
+#include "base/files/file_slots.h"
 
 namespace lectern::gallery {
 

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <limits>
 
-#include "core/text/characters.h"
+#include "base/text/characters.h"
 
 namespace lectern::gallery {
 

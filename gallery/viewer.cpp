@@ -1,10 +1,10 @@
 #include "gallery/viewer.h"
 
-#include "core/error_modes.h"
+#include "base/error_modes.h"
 
 namespace lectern::gallery {
 
-Viewer::Viewer(PictureCatalogue& the_catalogue, core::Panels& the_panels)
+Viewer::Viewer(PictureCatalogue& the_catalogue, reader::Panels& the_panels)
     : OpenPaint([] {}),
       LBLPICP(the_panels.picp, "LBLPICP"),
       lblvs(the_panels.picp, "lblvs"),
@@ -26,7 +26,7 @@ Viewer::Viewer(PictureCatalogue& the_catalogue, core::Panels& the_panels)
 void Viewer::picnm_Change() {
   constexpr int kNoPictures = -1;
   if (catalogue.picnm.Max == kNoPictures) return;
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   const int index = catalogue.picnm.Value;
   const std::string& name = catalogue.lstmc(0).List(index);
   // ODDITY(picture-missing-in-viewer): where the file is missing or is no picture, the picture before stays,

@@ -7,15 +7,15 @@
 
 #include <functional>
 
-#include "core/forms/image.h"
-#include "core/forms/timer.h"
+#include "forms/image.h"
+#include "forms/timer.h"
 #include "gallery/picture_catalogue.h"
 
 namespace lectern::gallery {
 
 class Viewer {
  public:
-  Viewer(PictureCatalogue& the_catalogue, core::Panels& the_panels);
+  Viewer(PictureCatalogue& the_catalogue, reader::Panels& the_panels);
 
   // Opens the paint window on the picture that is shown; the window that owns both joins it.
   std::function<void()> OpenPaint;
@@ -34,8 +34,8 @@ class Viewer {
   void Command37_Click();
 
   PictureCatalogue& catalogue;
-  core::Reader& reader;
-  core::Panels& panels;
+  reader::Reader& reader;
+  reader::Panels& panels;
 };
 
 }  // namespace lectern::gallery

@@ -2,8 +2,8 @@
 // shows the size of the dot.
 #pragma once
 
-#include "core/forms/frame.h"
-#include "core/forms/picture_box.h"
+#include "forms/frame.h"
+#include "forms/picture_box.h"
 #include "gallery/picture_catalogue.h"
 #include "paint/canvas.h"
 #include "paint/pen_settings.h"

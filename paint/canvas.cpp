@@ -1,7 +1,7 @@
 #include "paint/canvas.h"
 
-#include "core/error_modes.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/numbers.h"
 #include "paint/drawings.h"
 
 namespace lectern::paint {
@@ -64,7 +64,7 @@ void Canvas::TakePictureSize() {
 
 // Any button draws. A setting that is no number leaves the old one; so does everything else that fails.
 void Canvas::picbox_MouseDown(forms::MouseEvent mouse) {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   pen.Apply(picbox);
   ignore([&] { picbox.PSet(mouse.x, mouse.y); });
 }

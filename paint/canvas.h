@@ -5,10 +5,10 @@
 // of the picture.
 #pragma once
 
-#include "core/forms/frame.h"
-#include "core/forms/image.h"
-#include "core/forms/picture_box.h"
-#include "core/forms/window.h"
+#include "forms/frame.h"
+#include "forms/image.h"
+#include "forms/picture_box.h"
+#include "forms/window.h"
 #include "paint/pen_settings.h"
 
 namespace lectern::paint {

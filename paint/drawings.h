@@ -2,7 +2,7 @@
 // brushes, the white page.
 #pragma once
 
-#include "core/forms/picture.h"
+#include "forms/picture.h"
 
 namespace lectern::paint {
 

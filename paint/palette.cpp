@@ -1,7 +1,7 @@
 #include "paint/palette.h"
 
-#include "core/error_modes.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/numbers.h"
 
 namespace lectern::paint {
 
@@ -63,7 +63,7 @@ Palette::Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
 
 // A file of fewer lines leaves the other swatches as they are; lines behind the last swatch go nowhere.
 void Palette::LoadColours() {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   files::FileSlots& files = form.Slots();
   int counter = 0;
   ignore([&] { files.OpenForReading(kColours, gallery.reader.Dir1.Path + "\\colors.dat"); });

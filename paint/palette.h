@@ -8,11 +8,11 @@
 
 #include <functional>
 
-#include "core/forms/buttons.h"
-#include "core/forms/picture_box.h"
-#include "core/forms/scroll_bar.h"
-#include "core/forms/shape.h"
-#include "core/forms/text_box.h"
+#include "forms/buttons.h"
+#include "forms/picture_box.h"
+#include "forms/scroll_bar.h"
+#include "forms/shape.h"
+#include "forms/text_box.h"
 #include "gallery/picture_catalogue.h"
 #include "paint/pen_settings.h"
 #include "paint/save_slots.h"

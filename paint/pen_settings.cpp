@@ -1,7 +1,7 @@
 #include "paint/pen_settings.h"
 
-#include "core/error_modes.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/numbers.h"
 
 namespace lectern::paint {
 
@@ -26,7 +26,7 @@ PenSettings::PenSettings(forms::Window& form)
       clr1(Frame2, "clr1", {.back_color = forms::kBlue}) {}
 
 void PenSettings::Apply(forms::PictureBox& canvas) const {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   const auto number = [this](int index) { return text::ToInteger(mde(index).Text()); };
   ignore([&] { canvas.DrawWidth = number(kDrawWidth); });
   ignore([&] { canvas.DrawStyle = number(kDrawStyle); });

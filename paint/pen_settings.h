@@ -3,11 +3,11 @@
 // what it is put on: on white it shows the complement of the pen.
 #pragma once
 
-#include "core/forms/frame.h"
-#include "core/forms/label.h"
-#include "core/forms/picture_box.h"
-#include "core/forms/text_box.h"
-#include "core/forms/window.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/picture_box.h"
+#include "forms/text_box.h"
+#include "forms/window.h"
 
 namespace lectern::paint {
 

@@ -2,7 +2,7 @@
 // record in the catalogue, so that it stands on the strip at once.
 #pragma once
 
-#include "core/forms/buttons.h"
+#include "forms/buttons.h"
 #include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"
 #include "paint/canvas.h"

@@ -1,6 +1,6 @@
 #include "paint/save_slots.h"
 
-#include "core/error_modes.h"
+#include "base/error_modes.h"
 
 namespace lectern::paint {
 
@@ -26,7 +26,7 @@ void SaveSlots::TakeSnapshot(const std::string& scratch_file) {
   forms::PictureBox& picbox = canvas.picbox;
   picbox.AutoRedraw = true;
   if (zoom.txt5.Text == "0" && picbox.Picture()) {
-    const core::Ignoring ignore;
+    const base::Ignoring ignore;
     ignore([&] { form.SavePicture(picbox.Picture, scratch_file); });
   }
   // ODDITY(newest-save-holds): after a click on the newest state the canvas shows that very picture, and

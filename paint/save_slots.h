@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "core/forms/frame.h"
-#include "core/forms/image.h"
-#include "core/forms/shape.h"
+#include "forms/frame.h"
+#include "forms/image.h"
+#include "forms/shape.h"
 #include "paint/canvas.h"
 #include "paint/zoom.h"
 

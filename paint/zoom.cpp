@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "core/text/numbers.h"
+#include "base/text/numbers.h"
 #include "paint/drawings.h"
 
 namespace lectern::paint {

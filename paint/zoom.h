@@ -3,9 +3,9 @@
 // level that stands.
 #pragma once
 
-#include "core/forms/buttons.h"
-#include "core/forms/image.h"
-#include "core/forms/text_box.h"
+#include "forms/buttons.h"
+#include "forms/image.h"
+#include "forms/text_box.h"
 #include "paint/canvas.h"
 
 namespace lectern::paint {

@@ -1,7 +1,7 @@
 #include "search/concordance_builder.h"
 
-#include "core/error_modes.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/numbers.h"
 #include "search/concordance_file.h"
 
 namespace lectern::search {
@@ -14,7 +14,7 @@ constexpr int kTarget = 5;
 
 }  // namespace
 
-ConcordanceBuilder::ConcordanceBuilder(core::Reader& the_reader, core::Panels& the_panels,
+ConcordanceBuilder::ConcordanceBuilder(reader::Reader& the_reader, reader::Panels& the_panels,
                                        TextSearch& the_search)
     : Command27(the_panels.Frame2, "Command27", {.caption = "Make"}),
       Command23(the_panels.Frame2, "Command23", {.caption = "Cancel"}),
@@ -50,7 +50,7 @@ void ConcordanceBuilder::Command27_Click() {
 void ConcordanceBuilder::Timer2_Timer() {
   panels.frmscale.Visible = true;
   if (search.tmrb.Enabled) return;  // a word is still being looked up
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   search.pbar.Value = 0;
   Label32.Caption = lbln.Caption + " of " + std::to_string(List2.ListCount());
   if (lbln.Caption == "-1") {
@@ -88,7 +88,7 @@ void ConcordanceBuilder::LoadWords() {
 
 // The verses of the word that was looked up, as the search lists them.
 void ConcordanceBuilder::WriteResults() {
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   files::FileSlots& slots = reader.form.Slots();
   ignore([&] { slots.OpenForAppending(kTarget, ConcordanceFile(reader)); });
   for (int i = 0; i < search.lsts.ListCount(); ++i) {

@@ -6,18 +6,18 @@
 // one another by switching the search's timer on and watching it go off.
 #pragma once
 
-#include "core/forms/buttons.h"
-#include "core/forms/progress_bar.h"
-#include "core/forms/text_box.h"
-#include "core/panels.h"
-#include "core/reader.h"
+#include "forms/buttons.h"
+#include "forms/progress_bar.h"
+#include "forms/text_box.h"
+#include "reader/panels.h"
+#include "reader/reader.h"
 #include "search/text_search.h"
 
 namespace lectern::search {
 
 class ConcordanceBuilder {
  public:
-  ConcordanceBuilder(core::Reader& the_reader, core::Panels& the_panels, TextSearch& the_search);
+  ConcordanceBuilder(reader::Reader& the_reader, reader::Panels& the_panels, TextSearch& the_search);
 
   forms::CommandButton Command27;  // makes
   forms::CommandButton Command23;  // cancels
@@ -36,8 +36,8 @@ class ConcordanceBuilder {
   void WriteResults();
   void List2_Click();
 
-  core::Reader& reader;
-  core::Panels& panels;
+  reader::Reader& reader;
+  reader::Panels& panels;
   TextSearch& search;
 };
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "core/text/letter_case.h"
+#include "base/text/letter_case.h"
 #include "search/concordance_file.h"
 #include "search/entry.h"
 
@@ -15,8 +15,8 @@ constexpr int kWorkFile = 2;
 
 }  // namespace
 
-ConcordanceEditing::ConcordanceEditing(core::Reader& the_reader, core::Panels& the_panels,
-                                       core::ErrorReport& the_report, TextSearch& the_search,
+ConcordanceEditing::ConcordanceEditing(reader::Reader& the_reader, reader::Panels& the_panels,
+                                       reader::ErrorReport& the_report, TextSearch& the_search,
                                        ResultNavigation& the_results, ConcordanceViewer& the_viewer)
     : Command21(the_panels.frmc, "Command21", {.caption = "Delete Word/Phrase"}),
       Command18(the_panels.Frame2, "Command18",
@@ -40,7 +40,7 @@ void ConcordanceEditing::cmdadd_Click() {
   try {
     for (int i = 0; i < search.lsts.ListCount(); ++i) AddEntry(search.lsts.List(i));
     reader.form.Platform().Message(text::Upper(search.txts.Text()) + " has been added to the Concordance");
-  } catch (const core::RunTimeError& error) {
+  } catch (const base::RunTimeError& error) {
     report.ReportError(error);
   }
 }

@@ -2,8 +2,8 @@
 // file; a deletion rewrites the file through a work file.
 #pragma once
 
-#include "core/error_report.h"
-#include "core/forms/buttons.h"
+#include "forms/buttons.h"
+#include "reader/error_report.h"
 #include "search/concordance_viewer.h"
 #include "search/result_navigation.h"
 #include "search/text_search.h"
@@ -12,7 +12,7 @@ namespace lectern::search {
 
 class ConcordanceEditing {
  public:
-  ConcordanceEditing(core::Reader& the_reader, core::Panels& the_panels, core::ErrorReport& the_report,
+  ConcordanceEditing(reader::Reader& the_reader, reader::Panels& the_panels, reader::ErrorReport& the_report,
                      TextSearch& the_search, ResultNavigation& the_results, ConcordanceViewer& the_viewer);
 
   forms::CommandButton Command21;  // deletes the selected word
@@ -25,9 +25,9 @@ class ConcordanceEditing {
   void CopyOtherWords(const std::string& word);
   void Command18_Click();
 
-  core::Reader& reader;
-  core::Panels& panels;
-  core::ErrorReport& report;
+  reader::Reader& reader;
+  reader::Panels& panels;
+  reader::ErrorReport& report;
   TextSearch& search;
   ResultNavigation& results;
   ConcordanceViewer& viewer;

@@ -1,10 +1,10 @@
 #include "search/concordance_file.h"
 
-#include "core/text/letter_case.h"
+#include "base/text/letter_case.h"
 
 namespace lectern::search {
 
-std::string ConcordanceFile(const core::Reader& reader) {
+std::string ConcordanceFile(const reader::Reader& reader) {
   return reader.Dir1.Path + (reader.optk.Value ? "\\CONCORD.DAT" : "\\CONCORD2.DAT");
 }
 

@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
-#include "core/reader.h"
+#include "reader/reader.h"
 
 namespace lectern::search {
 
 // "CONCORD.DAT" or "CONCORD2.DAT" in the data folder; the version is looked at anew at every call.
-std::string ConcordanceFile(const core::Reader& reader);
+std::string ConcordanceFile(const reader::Reader& reader);
 
 // Fills a list with the words of the concordance that is open on the slot, in upper case: one entry for the
 // records of a word that follow one another, up to the limit, which ends the reading. Gives back the word

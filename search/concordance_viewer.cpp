@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "core/text/characters.h"
-#include "core/text/letter_case.h"
-#include "core/text/numbers.h"
+#include "base/text/characters.h"
+#include "base/text/letter_case.h"
+#include "base/text/numbers.h"
 #include "search/concordance_file.h"
 #include "search/highlight.h"
 
@@ -35,8 +35,9 @@ std::optional<Passage> ParseReference(std::string_view reference) {
 
 }  // namespace
 
-ConcordanceViewer::ConcordanceViewer(core::Reader& the_reader, core::Panels& the_panels,
-                                     core::ToolButtons& the_tools, core::Menus& menus, TextSearch& the_search)
+ConcordanceViewer::ConcordanceViewer(reader::Reader& the_reader, reader::Panels& the_panels,
+                                     reader::ToolButtons& the_tools, reader::Menus& menus,
+                                     TextSearch& the_search)
     : lblwords(the_panels.frmc, "lblwords", {.caption = "Words"}),
       lstc(the_panels.frmc, "lstc", {.sorted = true, .name = "Words of the concordance"}),
       lblw(the_panels.frmc, "lblw", {.caption = "click on word"}),

@@ -2,19 +2,19 @@
 // word coloured.
 #pragma once
 
-#include "core/forms/buttons.h"
-#include "core/menus.h"
-#include "core/panels.h"
-#include "core/reader.h"
-#include "core/tool_buttons.h"
+#include "forms/buttons.h"
+#include "reader/menus.h"
+#include "reader/panels.h"
+#include "reader/reader.h"
+#include "reader/tool_buttons.h"
 #include "search/text_search.h"
 
 namespace lectern::search {
 
 class ConcordanceViewer {
  public:
-  ConcordanceViewer(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
-                    core::Menus& menus, TextSearch& the_search);
+  ConcordanceViewer(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+                    reader::Menus& menus, TextSearch& the_search);
 
   forms::Label lblwords;
   forms::ListBox lstc;  // the words, in upper case
@@ -33,9 +33,9 @@ class ConcordanceViewer {
   void lstc2_Click();
   void Command9_Click();
 
-  core::Reader& reader;
-  core::Panels& panels;
-  core::ToolButtons& tools;
+  reader::Reader& reader;
+  reader::Panels& panels;
+  reader::ToolButtons& tools;
   TextSearch& search;
 };
 

@@ -12,8 +12,8 @@ constexpr forms::Design Shadow(const char* caption) {
 
 }  // namespace
 
-Dictionary::Dictionary(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
-                       core::Menus& menus, core::ErrorReport& the_error_report)
+Dictionary::Dictionary(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+                       reader::Menus& menus, reader::ErrorReport& the_error_report)
     : reader(the_reader),
       panels(the_panels),
       tools(the_tools),
@@ -52,7 +52,7 @@ bool Dictionary::LoadWords() {
     }
     slots.Close(kWords);
     return true;
-  } catch (const core::RunTimeError& error) {
+  } catch (const base::RunTimeError& error) {
     slots.Close(kWords);
     error_report.ReportError(error);
     return false;

@@ -4,19 +4,19 @@
 // The file is read again for every opening and every click. Of two records of one word the first is shown.
 #pragma once
 
-#include "core/error_report.h"
-#include "core/forms/label.h"
-#include "core/forms/shape.h"
-#include "core/menus.h"
-#include "core/reader.h"
-#include "core/tool_buttons.h"
+#include "forms/label.h"
+#include "forms/shape.h"
+#include "reader/error_report.h"
+#include "reader/menus.h"
+#include "reader/reader.h"
+#include "reader/tool_buttons.h"
 
 namespace lectern::search {
 
 class Dictionary {
  public:
-  Dictionary(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
-             core::Menus& menus, core::ErrorReport& the_error_report);
+  Dictionary(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+             reader::Menus& menus, reader::ErrorReport& the_error_report);
 
  private:
   void Command17_Click();
@@ -29,10 +29,10 @@ class Dictionary {
   bool LoadWords();
   std::string DataFile() const;
 
-  core::Reader& reader;
-  core::Panels& panels;
-  core::ToolButtons& tools;
-  core::ErrorReport& error_report;
+  reader::Reader& reader;
+  reader::Panels& panels;
+  reader::ToolButtons& tools;
+  reader::ErrorReport& error_report;
 
   forms::ListBox lstd;  // the words, in file order
 

@@ -1,6 +1,6 @@
 #include "search/entry.h"
 
-#include "core/text/characters.h"
+#include "base/text/characters.h"
 
 namespace lectern::search {
 

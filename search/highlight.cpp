@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "core/text/characters.h"
+#include "base/text/characters.h"
 
 namespace lectern::search {
 

@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "core/forms/rich_text_box.h"
+#include "forms/rich_text_box.h"
 
 namespace lectern::search {
 

@@ -1,8 +1,8 @@
 #include "search/one_pass_builder.h"
 
-#include "core/text/characters.h"
-#include "core/text/letter_case.h"
-#include "core/text/numbers.h"
+#include "base/text/characters.h"
+#include "base/text/letter_case.h"
+#include "base/text/numbers.h"
 #include "search/text_scan.h"
 
 namespace lectern::search {
@@ -15,7 +15,7 @@ constexpr int kTruth = -1;  // what a true comparison counts as
 
 }  // namespace
 
-OnePassBuilder::OnePassBuilder(core::Reader& the_reader, core::Panels& panels, TextSearch& the_search,
+OnePassBuilder::OnePassBuilder(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search,
                                ConcordanceBuilder& the_builder)
     : Command13(panels.Frame2, "Command13", {.caption = "Command13", .name = "Build in one pass"}),
       books(panels.Frame2, "books"),

@@ -9,7 +9,7 @@ namespace lectern::search {
 
 class OnePassBuilder {
  public:
-  OnePassBuilder(core::Reader& the_reader, core::Panels& panels, TextSearch& the_search,
+  OnePassBuilder(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search,
                  ConcordanceBuilder& the_builder);
 
   forms::CommandButton Command13;
@@ -21,7 +21,7 @@ class OnePassBuilder {
   void LookUp(const std::string& word, char32_t& next);
   void TakeFindings(const std::string& word, const std::string& book, const struct ScanFindings& findings);
 
-  core::Reader& reader;
+  reader::Reader& reader;
   TextSearch& search;
   ConcordanceBuilder& builder;
 };

@@ -5,7 +5,7 @@
 
 namespace lectern::search {
 
-ResultNavigation::ResultNavigation(core::Reader& the_reader, core::Panels& panels, TextSearch& the_search)
+ResultNavigation::ResultNavigation(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search)
     : LBLCC(panels.frmc, "LBLCC", {.caption = "Genesis", .visible = false}),
       reader(the_reader),
       search(the_search) {

@@ -2,22 +2,22 @@
 // terms in it.
 #pragma once
 
-#include "core/forms/label.h"
-#include "core/reader.h"
+#include "forms/label.h"
+#include "reader/reader.h"
 #include "search/text_search.h"
 
 namespace lectern::search {
 
 class ResultNavigation {
  public:
-  ResultNavigation(core::Reader& the_reader, core::Panels& panels, TextSearch& the_search);
+  ResultNavigation(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search);
 
   forms::Label LBLCC;  // on the concordance's panel: the entry in hand
 
  private:
   void lsts_Click();
 
-  core::Reader& reader;
+  reader::Reader& reader;
   TextSearch& search;
 };
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/text/letter_case.h"
+#include "base/text/letter_case.h"
 
 namespace lectern::search {
 

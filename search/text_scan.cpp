@@ -5,9 +5,9 @@
 #include <optional>
 #include <utility>
 
-#include "core/files/text_encoding.h"
-#include "core/text/characters.h"
-#include "core/text/letter_case.h"
+#include "base/files/text_encoding.h"
+#include "base/text/characters.h"
+#include "base/text/letter_case.h"
 #include "search/term_finder.h"
 
 namespace lectern::search {

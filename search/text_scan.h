@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/text/text_list.h"
+#include "base/text/text_list.h"
 #include "search/line_rules.h"
 #include "search/terms.h"
 

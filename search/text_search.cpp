@@ -1,8 +1,8 @@
 #include "search/text_search.h"
 
-#include "core/error_modes.h"
-#include "core/text/characters.h"
-#include "core/text/numbers.h"
+#include "base/error_modes.h"
+#include "base/text/characters.h"
+#include "base/text/numbers.h"
 #include "search/text_scan.h"
 
 namespace lectern::search {
@@ -16,8 +16,8 @@ constexpr int kBook = 1;  // slot
 
 }  // namespace
 
-TextSearch::TextSearch(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
-                       core::Menus& menus)
+TextSearch::TextSearch(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+                       reader::Menus& menus)
     : lblfor(the_panels.frms, "lblfor", {.caption = "for"}),
       txts(the_panels.frms, "txts", {.name = "Search for"}),
       lbland(the_panels.frms, "lbland", {.caption = "and"}),
@@ -122,7 +122,7 @@ void TextSearch::TakeFindings(const ScanFindings& findings) {
 
 void TextSearch::tmrb_Timer() {
   if (tmrb.Interval != 1) return;
-  const core::Ignoring ignore;
+  const base::Ignoring ignore;
   files::FileSlots& slots = reader.form.Slots();
   ignore([&] { pbar.Value = pbar.Value + 1; });
   ignore([&] { text7.Caption = reader.lst.List(SearchBookIndex + 1); });

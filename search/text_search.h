@@ -9,20 +9,20 @@
 #include <functional>
 #include <string>
 
-#include "core/forms/buttons.h"
-#include "core/forms/progress_bar.h"
-#include "core/forms/text_box.h"
-#include "core/menus.h"
-#include "core/panels.h"
-#include "core/reader.h"
-#include "core/tool_buttons.h"
+#include "forms/buttons.h"
+#include "forms/progress_bar.h"
+#include "forms/text_box.h"
+#include "reader/menus.h"
+#include "reader/panels.h"
+#include "reader/reader.h"
+#include "reader/tool_buttons.h"
 
 namespace lectern::search {
 
 class TextSearch {
  public:
-  TextSearch(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
-             core::Menus& menus);
+  TextSearch(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+             reader::Menus& menus);
 
   forms::Label lblfor;
   forms::TextBox txts;
@@ -63,9 +63,9 @@ class TextSearch {
   void ScanOpenBook();
   void TakeFindings(const struct ScanFindings& findings);
 
-  core::Reader& reader;
-  core::Panels& panels;
-  core::ToolButtons& tools;
+  reader::Reader& reader;
+  reader::Panels& panels;
+  reader::ToolButtons& tools;
 };
 
 }  // namespace lectern::search

@@ -1,6 +1,6 @@
 #include "search/trivia.h"
 
-#include "core/text/numbers.h"
+#include "base/text/numbers.h"
 
 namespace lectern::search {
 
@@ -10,8 +10,8 @@ constexpr int kQuestions = 1;  // slot
 
 }  // namespace
 
-Trivia::Trivia(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools,
-               core::Menus& menus, core::ErrorReport& the_error_report)
+Trivia::Trivia(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+               reader::Menus& menus, reader::ErrorReport& the_error_report)
     : reader(the_reader),
       panels(the_panels),
       tools(the_tools),
@@ -93,7 +93,7 @@ void Trivia::Command29_Click() {
   Command29.MousePointer = forms::kPointerHourglass;
   try {
     AskQuestion();
-  } catch (const core::RunTimeError& error) {
+  } catch (const base::RunTimeError& error) {
     Command29.MousePointer = forms::kPointerDefault;
     error_report.ReportError(error);
   }

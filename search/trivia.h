@@ -6,18 +6,18 @@
 
 #include <cstdint>
 
-#include "core/error_report.h"
-#include "core/forms/label.h"
-#include "core/menus.h"
-#include "core/reader.h"
-#include "core/tool_buttons.h"
+#include "forms/label.h"
+#include "reader/error_report.h"
+#include "reader/menus.h"
+#include "reader/reader.h"
+#include "reader/tool_buttons.h"
 
 namespace lectern::search {
 
 class Trivia {
  public:
-  Trivia(core::Reader& the_reader, core::Panels& the_panels, core::ToolButtons& the_tools, core::Menus& menus,
-         core::ErrorReport& the_error_report);
+  Trivia(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
+         reader::Menus& menus, reader::ErrorReport& the_error_report);
 
  private:
   // What a question and its answer are read into.
@@ -38,10 +38,10 @@ class Trivia {
   void ReadRecord(Record& record);
   std::string DataFile() const;
 
-  core::Reader& reader;
-  core::Panels& panels;
-  core::ToolButtons& tools;
-  core::ErrorReport& error_report;
+  reader::Reader& reader;
+  reader::Panels& panels;
+  reader::ToolButtons& tools;
+  reader::ErrorReport& error_report;
 
   forms::Label lbltrivia;  // heading
   forms::Label Label25;    // the question, which is the key to its answer

@@ -25,7 +25,7 @@
 #include <unistd.h>
 #include <vector>
 
-#include "core/files/text_encoding.h"
+#include "base/files/text_encoding.h"
 #include "ui/headless/driver.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <string>
 
-#include "core/forms/label.h"
+#include "forms/label.h"
 
 namespace lectern::ui {
 

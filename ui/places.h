@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "core/forms/window.h"
+#include "forms/window.h"
 
 namespace lectern::ui {
 

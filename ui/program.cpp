@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <new>
 
-#include "core/error_modes.h"
-#include "core/forms/timer.h"
-#include "core/text/letter_case.h"
+#include "base/error_modes.h"
+#include "base/text/letter_case.h"
+#include "forms/timer.h"
 
 namespace lectern::ui {
 
 Program::Program(forms::Services services)
-    : report_failure([](const core::RunTimeError&) {}),
+    : report_failure([](const base::RunTimeError&) {}),
       Form1_(
           windows,
           [this, services] {
@@ -41,7 +41,7 @@ void Program::End(int status) {
   ended_ = true;
   status_ = status;
   for (forms::Window* window : windows.All()) {
-    const core::Ignoring ignore;
+    const base::Ignoring ignore;
     ignore([&] { window->Slots().CloseAll(); });
   }
 }
@@ -52,17 +52,17 @@ void Program::Deliver(forms::Window& window, const std::function<void()>& event)
 }
 
 void Program::Guard(forms::AfterFailure after, const std::function<void()>& event) {
-  const auto fail = [&](const core::RunTimeError& error) {
+  const auto fail = [&](const base::RunTimeError& error) {
     report_failure(error);
     if (after == forms::AfterFailure::kEndProgram) End(1);
   };
   try {
     event();
-  } catch (const core::RunTimeError& error) {
+  } catch (const base::RunTimeError& error) {
     fail(error);
   } catch (const std::bad_alloc&) {
-    fail(core::RunTimeError(core::ErrorNumber::kOutOfMemory));
-  } catch (const core::ProgramEnd& end) {
+    fail(base::RunTimeError(base::ErrorNumber::kOutOfMemory));
+  } catch (const base::ProgramEnd& end) {
     End(end.status);
   }
 }

@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/forms/windows.h"
-#include "core/program_end.h"
-#include "core/run_time_error.h"
+#include "base/program_end.h"
+#include "base/run_time_error.h"
+#include "forms/windows.h"
 #include "ui/form1/form1.h"
 #include "ui/form2.h"
 #include "ui/form3.h"
@@ -52,7 +52,7 @@ class Program {
   int Status() const { return status_; }
 
   forms::Windows windows;
-  std::function<void(const core::RunTimeError&)> report_failure;
+  std::function<void(const base::RunTimeError&)> report_failure;
 
  private:
   // One of the windows there can be.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "core/text/characters.h"
+#include "base/text/characters.h"
 
 namespace lectern::ui {
 
@@ -52,7 +52,7 @@ std::vector<Line> SelectedLines(std::string_view text, std::size_t from, std::si
 }  // namespace
 
 std::string Quotation(std::string_view text, std::size_t start, std::size_t length,
-                      const core::ShownChapter& place) {
+                      const reader::ShownChapter& place) {
   const std::size_t from = text::ByteOf(text, start + 1);
   const std::size_t to = text::ByteOf(text, start + length + 1);
   std::string quotation;
@@ -78,7 +78,7 @@ std::string Quotation(std::string_view text, std::size_t start, std::size_t leng
   return quotation += ')';
 }
 
-std::string QuotationFrom(const forms::RichTextBox& pane, const core::ShownChapter& place) {
+std::string QuotationFrom(const forms::RichTextBox& pane, const reader::ShownChapter& place) {
   return Quotation(pane.Text(), static_cast<std::size_t>(pane.SelStart()),
                    static_cast<std::size_t>(pane.SelLength()), place);
 }

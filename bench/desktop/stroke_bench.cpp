@@ -7,9 +7,9 @@
 #include <memory>
 #include <vector>
 
+#include "base/files/file_system.h"
 #include "bench/real_data.h"
-#include "core/files/file_system.h"
-#include "core/forms/control.h"
+#include "forms/control.h"
 #include "ui/desktop/events.h"
 #include "ui/desktop/platform.h"
 #include "ui/desktop/theme.h"

@@ -8,7 +8,7 @@
 #include <random>
 #include <string>
 
-#include "core/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace lectern::desktop {
 namespace {
@@ -40,7 +40,7 @@ std::string Jpeg(bool progressive) {
 forms::Picture DecodeOrNone(const std::string& bytes) {
   try {
     return Decode(bytes);
-  } catch (const core::RunTimeError&) {
+  } catch (const base::RunTimeError&) {
     return {};
   }
 }

@@ -4,7 +4,7 @@
 #include <QTextEdit>
 #include <random>
 
-#include "core/text/characters.h"
+#include "base/text/characters.h"
 #include "tests/desktop/stage.h"
 #include "ui/desktop/text_positions.h"
 

@@ -4,22 +4,22 @@
 #include <string>
 #include <vector>
 
-#include "core/forms/buttons.h"
-#include "core/forms/combo_box.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/frame.h"
-#include "core/forms/image.h"
-#include "core/forms/label.h"
-#include "core/forms/list_box.h"
-#include "core/forms/menu.h"
-#include "core/forms/picture_box.h"
-#include "core/forms/progress_bar.h"
-#include "core/forms/rich_text_box.h"
-#include "core/forms/scroll_bar.h"
-#include "core/forms/shape.h"
-#include "core/forms/text_box.h"
-#include "core/forms/timer.h"
-#include "core/forms/window.h"
+#include "forms/buttons.h"
+#include "forms/combo_box.h"
+#include "forms/folder_lists.h"
+#include "forms/frame.h"
+#include "forms/image.h"
+#include "forms/label.h"
+#include "forms/list_box.h"
+#include "forms/menu.h"
+#include "forms/picture_box.h"
+#include "forms/progress_bar.h"
+#include "forms/rich_text_box.h"
+#include "forms/scroll_bar.h"
+#include "forms/shape.h"
+#include "forms/text_box.h"
+#include "forms/timer.h"
+#include "forms/window.h"
 
 namespace lectern::desktop {
 

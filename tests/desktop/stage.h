@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-#include "core/run_time_error.h"
+#include "base/run_time_error.h"
 #include "tests/desktop/sample_window.h"
 #include "ui/desktop/events.h"
 #include "ui/desktop/platform.h"
@@ -85,12 +85,12 @@ class Stage : public testing::Test {
   DesktopPlatform platform;
   files::FileSystem files{std::filesystem::temp_directory_path().string()};
   std::unique_ptr<SampleWindow> window = std::make_unique<SampleWindow>(forms::Services{platform, files});
-  std::optional<core::RunTimeError> failure;
+  std::optional<base::RunTimeError> failure;
   std::function<void()> close = [] {};
   Events events{[this](forms::Window&, const std::function<void()>& event) {
     try {
       event();
-    } catch (const core::RunTimeError& error) {
+    } catch (const base::RunTimeError& error) {
       failure = error;
     }
   }};

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/forms/bitmap.h"
-#include "core/run_time_error.h"
+#include "base/run_time_error.h"
+#include "forms/bitmap.h"
 #include "ui/headless/picture_decoder.h"
 
 using lectern::forms::Bitmap;
@@ -50,8 +50,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (taken->Width() > kLargest || taken->Height() > kLargest) return 0;
     const Picture back = lectern::headless::DecodePicture(lectern::forms::BmpBytes(*taken));
     if (back->Width() != taken->Width() || back->Height() != taken->Height()) std::abort();
-  } catch (const lectern::core::RunTimeError& error) {
-    if (error.number() != static_cast<int>(lectern::core::ErrorNumber::kInvalidPicture)) std::abort();
+  } catch (const lectern::base::RunTimeError& error) {
+    if (error.number() != static_cast<int>(lectern::base::ErrorNumber::kInvalidPicture)) std::abort();
   }
   return 0;
 }

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/files/record_reader.h"
-#include "core/files/text_encoding.h"
+#include "base/files/record_reader.h"
+#include "base/files/text_encoding.h"
 
 extern const std::size_t kHead;
 extern const std::vector<std::string> kPieces;

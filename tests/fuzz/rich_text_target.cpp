@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/forms/rich_text.h"
-#include "core/text/characters.h"
+#include "base/text/characters.h"
+#include "forms/rich_text.h"
 
 extern const std::size_t kHead;
 extern const std::vector<std::string> kPieces;

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/run_time_error.h"
+#include "base/run_time_error.h"
 #include "tests/trust/small_world.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
@@ -76,7 +76,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // A script may point the program at any folder of the host; these are not for it.
   driver.Files().before = [&](lectern::files::Operation, const std::string& path) {
     if (!path.starts_with(kAround.Path() + "/") || path.find("/..") != std::string::npos) {
-      throw lectern::core::RunTimeError(lectern::core::ErrorNumber::kPermissionDenied);
+      throw lectern::base::RunTimeError(lectern::base::ErrorNumber::kPermissionDenied);
     }
   };
   int status = 0;

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "core/canon.h"
-#include "core/files/text_encoding.h"
-#include "core/forms/rich_text_box.h"
+#include "base/files/text_encoding.h"
+#include "forms/rich_text_box.h"
+#include "reader/canon.h"
 #include "tests/real/real_data.h"
 #include "ui/headless/driver.h"
 
@@ -37,7 +37,7 @@ TEST_P(ChapterWalk, ShowsEveryChapterToTheLetter) {
   forms::Window& form = *driver.Program().Touch("Form1");
   const auto& pane = dynamic_cast<forms::RichTextBox&>(*form.Find("rtxt"));
   std::size_t walked = 0;
-  for (const std::string_view book : core::kCanon) {
+  for (const std::string_view book : reader::kCanon) {
     const std::string name(book);
     const std::string path = RealData() + (second ? "/NEW/N" : "/KJV/") + name + ".txt";
     const std::vector<std::string> chapters = ExpectedChapters(path);

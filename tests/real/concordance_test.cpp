@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "core/canon.h"
-#include "core/files/record_reader.h"
-#include "core/forms/list_box.h"
-#include "core/forms/rich_text_box.h"
+#include "base/files/record_reader.h"
+#include "forms/list_box.h"
+#include "forms/rich_text_box.h"
+#include "reader/canon.h"
 #include "tests/real/real_data.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
@@ -80,7 +80,7 @@ TEST(RealConcordance, ListsFourThousandWordsOfALargerFile) {
 // The older builder, over the books under their short names, finds the verses that the whole-text scan finds.
 TEST(RealConcordance, OnePassBuilderFindsWhatTheScanFinds) {
   TemporaryFolder folder;
-  for (const std::string_view book : core::kCanon) {
+  for (const std::string_view book : reader::kCanon) {
     folder.Write(std::string(book.substr(0, 8)) + ".txt", RealFile("KJV/" + std::string(book) + ".txt"));
   }
   folder.Write("conc.txt", "zion\r\ngrace\r\n");

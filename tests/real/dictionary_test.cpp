@@ -7,7 +7,7 @@
 #include <iterator>
 #include <set>
 
-#include "core/files/record_reader.h"
+#include "base/files/record_reader.h"
 #include "tests/real/king_james.h"
 
 namespace lectern {

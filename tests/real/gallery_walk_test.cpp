@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "core/canon.h"
-#include "core/files/file_slots.h"
-#include "core/forms/image.h"
-#include "core/forms/label.h"
-#include "core/forms/list_box.h"
+#include "base/files/file_slots.h"
+#include "forms/image.h"
+#include "forms/label.h"
+#include "forms/list_box.h"
 #include "gallery/picture_record.h"
+#include "reader/canon.h"
 #include "tests/unit/test_window.h"
 #include "tools/make_data/sources.h"
 #include "ui/headless/driver.h"
@@ -33,7 +33,7 @@ TEST(Gallery, HasPicturesForVersesOfEveryBook) {
     const std::size_t blank = record.place.rfind(' ', colon - 1);
     const int book = make_data::BookPosition(record.place.substr(0, blank));
     ASSERT_GE(book, 0) << record.place;
-    EXPECT_EQ(core::kCanon[static_cast<std::size_t>(book)], record.place.substr(0, blank));
+    EXPECT_EQ(reader::kCanon[static_cast<std::size_t>(book)], record.place.substr(0, blank));
     const make_data::Book& chapters = text.books[static_cast<std::size_t>(book)];
     const auto chapter = chapters.find(std::stoi(record.place.substr(blank + 1)));
     ASSERT_NE(chapter, chapters.end()) << record.place;
@@ -42,7 +42,7 @@ TEST(Gallery, HasPicturesForVersesOfEveryBook) {
     last = book;
     books.insert(book);
   }
-  EXPECT_EQ(books.size(), core::kCanon.size());
+  EXPECT_EQ(books.size(), reader::kCanon.size());
 }
 
 TEST(Gallery, CanBePagedThroughEveryBook) {
@@ -53,7 +53,7 @@ TEST(Gallery, CanBePagedThroughEveryBook) {
   const auto& last_label = dynamic_cast<forms::Label&>(*form.Find("lblp", 4));
   const auto& name = dynamic_cast<forms::Label&>(*form.Find("LBLPICP"));
   const auto& pick = dynamic_cast<forms::Image&>(*form.Find("pick"));
-  for (const std::string_view book : core::kCanon) {
+  for (const std::string_view book : reader::kCanon) {
     driver.Execute("click Form1.lst \"" + std::string(book) + "\"");
     ASSERT_FALSE(driver.Program().HasEnded()) << book;
     EXPECT_GT(names.ListCount(), 0) << book;

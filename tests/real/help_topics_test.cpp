@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "core/forms/rich_text_box.h"
-#include "core/text/characters.h"
+#include "base/text/characters.h"
+#include "forms/rich_text_box.h"
 #include "tools/make_data/written_texts.h"
 #include "ui/headless/driver.h"
 

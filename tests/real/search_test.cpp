@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "core/canon.h"
-#include "core/forms/list_box.h"
+#include "forms/list_box.h"
+#include "reader/canon.h"
 #include "tests/plain_scan.h"
 #include "tests/real/real_data.h"
 #include "ui/headless/driver.h"
@@ -19,7 +19,7 @@ TEST(RealSearch, ListsWhatThePlainScanFinds) {
   driver.Execute("click Form1.op1");
   const auto& list = dynamic_cast<forms::ListBox&>(*driver.Program().Touch("Form1")->Find("lsts"));
   std::vector<std::string> books;
-  for (const std::string_view book : core::kCanon)
+  for (const std::string_view book : reader::kCanon)
     books.push_back(RealFile("KJV/" + std::string(book) + ".txt"));
 
   const std::vector<std::pair<std::string, std::string>> searches = {
@@ -29,7 +29,7 @@ TEST(RealSearch, ListsWhatThePlainScanFinds) {
     std::vector<std::string> expected;
     for (std::size_t i = 0; i < books.size(); ++i) {
       const auto found =
-          search::plain::WholeTextTick(books[i], first, second, std::string(core::kCanon[i]), kMargin);
+          search::plain::WholeTextTick(books[i], first, second, std::string(reader::kCanon[i]), kMargin);
       expected.insert(expected.end(), found.entries.begin(), found.entries.end());
     }
     driver.Execute("type Form1.txts \"" + first + "\"");

@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 #include <string>
 
-#include "core/forms/label.h"
-#include "core/forms/menu.h"
-#include "core/forms/rich_text_box.h"
+#include "forms/label.h"
+#include "forms/menu.h"
+#include "forms/rich_text_box.h"
 #include "ui/headless/driver.h"
 
 namespace lectern {

@@ -3,7 +3,7 @@
 #include <set>
 #include <sstream>
 
-#include "core/text/letter_case.h"
+#include "base/text/letter_case.h"
 #include "tests/real/king_james.h"
 #include "tools/make_data/trivia_file.h"
 

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "core/forms/combo_box.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/list_box.h"
-#include "core/forms/rich_text_box.h"
-#include "core/forms/scroll_bar.h"
-#include "core/text/characters.h"
+#include "base/text/characters.h"
+#include "forms/combo_box.h"
+#include "forms/folder_lists.h"
+#include "forms/list_box.h"
+#include "forms/rich_text_box.h"
+#include "forms/scroll_bar.h"
 
 namespace lectern {
 

@@ -3,9 +3,9 @@
 #include <filesystem>
 #include <fstream>
 
-#include "core/canon.h"
-#include "core/forms/bitmap.h"
-#include "core/forms/picture.h"
+#include "forms/bitmap.h"
+#include "forms/picture.h"
+#include "reader/canon.h"
 
 namespace lectern {
 
@@ -116,7 +116,7 @@ void LaySmallWorld(const std::string& folder) {
 
 void LayBooksToBuildFrom(const std::string& folder) {
   constexpr std::size_t kShortName = 8;
-  for (const std::string_view book : core::kCanon) {
+  for (const std::string_view book : reader::kCanon) {
     std::ofstream(folder + "/" + std::string(book.substr(0, kShortName)) + ".txt", std::ios::binary)
         << Book({{"The river by the tent."}});
   }

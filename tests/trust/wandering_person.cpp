@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <iterator>
 
-#include "core/forms/combo_box.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/list_box.h"
-#include "core/forms/rich_text_box.h"
-#include "core/forms/scroll_bar.h"
+#include "forms/combo_box.h"
+#include "forms/folder_lists.h"
+#include "forms/list_box.h"
+#include "forms/rich_text_box.h"
+#include "forms/scroll_bar.h"
 #include "ui/headless/inspector.h"
 
 namespace lectern {

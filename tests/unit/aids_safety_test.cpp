@@ -2,8 +2,8 @@
 #include <csignal>
 #include <gtest/gtest.h>
 
-#include "core/forms/label.h"
-#include "core/forms/rich_text_box.h"
+#include "forms/label.h"
+#include "forms/rich_text_box.h"
 #include "tests/unit/stopping.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
@@ -135,7 +135,7 @@ TEST(Unreadable, ABookmarkEndsTheProgramANoteIsTold) {
   Play(driver, {"click Form1.cc0", "type Form3.txthelp \"other\""});
   driver.Files().before = [](files::Operation operation, const std::string& path) {
     if (operation == files::Operation::kRead && path.find("/mine.") != std::string::npos) {
-      throw core::RunTimeError(core::ErrorNumber::kPermissionDenied);
+      throw base::RunTimeError(base::ErrorNumber::kPermissionDenied);
     }
   };
   printed.clear();

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/canon.h"
+#include "reader/canon.h"
 #include "tests/unit/test_window.h"
 #include "tools/make_data/verses.h"
 
@@ -14,7 +14,7 @@ TEST(BookFiles, OfAPersonAreNotTakenByTheStandIn) {
   folder.Write("NGenesis.txt", "Chapter 1\r\n1   My own text.       \r\n");
   folder.Write("NExodus.txt", "Chapter 1 (Stand-in)\r\n1   Made before.       \r\n");
   folder.Write("NLeviticus.txt", "");
-  Version stand_in{.books = std::vector<Book>(core::kCanon.size()), .chapter_remark = "(Stand-in)"};
+  Version stand_in{.books = std::vector<Book>(reader::kCanon.size()), .chapter_remark = "(Stand-in)"};
   for (std::size_t book = 0; book < 4; ++book) stand_in.books[book][1][1] = "Made now.";
   WriteStandIn(stand_in, folder.Path(), "N");
   EXPECT_EQ(folder.Read("NGenesis.txt"), "Chapter 1\r\n1   My own text.       \r\n");

@@ -1,8 +1,8 @@
 // Chapter loads that the disk or the book itself brings to an end.
 #include <gtest/gtest.h>
 
-#include "core/forms/rich_text_box.h"
-#include "core/run_time_error.h"
+#include "base/run_time_error.h"
+#include "forms/rich_text_box.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
 
@@ -30,7 +30,7 @@ TEST(ChapterLoad, KeepsTheTextWhereTheDiskIsFull) {
     int writes = 0;
     open.driver.Files().before = [&](files::Operation operation, const std::string&) {
       if (operation == files::Operation::kWrite && ++writes > (length > 20 ? 1 : 0)) {
-        throw core::RunTimeError(core::ErrorNumber::kDiskFull);
+        throw base::RunTimeError(base::ErrorNumber::kDiskFull);
       }
     };
     EXPECT_EQ(open.Show("2"), "first\r\nChapter 2\r\n");

@@ -3,7 +3,7 @@
 #include <csignal>
 #include <gtest/gtest.h>
 
-#include "core/canon.h"
+#include "reader/canon.h"
 #include "tests/unit/stopping.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
@@ -38,7 +38,7 @@ const Change kOnePassBuild{"OnePassBuild", "concord.dat", {}, {"click! Form1.Com
 // A text of verses with a lamp, one a book, where both builders look for it.
 void LayOut(const TemporaryFolder& folder, const std::string& file) {
   const std::string text = "Chapter 1\r\n1   by the river       \r\n2   a lamp in the house       \r\n";
-  for (const std::string_view book : core::kCanon) {
+  for (const std::string_view book : reader::kCanon) {
     folder.Write("KJV/" + std::string(book) + ".txt", text);
     folder.Write(std::string(book.substr(0, 8)) + ".txt", text);
   }

@@ -1,4 +1,4 @@
-#include "core/error_report.h"
+#include "reader/error_report.h"
 
 #include <gtest/gtest.h>
 
@@ -10,19 +10,19 @@ namespace {
 // ODDITY(concordance-missing): a missing file of any name is told as the concordance's.
 TEST(ErrorReport, TellsAMissingFileAndAnyOtherFailure) {
   TestWindow test;
-  core::Panels panels(test.form);
-  core::Reader reader(test.form, panels);
-  core::ErrorReport report(reader);
+  reader::Panels panels(test.form);
+  reader::Reader reader(test.form, panels);
+  reader::ErrorReport report(reader);
   reader.List1.Visible = false;
 
-  report.ReportError(core::RunTimeError(core::ErrorNumber::kFileNotFound));
+  report.ReportError(base::RunTimeError(base::ErrorNumber::kFileNotFound));
   EXPECT_EQ(test.events,
             (std::vector<std::string>{
                 "message \"CONCORD.DAT missing from " + test.folder.Path() + "\" \"Lectern 2\"", "beep"}));
   EXPECT_TRUE(reader.List1.Visible);
 
   test.events.clear();
-  report.ReportError(core::RunTimeError(core::ErrorNumber::kFileAlreadyOpen));
+  report.ReportError(base::RunTimeError(base::ErrorNumber::kFileAlreadyOpen));
   EXPECT_EQ(
       test.events[0],
       "message \"An error (55 ) has occured during proccessing your request. Click HELP, for information on "

@@ -1,9 +1,9 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
-#include "core/files/file_slots.h"
-#include "core/files/path_names.h"
-#include "core/files/text_encoding.h"
+#include "base/files/file_slots.h"
+#include "base/files/path_names.h"
+#include "base/files/text_encoding.h"
 #include "tests/unit/test_window.h"
 
 namespace lectern::files {
@@ -183,7 +183,7 @@ TEST_F(Files, KeepTheVersionBeforeAndTheLongestOfThoseBeforeIt) {
 TEST_F(Files, LeaveAFileAsItWasWhenTheDiskIsFull) {
   folder.Write("words.dat", "\"kept\",\"Ruth 1 1\"\r\n");
   files.before = [](Operation operation, const std::string&) {
-    if (operation == Operation::kWrite) throw core::RunTimeError(core::ErrorNumber::kDiskFull);
+    if (operation == Operation::kWrite) throw base::RunTimeError(base::ErrorNumber::kDiskFull);
   };
   slots.OpenForAppending(1, Name("\\words.dat"));
   slots.WriteRecord(1, "new", "Ruth 1 2");

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include "core/forms/buttons.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/frame.h"
-#include "core/forms/label.h"
-#include "core/forms/list_box.h"
-#include "core/forms/scroll_bar.h"
-#include "core/forms/text_box.h"
+#include "forms/buttons.h"
+#include "forms/folder_lists.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/list_box.h"
+#include "forms/scroll_bar.h"
+#include "forms/text_box.h"
 #include "tests/unit/test_window.h"
 
 namespace lectern::forms {

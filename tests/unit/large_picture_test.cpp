@@ -1,7 +1,7 @@
 // A picture as large as a scanned page at its full resolution goes through the strip and the viewer as it is.
 #include <gtest/gtest.h>
 
-#include "core/forms/image.h"
+#include "forms/image.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
 #include "ui/headless/picture_decoder.h"

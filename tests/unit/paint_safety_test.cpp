@@ -3,9 +3,9 @@
 // `backup`.
 #include <gtest/gtest.h>
 
-#include "core/forms/label.h"
-#include "core/forms/list_box.h"
-#include "core/forms/picture.h"
+#include "forms/label.h"
+#include "forms/list_box.h"
+#include "forms/picture.h"
 #include "tests/unit/stopping.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"

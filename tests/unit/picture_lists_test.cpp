@@ -4,8 +4,8 @@
 #include <random>
 #include <set>
 
-#include "core/forms/list_box.h"
-#include "core/text/characters.h"
+#include "base/text/characters.h"
+#include "forms/list_box.h"
 #include "gallery/place.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"

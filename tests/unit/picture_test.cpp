@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "core/forms/image.h"
-#include "core/forms/picture_box.h"
+#include "forms/image.h"
+#include "forms/picture_box.h"
 #include "tests/unit/test_window.h"
 
 namespace lectern::forms {

@@ -3,7 +3,7 @@
 #include <array>
 #include <gtest/gtest.h>
 
-#include "core/forms/picture.h"
+#include "forms/picture.h"
 #include "tests/unit/stopping.h"
 #include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"

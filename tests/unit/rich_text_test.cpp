@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "core/forms/rich_text_box.h"
+#include "forms/rich_text_box.h"
 #include "tests/unit/test_window.h"
 
 namespace lectern::forms {

@@ -11,8 +11,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/files/file_system.h"
-#include "core/run_time_error.h"
+#include "base/files/file_system.h"
+#include "base/run_time_error.h"
 #include "ui/headless/driver.h"
 
 namespace lectern {
@@ -64,7 +64,7 @@ inline void FailAt(files::FileSystem& files, int n, bool& failed) {
   files.before = [left = n, &failed](files::Operation, const std::string&) mutable {
     if (--left != 0) return;
     failed = true;
-    throw core::RunTimeError(core::ErrorNumber::kDiskFull);
+    throw base::RunTimeError(base::ErrorNumber::kDiskFull);
   };
 }
 
@@ -74,7 +74,7 @@ inline void FillDiskAheadOf(files::FileSystem& files, int n, std::string& full_a
   files.before = [left = n, &full_at](files::Operation operation, const std::string& path) mutable {
     if (operation != files::Operation::kWrite || --left > 0) return;
     if (full_at.empty()) full_at = path;
-    throw core::RunTimeError(core::ErrorNumber::kDiskFull);
+    throw base::RunTimeError(base::ErrorNumber::kDiskFull);
   };
 }
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/forms/window.h"
+#include "forms/window.h"
 #include "ui/headless/headless_platform.h"
 
 namespace lectern {
@@ -52,7 +52,7 @@ int ErrorOf(Action&& action) {
   try {
     action();
     return 0;
-  } catch (const core::RunTimeError& error) {
+  } catch (const base::RunTimeError& error) {
     return error.number();
   }
 }

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "core/text/characters.h"
-#include "core/text/letter_case.h"
-#include "core/text/numbers.h"
+#include "base/text/characters.h"
+#include "base/text/letter_case.h"
+#include "base/text/numbers.h"
 #include "tests/unit/test_window.h"
 
 namespace lectern::text {

@@ -22,11 +22,11 @@ struct Game {
   }
 
   TestWindow test;
-  core::Panels panels{test.form};
-  core::ToolButtons tools{panels};
-  core::Menus menus{test.form};
-  core::Reader reader{test.form, panels};
-  core::ErrorReport error_report{reader};
+  reader::Panels panels{test.form};
+  reader::ToolButtons tools{panels};
+  reader::Menus menus{test.form};
+  reader::Reader reader{test.form, panels};
+  reader::ErrorReport error_report{reader};
   search::Trivia trivia{reader, panels, tools, menus, error_report};
   forms::ListBox& history{dynamic_cast<forms::ListBox&>(*test.form.Find("List3"))};
 };

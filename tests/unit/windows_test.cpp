@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/text/letter_case.h"
+#include "base/text/letter_case.h"
 #include "tests/unit/test_window.h"
 #include "ui/program.h"
 

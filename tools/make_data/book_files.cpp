@@ -6,8 +6,8 @@
 #include <iterator>
 #include <system_error>
 
-#include "core/canon.h"
-#include "core/files/text_encoding.h"
+#include "base/files/text_encoding.h"
+#include "reader/canon.h"
 #include "ui/headless/driver.h"
 
 namespace lectern::make_data {
@@ -49,9 +49,9 @@ void WriteFile(const std::string& path, const std::string& bytes) {
 
 void WriteBooks(const Version& version, const std::string& folder, const std::string& prefix) {
   fs::create_directories(folder);
-  for (std::size_t i = 0; i < core::kCanon.size(); ++i) {
+  for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
     if (version.books[i].empty()) continue;
-    const std::string name(core::kCanon[i]);
+    const std::string name(reader::kCanon[i]);
     const std::string text = BookText(version.books[i], version.chapter_remark);
     WriteFile(folder + "/" + prefix + name + ".txt", text);
     if (name == "1 Samuel" || name == "2 Samuel") {
@@ -62,8 +62,8 @@ void WriteBooks(const Version& version, const std::string& folder, const std::st
 
 void WriteStandIn(const Version& version, const std::string& folder, const std::string& prefix) {
   Version wanted = version;
-  for (std::size_t i = 0; i < core::kCanon.size(); ++i) {
-    std::ifstream book(folder + "/" + prefix + std::string(core::kCanon[i]) + ".txt");
+  for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
+    std::ifstream book(folder + "/" + prefix + std::string(reader::kCanon[i]) + ".txt");
     std::string first_line;
     if (std::getline(book, first_line) && first_line.find(version.chapter_remark) == std::string::npos) {
       wanted.books[i].clear();
@@ -78,9 +78,9 @@ void WriteChapterCounts(const Version& version, const std::string& data_folder) 
   const fs::path bench = fs::path(data_folder) / "making";
   fs::remove_all(bench);
   fs::create_directories(bench);
-  for (std::size_t i = 0; i < core::kCanon.size(); ++i) {
+  for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
     constexpr std::size_t kShortName = 8;
-    const std::string short_name(core::kCanon[i].substr(0, kShortName));
+    const std::string short_name(reader::kCanon[i].substr(0, kShortName));
     WriteFile((bench / (short_name + ".txt")).string(), BookText(version.books[i], ""));
   }
   std::string complaint;

@@ -6,8 +6,8 @@
 #include <iterator>
 #include <map>
 
-#include "core/forms/label.h"
-#include "core/text/characters.h"
+#include "base/text/characters.h"
+#include "forms/label.h"
 #include "tools/make_data/book_files.h"
 #include "ui/headless/driver.h"
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 
-#include "core/canon.h"
-#include "core/files/text_encoding.h"
-#include "core/text/characters.h"
-#include "core/text/letter_case.h"
+#include "base/files/text_encoding.h"
+#include "base/text/characters.h"
+#include "base/text/letter_case.h"
+#include "reader/canon.h"
 #include "tools/make_data/verse_finder.h"
 
 namespace lectern::make_data {
@@ -140,7 +140,7 @@ std::string DictionaryRecords(const std::vector<Topic>& topics, const Version& k
     const std::string definition = Definition(topic, wording);
     const VerseFinder::Verse* const use = finder.Use(topic);
     if (definition.empty() || use == nullptr) continue;
-    const std::string reference = std::string(core::kCanon[static_cast<std::size_t>(use->book)]) + " " +
+    const std::string reference = std::string(reader::kCanon[static_cast<std::size_t>(use->book)]) + " " +
                                   std::to_string(use->chapter) + ":" + std::to_string(use->verse);
     std::string record;
     for (const std::string& field : {Wording::Heading(topic.heading), definition, *use->words, reference}) {

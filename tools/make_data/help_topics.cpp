@@ -1,7 +1,7 @@
 #include "tools/make_data/help_topics.h"
 
-#include "core/files/record_reader.h"
-#include "core/text/characters.h"
+#include "base/files/record_reader.h"
+#include "base/text/characters.h"
 #include "tools/make_data/book_files.h"
 #include "tools/make_data/written_texts.h"
 

@@ -13,7 +13,7 @@
 #include <unistd.h>
 #include <vector>
 
-#include "core/canon.h"
+#include "reader/canon.h"
 #include "tools/make_data/book_files.h"
 #include "tools/make_data/concordance.h"
 #include "tools/make_data/dictionary_file.h"

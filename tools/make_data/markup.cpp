@@ -5,7 +5,7 @@
 #include <charconv>
 #include <utility>
 
-#include "core/text/characters.h"
+#include "base/text/characters.h"
 
 namespace lectern::make_data {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 
-#include "core/forms/colour.h"
+#include "forms/colour.h"
 #include "tools/make_data/book_files.h"
 
 namespace lectern::make_data {

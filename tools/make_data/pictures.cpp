@@ -7,7 +7,7 @@
 #include <tuple>
 #include <vector>
 
-#include "core/files/text_encoding.h"
+#include "base/files/text_encoding.h"
 #include "tools/make_data/book_files.h"
 #include "tools/make_data/drawings.h"
 #include "tools/make_data/picture_table.h"

@@ -6,9 +6,9 @@
 #include <iterator>
 #include <string_view>
 
-#include "core/canon.h"
-#include "core/files/record_reader.h"
-#include "core/files/text_encoding.h"
+#include "base/files/record_reader.h"
+#include "base/files/text_encoding.h"
+#include "reader/canon.h"
 #include "tools/make_data/markup.h"
 
 namespace lectern::make_data {
@@ -42,7 +42,7 @@ bool ParseReference(std::string_view line, Reference& reference) {
   return true;
 }
 
-Version EmptyVersion() { return {std::vector<Book>(core::kCanon.size()), ""}; }
+Version EmptyVersion() { return {std::vector<Book>(reader::kCanon.size()), ""}; }
 
 // One verse a line.
 Version FromLines(std::string_view text) {

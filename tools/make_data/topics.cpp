@@ -4,7 +4,7 @@
 #include <charconv>
 #include <map>
 
-#include "core/files/record_reader.h"
+#include "base/files/record_reader.h"
 #include "tools/make_data/markup.h"
 #include "tools/make_data/sources.h"
 #include "tools/make_data/verses.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "core/files/record_reader.h"
+#include "base/files/record_reader.h"
 #include "tools/make_data/verses.h"
 #include "tools/make_data/written_texts.h"
 

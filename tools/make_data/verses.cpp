@@ -3,8 +3,8 @@
 #include <array>
 #include <sstream>
 
-#include "core/canon.h"
-#include "core/text/letter_case.h"
+#include "base/text/letter_case.h"
+#include "reader/canon.h"
 
 namespace lectern::make_data {
 
@@ -27,9 +27,9 @@ constexpr std::array<const char*, 66> kAbbreviations = {
 std::map<std::string, int> Positions() {
   std::map<std::string, int> positions;
   constexpr std::array<const char*, 4> kRoman = {"", "I ", "II ", "III "};
-  for (std::size_t i = 0; i < core::kCanon.size(); ++i) {
+  for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
     const int position = static_cast<int>(i);
-    const std::string name(core::kCanon[i]);
+    const std::string name(reader::kCanon[i]);
     positions[text::Lower(name)] = position;
     if (name[0] >= '1' && name[0] <= '3') {
       positions[text::Lower(kRoman[static_cast<std::size_t>(name[0] - '0')] + name.substr(2))] = position;

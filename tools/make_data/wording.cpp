@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/text/letter_case.h"
+#include "base/text/letter_case.h"
 
 namespace lectern::make_data {
 

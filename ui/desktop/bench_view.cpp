@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 #include <cassert>
 
-#include "core/forms/frame.h"
+#include "forms/frame.h"
 #include "ui/desktop/child_views.h"
 #include "ui/desktop/view_factory.h"
 

@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/forms/window.h"
+#include "forms/window.h"
 #include "ui/desktop/control_view.h"
 #include "ui/desktop/window_view.h"
 

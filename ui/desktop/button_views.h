@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "core/forms/buttons.h"
+#include "forms/buttons.h"
 #include "ui/desktop/control_view.h"
 
 namespace lectern::desktop {

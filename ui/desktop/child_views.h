@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-#include "core/forms/control.h"
+#include "forms/control.h"
 
 namespace lectern::desktop {
 

@@ -3,8 +3,8 @@
 
 #include <QComboBox>
 
-#include "core/forms/combo_box.h"
-#include "core/forms/folder_lists.h"
+#include "forms/combo_box.h"
+#include "forms/folder_lists.h"
 #include "ui/desktop/control_view.h"
 
 namespace lectern::desktop {

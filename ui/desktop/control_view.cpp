@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/forms/picture_box.h"
-#include "core/forms/shape.h"
-#include "core/forms/window.h"
+#include "forms/picture_box.h"
+#include "forms/shape.h"
+#include "forms/window.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/pictures.h"
 #include "ui/desktop/theme.h"

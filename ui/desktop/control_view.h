@@ -12,7 +12,7 @@
 #include <optional>
 #include <utility>
 
-#include "core/forms/control.h"
+#include "forms/control.h"
 #include "ui/desktop/events.h"
 
 namespace lectern::desktop {

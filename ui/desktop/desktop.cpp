@@ -53,7 +53,7 @@ void Desktop::JoinWindows() {
 }
 
 void Desktop::JoinPlatform() {
-  program_.report_failure = [this](const core::RunTimeError& error) { platform_.Report(error); };
+  program_.report_failure = [this](const base::RunTimeError& error) { platform_.Report(error); };
   platform_.before_box = [this] {
     events_.ShowAll();
     return FrontFrame();

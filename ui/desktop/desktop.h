@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "core/files/file_system.h"
+#include "base/files/file_system.h"
 #include "ui/desktop/bench_view.h"
 #include "ui/desktop/events.h"
 #include "ui/desktop/platform.h"

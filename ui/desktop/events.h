@@ -11,7 +11,7 @@
 #include <functional>
 #include <vector>
 
-#include "core/forms/window.h"
+#include "forms/window.h"
 
 namespace lectern::desktop {
 

@@ -1,7 +1,7 @@
 // Shapes and lines: looked at, and nothing else.
 #pragma once
 
-#include "core/forms/shape.h"
+#include "forms/shape.h"
 #include "ui/desktop/control_view.h"
 
 namespace lectern::desktop {

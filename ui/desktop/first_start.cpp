@@ -12,7 +12,7 @@
 #include <system_error>
 #include <utility>
 
-#include "core/files/file_system.h"
+#include "base/files/file_system.h"
 #include "ui/desktop/doorbell.h"
 #include "ui/desktop/icon.h"
 #include "ui/desktop/one_program.h"

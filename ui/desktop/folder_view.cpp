@@ -1,6 +1,6 @@
 #include "ui/desktop/folder_view.h"
 
-#include "core/forms/window.h"
+#include "forms/window.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/list_widget.h"
 #include "ui/desktop/window_view.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "core/forms/folder_lists.h"
+#include "forms/folder_lists.h"
 #include "ui/desktop/control_view.h"
 
 namespace lectern::desktop {

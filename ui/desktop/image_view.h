@@ -3,7 +3,7 @@
 
 #include <QPixmap>
 
-#include "core/forms/image.h"
+#include "forms/image.h"
 #include "ui/desktop/clickable_view.h"
 
 namespace lectern::desktop {

@@ -3,7 +3,7 @@
 #include <QKeySequence>
 #include <utility>
 
-#include "core/forms/control.h"
+#include "forms/control.h"
 
 namespace lectern::desktop {
 

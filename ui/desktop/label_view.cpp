@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <utility>
 
-#include "core/forms/buttons.h"
-#include "core/forms/window.h"
+#include "forms/buttons.h"
+#include "forms/window.h"
 #include "ui/desktop/spoken.h"
 #include "ui/desktop/style.h"
 #include "ui/desktop/text_fit.h"

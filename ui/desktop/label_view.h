@@ -1,7 +1,7 @@
 // A label: text that fits its place, and stands in as the text of an option that has none of its own.
 #pragma once
 
-#include "core/forms/label.h"
+#include "forms/label.h"
 #include "ui/desktop/clickable_view.h"
 #include "ui/desktop/design_text.h"
 

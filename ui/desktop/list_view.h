@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "core/forms/list_box.h"
+#include "forms/list_box.h"
 #include "ui/desktop/control_view.h"
 
 namespace lectern::desktop {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "core/forms/menu.h"
+#include "forms/menu.h"
 #include "ui/desktop/events.h"
 
 namespace lectern::desktop {

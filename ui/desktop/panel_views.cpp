@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "core/forms/window.h"
+#include "forms/window.h"
 #include "ui/desktop/painted_widget.h"
 #include "ui/desktop/pictures.h"
 #include "ui/desktop/style.h"

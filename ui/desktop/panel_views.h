@@ -4,8 +4,8 @@
 
 #include <memory>
 
-#include "core/forms/frame.h"
-#include "core/forms/picture_box.h"
+#include "forms/frame.h"
+#include "forms/picture_box.h"
 #include "ui/desktop/child_views.h"
 #include "ui/desktop/clickable_view.h"
 #include "ui/desktop/key_pen.h"

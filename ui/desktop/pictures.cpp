@@ -10,8 +10,8 @@
 #include <string>
 #include <utility>
 
-#include "core/forms/control.h"
-#include "core/run_time_error.h"
+#include "base/run_time_error.h"
+#include "forms/control.h"
 
 namespace lectern::desktop {
 
@@ -145,7 +145,7 @@ QImage ImageOf(const forms::Bitmap& bitmap) {
 }
 
 forms::Picture Decode(std::string_view bytes) {
-  const core::RunTimeError none(core::ErrorNumber::kInvalidPicture);
+  const base::RunTimeError none(base::ErrorNumber::kInvalidPicture);
   const char* const format = FormatOf(bytes);
   if (format == nullptr) throw none;
 

@@ -7,7 +7,7 @@
 #include <QPixmap>
 #include <string_view>
 
-#include "core/forms/picture.h"
+#include "forms/picture.h"
 
 namespace lectern::desktop {
 

@@ -14,7 +14,7 @@
 #include <algorithm>
 #include <chrono>
 
-#include "core/forms/window.h"
+#include "forms/window.h"
 #include "ui/desktop/pictures.h"
 
 namespace lectern::desktop {
@@ -63,16 +63,16 @@ std::string DesktopPlatform::Input(std::string_view prompt, std::string_view tit
   return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
-void DesktopPlatform::Report(const core::RunTimeError& error) {
+void DesktopPlatform::Report(const base::RunTimeError& error) {
   QMessageBox box(before_box());
-  Prepare(box, error.Report(), core::kProgramName);
+  Prepare(box, error.Report(), base::kProgramName);
   box.setIcon(QMessageBox::Critical);
   box.exec();
 }
 
 void DesktopPlatform::Beep() { QApplication::beep(); }
 
-core::Date DesktopPlatform::Today() {
+base::Date DesktopPlatform::Today() {
   const QDate today = QDate::currentDate();
   return {today.year(), today.month(), today.day()};
 }
@@ -93,7 +93,7 @@ std::vector<std::string> DesktopPlatform::FontNames() {
   return names;
 }
 
-core::ScreenSize DesktopPlatform::Screen() {
+base::ScreenSize DesktopPlatform::Screen() {
   const QSize size = QApplication::primaryScreen()->size();
   return {size.width() * forms::kTwipsPerPixel, size.height() * forms::kTwipsPerPixel};
 }
@@ -102,7 +102,7 @@ forms::Picture DesktopPlatform::DecodePicture(std::string_view bytes) { return D
 
 // In the size that it has on the screen, or as large as the paper where that is smaller.
 void DesktopPlatform::PrintForm(forms::Window& window) {
-  const core::RunTimeError no_answer(core::ErrorNumber::kPrinter);
+  const base::RunTimeError no_answer(base::ErrorNumber::kPrinter);
   if (QPrinterInfo::defaultPrinter().isNull()) throw no_answer;
   QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
   QPainter painter;

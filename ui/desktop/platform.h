@@ -5,30 +5,30 @@
 #include <functional>
 #include <random>
 
-#include "core/platform.h"
-#include "core/run_time_error.h"
+#include "base/platform.h"
+#include "base/run_time_error.h"
 
 namespace lectern::desktop {
 
-class DesktopPlatform : public core::Platform {
+class DesktopPlatform : public base::Platform {
  public:
   DesktopPlatform();
 
-  void Message(std::string_view text, std::string_view title = core::kProgramName) override;
+  void Message(std::string_view text, std::string_view title = base::kProgramName) override;
   bool Question(std::string_view text, std::string_view title) override;
   std::string Input(std::string_view prompt, std::string_view title, std::string_view proposed) override;
   void Beep() override;
-  core::Date Today() override;
+  base::Date Today() override;
   void SeedRandom() override;
   double Random() override;
   std::vector<std::string> FontNames() override;
-  core::ScreenSize Screen() override;
+  base::ScreenSize Screen() override;
   forms::Picture DecodePicture(std::string_view bytes) override;
   void PrintForm(forms::Window& window) override;
   bool OpenInBrowser(std::string_view address) override;
 
   // The box of a failure that nothing trapped.
-  void Report(const core::RunTimeError& error);
+  void Report(const base::RunTimeError& error);
 
   // Ahead of a box: shows what stands so far, and says over which window the box belongs.
   std::function<QWidget*()> before_box;

@@ -4,7 +4,7 @@
 #include <QProgressBar>
 #include <algorithm>
 
-#include "core/forms/progress_bar.h"
+#include "forms/progress_bar.h"
 #include "ui/desktop/control_view.h"
 #include "ui/desktop/window_view.h"
 

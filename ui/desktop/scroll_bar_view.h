@@ -5,7 +5,7 @@
 
 #include <QScrollBar>
 
-#include "core/forms/scroll_bar.h"
+#include "forms/scroll_bar.h"
 #include "ui/desktop/control_view.h"
 
 namespace lectern::desktop {

@@ -3,7 +3,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
-#include "core/forms/rich_text.h"
+#include "forms/rich_text.h"
 #include "ui/desktop/design_text.h"
 #include "ui/desktop/keys.h"
 #include "ui/desktop/window_view.h"

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "core/forms/text_box.h"
+#include "forms/text_box.h"
 #include "ui/desktop/control_view.h"
 
 namespace lectern::desktop {

@@ -6,7 +6,7 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
-#include "core/forms/rich_text.h"
+#include "forms/rich_text.h"
 #include "ui/desktop/text_positions.h"
 
 namespace lectern::desktop {

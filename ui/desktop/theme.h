@@ -7,7 +7,7 @@
 #include <QFont>
 #include <QPalette>
 
-#include "core/forms/control.h"
+#include "forms/control.h"
 
 namespace lectern::desktop {
 

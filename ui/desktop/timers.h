@@ -9,8 +9,8 @@
 #include <memory>
 #include <vector>
 
-#include "core/forms/timer.h"
-#include "core/forms/window.h"
+#include "forms/timer.h"
+#include "forms/window.h"
 #include "ui/desktop/events.h"
 
 namespace lectern::desktop {

@@ -4,7 +4,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "core/forms/control.h"
+#include "forms/control.h"
 #include "ui/desktop/control_view.h"
 
 namespace lectern::desktop {

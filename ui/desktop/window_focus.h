@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-#include "core/forms/window.h"
+#include "forms/window.h"
 #include "ui/desktop/events.h"
 
 namespace lectern::desktop {

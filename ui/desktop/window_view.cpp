@@ -8,7 +8,7 @@
 #include <cmath>
 #include <utility>
 
-#include "core/forms/buttons.h"
+#include "forms/buttons.h"
 #include "ui/desktop/child_views.h"
 #include "ui/desktop/control_view.h"
 #include "ui/desktop/fitted_face.h"

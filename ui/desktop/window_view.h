@@ -14,7 +14,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/forms/window.h"
+#include "forms/window.h"
 #include "ui/desktop/events.h"
 
 namespace lectern::desktop {

@@ -6,7 +6,7 @@
 namespace lectern::ui {
 
 Form1::Form1(forms::Services services, const OtherWindows& others)
-    : Window(services, "Form1", core::kProgramName),
+    : Window(services, "Form1", base::kProgramName),
       menus(*this),
       panels(*this),
       tools(panels),

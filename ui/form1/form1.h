@@ -8,19 +8,6 @@
 #include "aids/help.h"
 #include "aids/notes_doors.h"
 #include "aids/page_printing.h"
-#include "core/catalogue.h"
-#include "core/chapter_store.h"
-#include "core/error_report.h"
-#include "core/exits.h"
-#include "core/menus.h"
-#include "core/navigation.h"
-#include "core/panels.h"
-#include "core/reader.h"
-#include "core/second_pane.h"
-#include "core/settings.h"
-#include "core/start_up.h"
-#include "core/stories.h"
-#include "core/tool_buttons.h"
 #include "gallery/book_converter.h"
 #include "gallery/browser.h"
 #include "gallery/maintenance.h"
@@ -28,6 +15,19 @@
 #include "gallery/older_list.h"
 #include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"
+#include "reader/catalogue.h"
+#include "reader/chapter_store.h"
+#include "reader/error_report.h"
+#include "reader/exits.h"
+#include "reader/menus.h"
+#include "reader/navigation.h"
+#include "reader/panels.h"
+#include "reader/reader.h"
+#include "reader/second_pane.h"
+#include "reader/settings.h"
+#include "reader/start_up.h"
+#include "reader/stories.h"
+#include "reader/tool_buttons.h"
 #include "search/concordance_builder.h"
 #include "search/concordance_editing.h"
 #include "search/concordance_viewer.h"
@@ -59,17 +59,17 @@ class Form1 : public forms::Window {
   gallery::Viewer& PictureViewer() { return viewer; }
 
  private:
-  core::Menus menus;
-  core::Panels panels;
-  core::ToolButtons tools;
-  core::Reader reader;
-  core::SecondPane second_pane;
-  core::Settings settings;
-  core::ErrorReport error_report;
-  core::ChapterStore chapter_store;
-  core::Catalogue catalogue;
-  core::Navigation navigation;
-  core::Stories stories;
+  reader::Menus menus;
+  reader::Panels panels;
+  reader::ToolButtons tools;
+  reader::Reader reader;
+  reader::SecondPane second_pane;
+  reader::Settings settings;
+  reader::ErrorReport error_report;
+  reader::ChapterStore chapter_store;
+  reader::Catalogue catalogue;
+  reader::Navigation navigation;
+  reader::Stories stories;
   search::TextSearch text_search;
   search::ResultNavigation result_navigation;
   search::ConcordanceViewer concordance_viewer;
@@ -89,8 +89,8 @@ class Form1 : public forms::Window {
   gallery::OldCatalogue old_catalogue;
   gallery::OlderList older_list;
   gallery::BookConverter book_converter;
-  core::StartUp start_up;
-  core::Exits exits;
+  reader::StartUp start_up;
+  reader::Exits exits;
 };
 
 }  // namespace lectern::ui

@@ -1,6 +1,6 @@
 #include "ui/form4/form4.h"
 
-#include "core/error_modes.h"
+#include "base/error_modes.h"
 #include "paint/drawings.h"
 #include "ui/form4/places.h"
 
@@ -29,8 +29,8 @@ Form4::Form4(forms::Services services, gallery::PictureCatalogue& gallery, galle
 }
 
 void Form4::Form_Load() {
-  const core::Ignoring ignore;
-  const core::ScreenSize screen = Platform().Screen();
+  const base::Ignoring ignore;
+  const base::ScreenSize screen = Platform().Screen();
   ignore([&] { Top = (screen.height - Height) / 2; });
   ignore([&] { Left = (screen.width - Width) / 2; });
   ignore([&] { palette.LoadColours(); });

@@ -6,13 +6,13 @@
 #include <optional>
 #include <utility>
 
-#include "core/forms/list_box.h"
-#include "core/run_time_error.h"
-#include "core/text/letter_case.h"
+#include "base/run_time_error.h"
+#include "base/text/letter_case.h"
+#include "forms/list_box.h"
 
 namespace lectern::headless {
 
-using core::RunTimeError;
+using base::RunTimeError;
 
 namespace {
 
@@ -141,7 +141,7 @@ namespace {
 
 // Selected(index) of a list that holds one selection: taking it off another item changes nothing.
 void SetSelected(forms::ItemList& list, int index, bool selected) {
-  if (index < 0 || index >= list.ListCount()) throw RunTimeError(core::ErrorNumber::kInvalidProperty);
+  if (index < 0 || index >= list.ListCount()) throw RunTimeError(base::ErrorNumber::kInvalidProperty);
   if (selected) {
     list.Select(index);
   } else if (list.Selected(index)) {
@@ -217,7 +217,7 @@ void Driver::LayAnswer(const std::vector<Word>& words) {
 void Driver::SetDate(const std::vector<Word>& words) {
   const Misunderstood wanted{"a date is wanted: YYYY-MM-DD"};
   if (words.size() != 1) throw wanted;
-  core::Date date;
+  base::Date date;
   std::string_view left = words[0].text;
   for (int* part : {&date.year, &date.month, &date.day}) {
     const auto [end, failure] = std::from_chars(left.data(), left.data() + left.size(), *part);

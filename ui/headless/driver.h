@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/files/file_system.h"
+#include "base/files/file_system.h"
 #include "ui/headless/headless_platform.h"
 #include "ui/headless/inspector.h"
 #include "ui/headless/scripted_person.h"

@@ -5,8 +5,8 @@
 #include <ctime>
 #include <utility>
 
-#include "core/forms/window.h"
-#include "core/run_time_error.h"
+#include "base/run_time_error.h"
+#include "forms/window.h"
 #include "ui/headless/picture_decoder.h"
 #include "ui/headless/values.h"
 
@@ -50,7 +50,7 @@ std::string HeadlessPlatform::Input(std::string_view prompt, std::string_view ti
 
 void HeadlessPlatform::Beep() { event_("beep"); }
 
-core::Date HeadlessPlatform::Today() {
+base::Date HeadlessPlatform::Today() {
   if (date) return *date;
   const std::time_t now = std::time(nullptr);
   std::tm today{};
@@ -77,7 +77,7 @@ forms::Picture HeadlessPlatform::DecodePicture(std::string_view bytes) {
 }
 
 void HeadlessPlatform::PrintForm(forms::Window& window) {
-  if (!has_printer) throw core::RunTimeError(core::ErrorNumber::kPrinter);
+  if (!has_printer) throw base::RunTimeError(base::ErrorNumber::kPrinter);
   const auto pixels = [](double twips) { return std::to_string(std::lround(twips / forms::kTwipsPerPixel)); };
   event_("print " + window.Name() + " " + pixels(window.ClientWidth()) + "x" + pixels(window.ClientHeight()));
 }

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "core/platform.h"
+#include "base/platform.h"
 
 namespace lectern::headless {
 
@@ -20,7 +20,7 @@ struct Answer {
   std::string text;
 };
 
-class HeadlessPlatform : public core::Platform {
+class HeadlessPlatform : public base::Platform {
  public:
   // Each event goes to `event` as one line without its end.
   explicit HeadlessPlatform(std::function<void(const std::string&)> event);
@@ -29,11 +29,11 @@ class HeadlessPlatform : public core::Platform {
   bool Question(std::string_view text, std::string_view title) override;
   std::string Input(std::string_view prompt, std::string_view title, std::string_view proposed) override;
   void Beep() override;
-  core::Date Today() override;
+  base::Date Today() override;
   void SeedRandom() override;
   double Random() override;
   std::vector<std::string> FontNames() override { return fonts; }
-  core::ScreenSize Screen() override { return screen; }
+  base::ScreenSize Screen() override { return screen; }
   forms::Picture DecodePicture(std::string_view bytes) override;
   void PrintForm(forms::Window& window) override;
   bool OpenInBrowser(std::string_view address) override;
@@ -41,8 +41,8 @@ class HeadlessPlatform : public core::Platform {
   // What a script lays ready.
   std::deque<Answer> answers;
   std::deque<double> random_numbers;  // before the real source goes on
-  std::optional<core::Date> date;     // the clock's where not set
-  core::ScreenSize screen;
+  std::optional<base::Date> date;     // the clock's where not set
+  base::ScreenSize screen;
   std::vector<std::string> fonts;
   bool has_printer = false;
 

@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "core/forms/combo_box.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/list_box.h"
-#include "core/forms/menu.h"
-#include "core/text/letter_case.h"
+#include "base/text/letter_case.h"
+#include "forms/combo_box.h"
+#include "forms/folder_lists.h"
+#include "forms/list_box.h"
+#include "forms/menu.h"
 
 namespace lectern::headless {
 

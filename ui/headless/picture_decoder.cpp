@@ -4,7 +4,7 @@
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <memory>
 
-#include "core/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace lectern::headless {
 
@@ -45,7 +45,7 @@ void NoteSize(GdkPixbufLoader* loader, gint width, gint height, gpointer too_lar
 }  // namespace
 
 forms::Picture DecodePicture(std::string_view bytes) {
-  const core::RunTimeError none(core::ErrorNumber::kInvalidPicture);
+  const base::RunTimeError none(base::ErrorNumber::kInvalidPicture);
   const std::unique_ptr<GdkPixbufLoader, Unreference> loader(gdk_pixbuf_loader_new());
   bool too_large = false;
   g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(NoteSize), &too_large);

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "core/forms/picture.h"
+#include "forms/picture.h"
 
 namespace lectern::headless {
 

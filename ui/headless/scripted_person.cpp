@@ -4,10 +4,10 @@
 #include <optional>
 #include <utility>
 
-#include "core/forms/combo_box.h"
-#include "core/forms/folder_lists.h"
-#include "core/forms/list_box.h"
-#include "core/forms/scroll_bar.h"
+#include "forms/combo_box.h"
+#include "forms/folder_lists.h"
+#include "forms/list_box.h"
+#include "forms/scroll_bar.h"
 #include "ui/headless/inspector.h"
 
 namespace lectern::headless {

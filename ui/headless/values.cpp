@@ -3,9 +3,9 @@
 #include <charconv>
 #include <cmath>
 
-#include "core/text/characters.h"
-#include "core/text/letter_case.h"
-#include "core/text/numbers.h"
+#include "base/text/characters.h"
+#include "base/text/letter_case.h"
+#include "base/text/numbers.h"
 
 namespace lectern::headless {
 

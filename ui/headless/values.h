@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/forms/value.h"
+#include "forms/value.h"
 
 namespace lectern::headless {
 

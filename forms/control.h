@@ -1,0 +1,244 @@
+// A control: a plain object that holds its state under the names the handlers use. A layer shows it and
+// brings in what a person does; without a layer it works all the same.
+//
+// A control belongs to the window or the panel it is made in, which outlives it, and never moves in memory.
+// Places and sizes are in twips (1/1440 inch, 15 to a pixel at 96 dots an inch), within the parent.
+#pragma once
+
+#include <deque>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/colour.h"
+#include "forms/event.h"
+#include "forms/property.h"
+
+namespace lectern::forms {
+
+class Container;
+class Control;
+class Window;
+
+inline constexpr int kPointerDefault = 0;
+inline constexpr int kPointerArrow = 1;
+inline constexpr int kPointerHourglass = 11;
+inline constexpr int kPointerCustom = 99;  // shows the control's MouseIcon
+
+inline constexpr int kEnterKey = 13;
+inline constexpr int kEscapeKey = 27;
+
+enum class Kind {
+  kLabel,
+  kTextBox,
+  kListBox,
+  kComboBox,
+  kCommandButton,
+  kOptionButton,
+  kMenu,
+  kHScrollBar,
+  kTimer,
+  kFrame,
+  kPictureBox,
+  kImage,
+  kShape,
+  kLine,
+  kDirListBox,
+  kDriveListBox,
+  kFileListBox,
+  kRichTextBox,
+  kProgressBar,
+  kSSCommand,
+  kSSOption,
+};
+
+const char* KindName(Kind kind);
+
+// The state a control is made with, before any handler runs; what a kind has no use for is passed over.
+struct Design {
+  std::string_view caption{};  // or the text of a box
+  bool visible = true;
+  bool enabled = true;
+  bool sorted = false;      // a list that keeps itself in order
+  bool multi_line = false;  // a text box of several lines
+  bool read_only = false;   // a person may select and copy, not edit
+  int value = 0;            // of a scroll bar, a progress bar, an option (0 or 1)
+  int min = 0;
+  int max = 0;
+  int large_step = 1;  // how far a click into a scroll bar's trough goes
+  int interval = 0;    // of a timer, milliseconds
+  std::string_view pattern = "*";
+  std::string_view shortcut{};  // of a menu entry, such as "Ctrl+S"
+  std::string_view key_back{};  // steps a scroll bar back, wherever the focus is, such as "Ctrl+PgUp"
+  std::string_view key_on{};    // the same for a step on
+  std::string_view name{};      // what a screen reader says; the caption where empty
+  bool is_echo = false;         // shows what another control says already, and is not read out
+  bool is_default = false;      // the button that Enter presses in its panel
+  bool is_cancel = false;       // the button that Escape presses in its panel
+  Colour back_color = kButtonFace;
+  Colour fore_color = kButtonText;
+};
+
+// A press or a movement of the mouse over a control, in the control's own scale.
+struct MouseEvent {
+  int button = 1;  // 1 left, 2 right, 4 middle, 0 none
+  int shift = 0;   // 1 shift, 2 control, 4 alt
+  double x = 0;
+  double y = 0;
+};
+
+// Why a person cannot act on a control.
+enum class Refusal { kNone, kDisabled, kHidden };
+
+// Whatever holds controls: a window, a frame, a picture box, a menu.
+class Container {
+ public:
+  Container() = default;
+  Container(const Container&) = delete;
+  Container& operator=(const Container&) = delete;
+  virtual ~Container() = default;
+
+  virtual Window& HostWindow() = 0;
+  virtual bool IsShown() const = 0;
+  virtual std::string ContainerName() const = 0;
+  virtual Container* Outer() const = 0;  // what it lies in itself; nullptr for a window
+
+  const std::vector<Control*>& Children() const { return children_; }
+
+ private:
+  friend class Control;
+  std::vector<Control*> children_;
+};
+
+class Control : public PropertyOwner {
+ public:
+  Control(Container& parent, Kind kind, std::string name, const Design& design);
+  ~Control() override;
+
+  Kind GetKind() const { return kind_; }
+  const std::string& Name() const { return name_; }
+  int Index() const { return index_; }  // its place in a control array, or -1
+  void PutInArray(int index) { index_ = index; }
+  std::string FullName() const;  // "lblc", "LBLMRK(2)"
+  Container& Parent() const { return parent_; }
+  Window& HostWindow() const { return parent_.HostWindow(); }
+  const std::string& AccessibleName() const { return accessible_name_; }
+  bool HasNameOfItsOwn() const { return has_name_of_its_own_; }  // beside its caption
+
+  // Whether it is to be seen, along with everything that it lies in.
+  bool IsShown() const;
+  Refusal RefusesPerson() const;
+
+  // When it was last made visible, as a number that grows: of panels that overlap the last shown is on top.
+  unsigned ShownAt() const { return shown_at_; }
+
+  bool IsEcho() const { return is_echo_; }
+  bool IsDefaultButton() const { return is_default_; }
+  bool IsCancelButton() const { return is_cancel_; }
+
+  // What is only read, such as List(3), Point(10,12) or Sorted; false where the control has none of that
+  // name.
+  virtual bool ReadIndexed(std::string_view property, const std::vector<int>& arguments, Value& value) const;
+
+  // The window it lies in was hidden.
+  virtual void WindowWasHidden() {}
+
+  // What a person does at the control. Handlers never call these; views and scripts do. Whether the
+  // control can be reached is the caller's question (RefusesPerson).
+  virtual void PersonClicks();
+  void PersonDoubleClicks();
+  void PersonPresses(const MouseEvent& mouse);
+  void PersonMoves(const MouseEvent& mouse);
+  void PersonKeys(int code);
+  virtual void PersonTypes(const std::string& text);
+
+  Property<bool> Enabled;
+  RuledProperty<bool> Visible;
+
+  Event<> Click;
+  Event<> DblClick;
+  Event<int> KeyDown;  // the key's code
+  Event<MouseEvent> MouseDown;
+  Event<MouseEvent> MouseMove;
+  Event<> LostFocus;
+
+ private:
+  Kind kind_;
+  std::string name_;
+  int index_ = -1;
+  Container& parent_;
+  std::string accessible_name_;
+  bool has_name_of_its_own_;
+  bool is_echo_;
+  bool is_default_;
+  bool is_cancel_;
+  unsigned shown_at_ = 0;
+};
+
+// A control that has a place on the window; menus and timers have none.
+class PlacedControl : public Control {
+ public:
+  PlacedControl(Container& parent, Kind kind, std::string name, const Design& design);
+
+  void SetFocus();
+
+  Property<double> Left;
+  Property<double> Top;
+  RuledProperty<double> Width;
+  RuledProperty<double> Height;
+  Property<int> MousePointer;
+  Property<Colour> BackColor;
+  Property<Colour> ForeColor;
+
+ protected:
+  virtual void SizeWritten() {}
+};
+
+// The font of a control that shows text. A size is refused (error 380) unless it is one that a font can
+// have; any name is taken, and the system shows the nearest font it has.
+class TextControl : public PlacedControl {
+ public:
+  TextControl(Container& parent, Kind kind, std::string name, const Design& design);
+
+  Property<std::string> FontName;
+  RuledProperty<double> FontSize;  // points
+  Property<bool> FontBold;
+  Property<bool> FontItalic;
+};
+
+// Controls of one name, told apart by an index from 0; error 9 for an index outside.
+template <class Kind>
+class ControlArray {
+ public:
+  template <class... Arguments>
+  ControlArray(Container& parent, const char* name, int count, const Arguments&... arguments) {
+    for (int i = 0; i < count; ++i) Add(parent, name, Design{}, arguments...);
+  }
+  // One control for each design, in order.
+  ControlArray(Container& parent, const char* name, std::initializer_list<Design> designs) {
+    for (const Design& design : designs) Add(parent, name, design);
+  }
+
+  Kind& operator()(int index) {
+    if (index < 0 || index >= Count()) throw base::RunTimeError(base::ErrorNumber::kSubscript);
+    return controls_[static_cast<std::size_t>(index)];
+  }
+  const Kind& operator()(int index) const { return const_cast<ControlArray&>(*this)(index); }
+  int Count() const { return static_cast<int>(controls_.size()); }
+
+  // Joins handlers: calls `join(index, control)` for each control.
+  template <class Join>
+  void ForEach(Join join) {
+    for (int i = 0; i < Count(); ++i) join(i, (*this)(i));
+  }
+
+ private:
+  void Add(Container& parent, const char* name, const Design& design) {
+    controls_.emplace_back(parent, name, design).PutInArray(Count() - 1);
+  }
+
+  std::deque<Kind> controls_;
+};
+
+}  // namespace lectern::forms

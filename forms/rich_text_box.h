@@ -1,0 +1,92 @@
+// A pane of text with runs of style, a font of its own, a selection and a search.
+//
+// Positions count characters of Text from 0, and a line end is CR LF, two of them. A pane that is read-only
+// lets a person select and copy; the program's own code writes all the same.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/control.h"
+#include "forms/rich_text.h"
+
+namespace lectern::forms {
+
+inline constexpr int kFindWholeWord = 2;
+inline constexpr int kFindMatchCase = 4;
+inline constexpr int kFindNoHighlight = 8;
+
+class RichTextBox : public TextControl {
+ public:
+  RichTextBox(Container& parent, std::string name, const Design& design = {});
+
+  bool ReadOnly() const { return read_only_; }
+
+  // Replaces the whole content from a file: rich text where the file begins as such, plain text where not.
+  // Change runs, also where the text is the same.
+  void LoadFile(std::string_view path);
+
+  // Replaces the whole content by rich text.
+  void Show(RichText content);
+
+  // Where `sought` stands first at or behind `start`; -1 where it does not, and for an empty text. Case
+  // does not matter, and the inside of words counts. With kFindNoHighlight the selection stays; without, it
+  // moves to what was found.
+  int Find(std::string_view sought, int start, int options);
+
+  // Gives `length` characters from each start on a colour, as SelColor would one after the other. The starts
+  // ascend, at least that far from one another.
+  void ColourPlaces(const std::vector<std::size_t>& starts, std::size_t length, Colour colour);
+
+  const TextRuns& Runs() const { return runs_; }
+  bool TextIsAscii() const { return is_ascii_; }
+
+  // Grow whenever the program's own code changed the text, or the style of some of it.
+  unsigned TextGeneration() const { return text_generation_; }
+  unsigned StyleGeneration() const { return style_generation_; }
+
+  // The person replaces `removed` characters from `start` on.
+  void PersonEdits(std::size_t start, std::size_t removed, std::string_view inserted);
+  void PersonTypes(const std::string& text) override;
+  void PersonSelects(int start, int length);
+
+  RuledProperty<std::string> Text;
+  RuledProperty<int> SelStart;  // writing it leaves nothing selected
+  RuledProperty<int> SelLength;
+  ComputedProperty<std::string> SelText;  // writing it puts the text in the selection's place
+  ComputedProperty<Colour> SelColor;      // of the selection; read from its first character
+  Event<> Change;
+
+  // What the person selected, with word of where it stands, as it is copied for use elsewhere; "" where the
+  // selection holds nothing of the kind. Empty for a pane whose text is not quoted.
+  std::function<std::string()> Quote;
+
+ private:
+  // A character's position and where its bytes begin.
+  struct Place {
+    std::size_t position = 0;
+    std::size_t byte = 0;
+  };
+
+  void Replace(std::size_t start, std::size_t removed, std::string_view inserted);
+  void TextWritten();
+  void PutSelectionInside();
+  std::size_t LengthInCharacters();
+  std::size_t ByteOf(std::size_t position);  // the text's size where there is no such position
+
+  TextRuns runs_;
+  // What was counted of a text that is not plain ASCII, until it changes: whoever goes through it find by
+  // find does not count it from its beginning each time.
+  std::optional<std::size_t> length_;
+  Place reached_;
+  bool read_only_;
+  bool is_ascii_ = true;
+  bool editing_ = false;  // while Text changes in part, and the runs with it
+  unsigned text_generation_ = 0;
+  unsigned style_generation_ = 0;
+};
+
+}  // namespace lectern::forms

@@ -1,0 +1,34 @@
+// A box of plain text that a person edits: one line, or several.
+#pragma once
+
+#include "forms/control.h"
+
+namespace lectern::forms {
+
+class TextBox : public TextControl {
+ public:
+  TextBox(Container& parent, std::string name, const Design& design = {})
+      : TextControl(parent, Kind::kTextBox, std::move(name), design),
+        Text(*this, "Text", std::string(design.caption), {.change = [this] { Change(); }}),
+        multi_line_(design.multi_line),
+        read_only_(design.read_only) {
+    BackColor = kWindowBackground;
+    ForeColor = kWindowText;
+  }
+
+  bool MultiLine() const { return multi_line_; }
+  bool ReadOnly() const { return read_only_; }
+
+  void PersonTypes(const std::string& text) override {
+    if (!read_only_) Text = text;
+  }
+
+  RuledProperty<std::string> Text;
+  Event<> Change;
+
+ private:
+  bool multi_line_;
+  bool read_only_;
+};
+
+}  // namespace lectern::forms

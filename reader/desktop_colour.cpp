@@ -1,0 +1,61 @@
+#include "reader/desktop_colour.h"
+
+#include "base/text/numbers.h"
+
+namespace lectern::reader {
+
+namespace {
+
+struct Swatch {
+  const char* control;
+  forms::Colour colour;
+  const char* name;
+};
+
+constexpr Swatch kSwatches[] = {
+    {"Picture25", 0x00C0C0C0, "Light grey"},
+    {"Picture26", 0x00FF00FF, "Magenta"},
+    {"Picture27", 0x00FF0000, "Blue"},
+    {"Picture28", 0x00FFFF00, "Cyan"},
+    {"Picture29", 0x0000FF00, "Green"},
+    {"Picture30", 0x0000FFFF, "Yellow"},
+    {"Picture31", 0x000080FF, "Orange"},
+    {"Picture32", 0x000000FF, "Red"},
+    {"Picture33", 0x00000000, "Black"},
+    {"Picture34", 0x00808080, "Grey"},
+    {"Picture35", forms::kWindowBackground, "Window colour"},
+};
+
+}  // namespace
+
+DesktopColour::DesktopColour(Panels& the_panels)
+    : panels(the_panels),
+      Option2(panels.Picture23, "Option2", {.caption = "Front Color", .value = 1}),
+      Option3(panels.Picture23, "Option3", {.caption = "Back Color"}),
+      Picture24(panels.Picture23, "Picture24", {.name = "Colours"}) {
+  for (const Swatch& swatch : kSwatches) {
+    forms::PictureBox& box = swatches_.emplace_back(
+        Picture24, swatch.control, forms::Design{.name = swatch.name, .back_color = swatch.colour});
+    box.Click = [this, &box] { Swatch_Click(box); };
+  }
+}
+
+void DesktopColour::Swatch_Click(forms::PictureBox& swatch) {
+  ChosenColour = std::to_string(swatch.BackColor);
+  if (Option3.Value) {
+    panels.Picture23.HostWindow().BackColor = text::ToLong(ChosenColour);
+  } else {
+    ApplyDesktopColour();
+  }
+}
+
+// ODDITY(front-colour): what is called the front colour is the background of the panels; it is meant.
+void DesktopColour::ApplyDesktopColour() {
+  for (forms::PlacedControl* panel : std::initializer_list<forms::PlacedControl*>{
+           &panels.Picture23, &panels.frmc, &panels.frmd, &panels.Picture17, &panels.frmhelp, &panels.frms,
+           &panels.frmscale, &panels.FRMMARK}) {
+    panel->BackColor = text::ToLong(ChosenColour);
+  }
+}
+
+}  // namespace lectern::reader

@@ -1,0 +1,30 @@
+// The colours of the settings panel: a strip of swatches, and whether a click on one colours the main window
+// or the panels. Nothing of it is stored; the next start has the colours of the desktop again.
+#pragma once
+
+#include <deque>
+#include <string>
+
+#include "forms/buttons.h"
+#include "forms/picture_box.h"
+#include "reader/panels.h"
+
+namespace lectern::reader {
+
+class DesktopColour {
+ public:
+  explicit DesktopColour(Panels& the_panels);
+
+ private:
+  void Swatch_Click(forms::PictureBox& swatch);
+  void ApplyDesktopColour();
+
+  Panels& panels;
+  forms::OptionButton Option2;  // the panels; set at start
+  forms::OptionButton Option3;  // the window
+  forms::PictureBox Picture24;  // the strip
+  std::deque<forms::PictureBox> swatches_;
+  std::string ChosenColour;  // a colour number as text, signed
+};
+
+}  // namespace lectern::reader

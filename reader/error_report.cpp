@@ -1,0 +1,21 @@
+#include "reader/error_report.h"
+
+namespace lectern::reader {
+
+void ErrorReport::ReportError(const base::RunTimeError& error) {
+  reader.List1.Visible = true;
+  base::Platform& platform = reader.form.Platform();
+  if (error.Is(base::ErrorNumber::kFileNotFound)) {
+    // ODDITY(concordance-missing): every missing file is told as the concordance's; it is meant.
+    platform.Message("CONCORD.DAT missing from " + reader.Dir1.Path);
+  } else {
+    platform.Message(
+        "An error (" + std::to_string(error.number()) +
+        " ) has occured during proccessing your request. Click HELP, for information on possible "
+        "sources causing the error. ");
+  }
+  stop_word_ = "STOP";
+  platform.Beep();
+}
+
+}  // namespace lectern::reader

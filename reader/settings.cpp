@@ -1,0 +1,130 @@
+#include "reader/settings.h"
+
+#include <string_view>
+
+#include "base/error_modes.h"
+#include "base/text/numbers.h"
+
+namespace lectern::reader {
+
+namespace {
+
+constexpr int kSettings = 1;  // slot
+
+// Italic and bold by the name of a style; a name that is none of these changes nothing.
+void SetStyle(forms::TextControl& control, std::string_view style) {
+  struct Style {
+    std::string_view name;
+    bool italic, bold;
+  };
+  constexpr Style kStyles[] = {
+      {"Regular", false, false},
+      {"Italic", true, false},
+      {"Bold", false, true},
+      {"Bold Italic", true, true},
+  };
+  for (const Style& known : kStyles) {
+    if (known.name != style) continue;
+    control.FontItalic = known.italic;
+    control.FontBold = known.bold;
+  }
+}
+
+}  // namespace
+
+Settings::Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pane, Menus& menus,
+                   ToolButtons& the_tools)
+    : PointAtSearchButton([](int) {}),
+      Combo1(the_panels.Picture23, "Combo1", {.name = "Font"}),
+      Combo2(the_panels.Picture23, "Combo2", {.name = "Size"}),
+      Combo3(the_panels.Picture23, "Combo3", {.name = "Style"}),
+      reader(the_reader),
+      panels(the_panels),
+      tools(the_tools),
+      RTXT2(second_pane.RTXT2),
+      lblsetting(panels.Picture23, "lblsetting",
+                 {{.caption = "Fonts and desktop"},
+                  {.caption = "Font"},
+                  {.caption = "Size"},
+                  {.caption = "Style"},
+                  {.caption = "Colors"}}),
+      lblf(panels.Picture23, "lblf", {{.caption = "A B C D E F G"}, {.caption = "a b c d e f g"}}),
+      colours(panels),
+      Command36(panels.Picture23, "Command36", {.caption = "Save", .is_default = true}),
+      Command24(panels.Picture23, "Command24", {.caption = "Close", .is_cancel = true}) {
+  menus.oo11.Click = [this] { oo11_Click(); };
+  for (forms::ComboBox* box : {&Combo1, &Combo2, &Combo3}) {
+    box->Click = [this] { Combo_Click(); };
+  }
+  Command36.Click = [this] { Command36_Click(); };
+  Command24.Click = [this] { Command24_Click(); };
+}
+
+void Settings::ReadSettings() {
+  files::FileSlots& slots = reader.form.Slots();
+  slots.OpenForReading(kSettings, reader.Dir1.Path + "\\codex.cfg");
+  // ODDITY(default-settings-misread): the record that start-up writes into an empty file is of an older
+  // layout, colour, colour, font and size, and it is read as font, size and style; it is meant.
+  const std::string font(slots.ReadField(kSettings));
+  const std::string size(slots.ReadField(kSettings));
+  const std::string style(slots.ReadField(kSettings));
+  slots.Close(kSettings);
+  Combo1.Text = font;
+  Combo2.Text = size;
+  Combo3.Text = style;
+  ApplyFontSamples();
+  // The name goes to both panes before a size can fail.
+  reader.rtxt.FontName = font;
+  RTXT2.FontName = font;
+  reader.rtxt.FontSize = text::ToNumber(size);
+  RTXT2.FontSize = text::ToNumber(size);
+  SetStyle(reader.rtxt, style);
+  SetStyle(RTXT2, style);
+}
+
+void Settings::ApplyFontSamples() {
+  const base::Trapping trap{[&] { PointAtSearchButton(forms::kPointerDefault); }};
+  trap([&] { PointAtSearchButton(forms::kPointerHourglass); });
+  lblf.ForEach([&](int, forms::Label& sample) {
+    trap([&] { sample.FontName = Combo1.Text; });
+    trap([&] { sample.FontSize = text::ToNumber(Combo2.Text()); });
+    trap([&] { SetStyle(sample, Combo3.Text()); });
+  });
+  trap([&] { PointAtSearchButton(forms::kPointerDefault); });
+}
+
+// A size that is none leaves the panes at theirs, so that the other two boxes can be tried meanwhile.
+void Settings::ApplyFontToPanes() {
+  const base::Ignoring ignore;
+  for (forms::RichTextBox* pane : {&reader.rtxt, &RTXT2}) {
+    pane->FontName = Combo1.Text;
+    ignore([&] { pane->FontSize = text::ToNumber(Combo2.Text()); });
+    SetStyle(*pane, Combo3.Text());
+  }
+}
+
+void Settings::Combo_Click() {
+  ApplyFontSamples();
+  ApplyFontToPanes();
+}
+
+void Settings::oo11_Click() { panels.Picture23.Visible = true; }
+
+void Settings::Command36_Click() {
+  files::FileSlots& slots = reader.form.Slots();
+  const std::string path = reader.Dir1.Path + "\\codex.cfg";
+  reader.form.Files().DeleteKeepingBackup(path);
+  slots.OpenForAppending(kSettings, path);
+  slots.WriteRecord(kSettings, Combo1.Text(), Combo2.Text(), Combo3.Text());
+  slots.Close(kSettings);
+  ReadSettings();
+}
+
+// ODDITY(close-unlocks): opening the panel locks no tool buttons, closing it sets them free all the same,
+// also those that another panel holds locked; it is meant.
+void Settings::Command24_Click() {
+  panels.Picture23.Visible = false;
+  tools.Enable();
+}
+
+}  // namespace lectern::reader

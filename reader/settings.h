@@ -1,0 +1,59 @@
+// The panel of fonts and colours, and the file `codex.cfg` that keeps the font from one run to the next. A
+// pick in one of the boxes shows at once, on two samples and in the panes of text; Save writes the file, and
+// Close takes nothing back.
+//
+// The file's record is font, size and style. Whoever reads it takes the first three fields for these,
+// whatever they are: a style that is none of the four leaves bold and italic alone.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "forms/combo_box.h"
+#include "forms/label.h"
+#include "reader/desktop_colour.h"
+#include "reader/menus.h"
+#include "reader/reader.h"
+#include "reader/second_pane.h"
+#include "reader/tool_buttons.h"
+
+namespace lectern::reader {
+
+class Settings {
+ public:
+  Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pane, Menus& menus,
+           ToolButtons& the_tools);
+
+  // Reads the file, puts its texts into the boxes and applies them. What fails is the caller's: a file that
+  // is missing or too short, and a size that no font can have, which leaves the style behind it untouched.
+  void ReadSettings();
+
+  // Joined by the window: shows a pointer over the search button, which waits while a font is tried on.
+  std::function<void(int pointer)> PointAtSearchButton;
+
+  forms::ComboBox Combo1;  // font
+  forms::ComboBox Combo2;  // size
+  forms::ComboBox Combo3;  // style
+
+ private:
+  void oo11_Click();
+  void Combo_Click();
+  void Command36_Click();
+  void Command24_Click();
+
+  void ApplyFontSamples();
+  void ApplyFontToPanes();
+
+  Reader& reader;
+  Panels& panels;
+  ToolButtons& tools;
+  forms::RichTextBox& RTXT2;
+
+  forms::ControlArray<forms::Label> lblsetting;  // heading, and what each box is for
+  forms::ControlArray<forms::Label> lblf;        // samples
+  DesktopColour colours;
+  forms::CommandButton Command36;
+  forms::CommandButton Command24;
+};
+
+}  // namespace lectern::reader

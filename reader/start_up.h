@@ -1,0 +1,52 @@
+// What happens once, before the window is seen: the size and place of the window, the folders, the settings,
+// the list of books, the fonts, the places of the panels, and Genesis 1. No position is remembered from
+// one run to the next. Nothing that fails here stops the start: each step stands for itself.
+#pragma once
+
+#include <functional>
+
+#include "forms/combo_box.h"
+#include "forms/folder_lists.h"
+#include "forms/text_box.h"
+#include "reader/catalogue.h"
+#include "reader/panels.h"
+#include "reader/reader.h"
+
+namespace lectern::reader {
+
+// What the start sets that belongs to features above.
+struct StartUpControls {
+  forms::DirListBox& Dirpics;
+  forms::FileListBox& File1;
+  forms::CommandButton& Command26;
+  forms::CommandButton& Command30;
+  forms::TextBox& Text2;
+  forms::ComboBox& Combo1;
+  forms::ComboBox& Combo2;
+  forms::ComboBox& Combo3;
+};
+
+class StartUp {
+ public:
+  StartUp(Reader& the_reader, Panels& the_panels, Catalogue& the_catalogue, StartUpControls the_controls);
+
+  void Form_Load();
+
+  // Reads `codex.cfg` and applies it.
+  std::function<void()> ReadSettings;
+
+ private:
+  void PlaceWindow();
+  void FindFolders();
+  void LoadSettings();
+  void FillLists();
+  void PlacePanels();
+  void ShowGenesis();
+
+  Reader& reader;
+  Panels& panels;
+  Catalogue& catalogue;
+  StartUpControls controls;
+};
+
+}  // namespace lectern::reader

@@ -1,0 +1,130 @@
+#include "reader/stories.h"
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "base/error_modes.h"
+
+namespace lectern::reader {
+
+namespace {
+
+enum class Order {
+  kStemFirst,
+  kNameFirst,
+  kChapterFirst,  // the chapter before the book
+};
+
+enum class Failures { kLeave, kIgnore };
+
+struct Submenu {
+  const char* control;
+  const char* caption;
+};
+
+// ODDITY(kept-spelling): some captions are misspelt; readers know them so, and it is meant.
+constexpr Submenu kSubmenus[] = {
+    {"dd2", "The Beginning"}, {"dd3", "Abraham"}, {"dd4", "Noah"}, {"ddd8", "Moses"},
+    {"dd5", "David"},         {"dd6", "Peter"},   {"dd7", "Paul"}, {"dd8", "Jesus"},
+};
+
+}  // namespace
+
+struct Story {
+  const char* submenu;
+  const char* caption;
+  const char* control;
+  const char* book;  // for both labels
+  const char* chapter;
+  Order order = Order::kStemFirst;
+  Failures failures = Failures::kLeave;
+};
+
+namespace {
+
+constexpr Story kStories[] = {
+    {"dd2", "Adam and Eve", "ss3", "Genesis", "2", Order::kNameFirst},
+    {"dd2", "Cain and Abel", "sss4", "Genesis", "4"},
+    {"dd2", "The Tower of Babel", "ss4", "Genesis", "11"},
+
+    {"dd3", "God's Covenent", "ss1", "Genesis", "15"},
+    {"dd3", "Three Visitors", "ss5", "Genesis", "18"},
+    {"dd3", "Tested", "ss6", "Genesis", "22"},
+
+    {"dd4", "The Flood", "ss7", "Genesis", "6", Order::kNameFirst},
+    {"dd4", "Noah's Ark", "sss8", "Genesis", "6"},
+    {"dd4", "God's Covenent", "ss2", "Genesis", "9"},
+
+    {"ddd8", "The Ten Commandments", "jj8", "Exodus", "20"},
+    {"ddd8", "The Burning Bush", "ss8", "Exodus", "3"},
+    {"ddd8", "Crossing the Sea", "ss9", "Exodus", "13"},
+    {"ddd8", "At Sinia", "sss1", "Exodus", "19"},
+
+    {"dd5", "And Samuel", "aaa3", "1-Samuel", "16", Order::kStemFirst, Failures::kIgnore},
+    {"dd5", "And Goliath", "sss3", "1-Samuel", "17"},
+    {"dd5", "And Saul", "aaa4", "1-Samuel", "19", Order::kStemFirst, Failures::kIgnore},
+    {"dd5", "Becomes a King", "aaa5", "2-Samuel", "5", Order::kStemFirst, Failures::kIgnore},
+
+    // ODDITY(peter-at-samuel): this entry goes where "And Samuel" goes; it is meant.
+    {"dd6", "Disowns Jesus", "ddd1", "1-Samuel", "16"},
+    {"dd6", "Reinstated", "aaa9", "John", "21", Order::kStemFirst, Failures::kIgnore},
+    {"dd6", "Heals a Beggar", "aaa8", "Acts", "3", Order::kStemFirst, Failures::kIgnore},
+    {"dd6", "Escaping from Prison", "sss7", "Acts", "12"},
+
+    {"dd7", "First Journey", "dddd5", "Acts", "13"},
+    {"dd7", "In Prison", "ddd4", "Acts", "16"},
+    {"dd7", "Shiprecked", "ddd3", "Acts", "27"},
+    {"dd7", "Preaches in Rome", "ddd2", "Acts", "28"},
+
+    {"dd8", "His Birth", "gg5", "Luke", "2", Order::kChapterFirst},
+    {"dd8", "Changing Water to Wine", "gg1", "John", "2", Order::kChapterFirst},
+    {"dd8", "Healing the Sick", "ff9", "Mark", "1"},
+    {"dd8", "Walking on Water", "ff8", "Matthew", "14"},
+    {"dd8", "At the Temple", "ff6", "Mark", "11"},
+    {"dd8", "The Last Supper", "ff5", "John", "13"},
+    {"dd8", "On Trial", "ff4", "Matthew", "27"},
+    {"dd8", "Crusifiction", "ff3", "Matthew", "27"},
+    {"dd8", "After his Death", "ff2", "John", "20"},
+    {"dd8", "Return to Heaven", "ff1", "Luke", "24"},
+};
+
+}  // namespace
+
+Stories::Stories(Reader& the_reader, Menus& menus) : reader(the_reader) {
+  for (const Submenu& submenu : kSubmenus) {
+    forms::Menu& list =
+        submenus_.emplace_back(menus.dd1, submenu.control, forms::Design{.caption = submenu.caption});
+    for (const Story& story : kStories) {
+      if (list.Name() != story.submenu) continue;
+      forms::Menu& entry =
+          entries_.emplace_back(list, story.control, forms::Design{.caption = story.caption});
+      entry.Click = [this, &story] { Entry_Click(story); };
+    }
+  }
+}
+
+// ODDITY(story-keeps-range): the book is named while lblc is empty, so that the chapter bar keeps the range
+// of the book before; it is meant.
+void Stories::Entry_Click(const Story& story) {
+  const auto blank = [&] { reader.lblc.Caption = ""; };
+  const auto stem = [&] { reader.lblbook.Caption = story.book; };
+  const auto name = [&] { reader.lblbk.Caption = story.book; };
+  const auto chapter = [&] { reader.lblc.Caption = story.chapter; };
+  using Steps = std::array<std::function<void()>, 4>;
+  Steps steps{blank, stem, name, chapter};
+  if (story.order == Order::kNameFirst) steps = Steps{blank, name, stem, chapter};
+  // ODDITY(story-first-chapter): with the chapter first, it loads in the book before, and the name that comes
+  // behind it goes back to chapter 1, whatever chapter the entry is for; it is meant.
+  if (story.order == Order::kChapterFirst) steps = Steps{blank, chapter, stem, name};
+  const base::Ignoring ignore;
+  for (const std::function<void()>& step : steps) {
+    if (story.failures == Failures::kIgnore) {
+      ignore(step);
+    } else {
+      step();
+    }
+  }
+}
+
+}  // namespace lectern::reader

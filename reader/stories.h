@@ -1,0 +1,27 @@
+// The menu of stories: a fixed list of passages, grouped by person or age. Each entry goes to one chapter of
+// one book, in the version that is set. Nothing else moves: the chapter bar and the picture lists keep to the
+// book before.
+#pragma once
+
+#include <deque>
+
+#include "reader/menus.h"
+#include "reader/reader.h"
+
+namespace lectern::reader {
+
+struct Story;
+
+class Stories {
+ public:
+  Stories(Reader& the_reader, Menus& menus);
+
+ private:
+  void Entry_Click(const Story& story);
+
+  Reader& reader;
+  std::deque<forms::Menu> submenus_;
+  std::deque<forms::Menu> entries_;
+};
+
+}  // namespace lectern::reader
