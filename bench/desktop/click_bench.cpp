@@ -15,10 +15,10 @@
 #include <functional>
 #include <vector>
 
-#include "ui/desktop/accessible.h"
-#include "ui/desktop/application.h"
-#include "ui/desktop/desktop.h"
-#include "ui/desktop/theme.h"
+#include "ui/desktop/app/application.h"
+#include "ui/desktop/app/desktop.h"
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/views/accessible.h"
 
 namespace {
 

@@ -10,10 +10,10 @@
 #include "base/files/file_system.h"
 #include "bench/real_data.h"
 #include "forms/control.h"
-#include "ui/desktop/events.h"
-#include "ui/desktop/platform.h"
-#include "ui/desktop/theme.h"
-#include "ui/desktop/window_view.h"
+#include "ui/desktop/app/events.h"
+#include "ui/desktop/app/platform.h"
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/views/window_view.h"
 #include "ui/program.h"
 
 namespace {

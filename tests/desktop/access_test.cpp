@@ -6,9 +6,9 @@
 #include <gtest/gtest.h>
 
 #include "tests/desktop/temporary_folder.h"
-#include "ui/desktop/control_view.h"
-#include "ui/desktop/desktop.h"
-#include "ui/desktop/window_focus.h"
+#include "ui/desktop/app/desktop.h"
+#include "ui/desktop/layout/window_focus.h"
+#include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {
 namespace {

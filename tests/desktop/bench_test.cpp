@@ -3,7 +3,7 @@
 #include <QTabWidget>
 
 #include "tests/desktop/stage.h"
-#include "ui/desktop/bench_view.h"
+#include "ui/desktop/views/bench_view.h"
 
 namespace lectern::desktop {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui/desktop/fitted_face.h"
+#include "ui/desktop/layout/fitted_face.h"
 
 #include <QScrollArea>
 #include <QScrollBar>

@@ -1,8 +1,8 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
-#include "ui/desktop/accessible.h"
-#include "ui/desktop/theme.h"
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/views/accessible.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);

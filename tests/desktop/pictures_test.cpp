@@ -1,4 +1,4 @@
-#include "ui/desktop/pictures.h"
+#include "ui/desktop/app/pictures.h"
 
 #include <QBuffer>
 #include <QImage>

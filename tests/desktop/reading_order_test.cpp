@@ -1,4 +1,4 @@
-#include "ui/desktop/reading_order.h"
+#include "ui/desktop/layout/reading_order.h"
 
 #include <gtest/gtest.h>
 

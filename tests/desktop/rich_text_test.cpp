@@ -6,7 +6,7 @@
 
 #include "base/text/characters.h"
 #include "tests/desktop/stage.h"
-#include "ui/desktop/text_positions.h"
+#include "ui/desktop/text/text_positions.h"
 
 namespace lectern::desktop {
 namespace {

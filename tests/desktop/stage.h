@@ -11,10 +11,10 @@
 
 #include "base/run_time_error.h"
 #include "tests/desktop/sample_window.h"
-#include "ui/desktop/events.h"
-#include "ui/desktop/platform.h"
-#include "ui/desktop/timers.h"
-#include "ui/desktop/window_view.h"
+#include "ui/desktop/app/events.h"
+#include "ui/desktop/app/platform.h"
+#include "ui/desktop/app/timers.h"
+#include "ui/desktop/views/window_view.h"
 
 namespace lectern::desktop {
 

@@ -6,8 +6,8 @@
 #include <QPushButton>
 
 #include "tests/desktop/stage.h"
-#include "ui/desktop/control_view.h"
-#include "ui/desktop/theme.h"
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {
 namespace {

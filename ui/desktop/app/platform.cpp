@@ -1,0 +1,128 @@
+#include "ui/desktop/app/platform.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QDesktopServices>
+#include <QFontDatabase>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QScreen>
+#include <QUrl>
+#include <algorithm>
+#include <chrono>
+
+#include "forms/window.h"
+#include "ui/desktop/app/pictures.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+QString ToQString(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+constexpr double kDotsPerInch = 96;
+
+void Prepare(QMessageBox& box, std::string_view text, std::string_view title) {
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQString(text));
+  box.setWindowTitle(ToQString(title));
+}
+
+}  // namespace
+
+DesktopPlatform::DesktopPlatform()
+    : before_box([] { return nullptr; }), with_face([](auto&, const auto&) {}) {}
+
+void DesktopPlatform::Message(std::string_view text, std::string_view title) {
+  QMessageBox box(before_box());
+  Prepare(box, text, title);
+  box.exec();
+}
+
+bool DesktopPlatform::Question(std::string_view text, std::string_view title) {
+  QMessageBox box(before_box());
+  Prepare(box, text, title);
+  box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+  box.setDefaultButton(QMessageBox::Yes);
+  return box.exec() == QMessageBox::Yes;
+}
+
+std::string DesktopPlatform::Input(std::string_view prompt, std::string_view title,
+                                   std::string_view proposed) {
+  constexpr int kWidth = 360;
+  QInputDialog box(before_box());
+  box.setWindowTitle(ToQString(title));
+  box.setLabelText(ToQString(prompt));
+  box.setTextValue(ToQString(proposed));
+  box.resize(kWidth, box.sizeHint().height());
+  return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+}
+
+void DesktopPlatform::Report(const base::RunTimeError& error) {
+  QMessageBox box(before_box());
+  Prepare(box, error.Report(), base::kProgramName);
+  box.setIcon(QMessageBox::Critical);
+  box.exec();
+}
+
+void DesktopPlatform::Beep() { QApplication::beep(); }
+
+base::Date DesktopPlatform::Today() {
+  const QDate today = QDate::currentDate();
+  return {today.year(), today.month(), today.day()};
+}
+
+void DesktopPlatform::SeedRandom() {
+  const auto now = std::chrono::system_clock::now().time_since_epoch().count();
+  chance_.seed(static_cast<std::mt19937::result_type>(now));
+}
+
+double DesktopPlatform::Random() {
+  constexpr double kRange = 4294967296.0;  // one more than the largest number that comes
+  return static_cast<double>(chance_()) / kRange;
+}
+
+std::vector<std::string> DesktopPlatform::FontNames() {
+  std::vector<std::string> names;
+  for (const QString& family : QFontDatabase::families()) names.push_back(family.toStdString());
+  return names;
+}
+
+base::ScreenSize DesktopPlatform::Screen() {
+  const QSize size = QApplication::primaryScreen()->size();
+  return {size.width() * forms::kTwipsPerPixel, size.height() * forms::kTwipsPerPixel};
+}
+
+forms::Picture DesktopPlatform::DecodePicture(std::string_view bytes) { return Decode(bytes); }
+
+// In the size that it has on the screen, or as large as the paper where that is smaller.
+void DesktopPlatform::PrintForm(forms::Window& window) {
+  const base::RunTimeError no_answer(base::ErrorNumber::kPrinter);
+  if (QPrinterInfo::defaultPrinter().isNull()) throw no_answer;
+  QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
+  QPainter painter;
+  if (!painter.begin(&printer)) throw no_answer;
+  with_face(window, [&](QWidget& face) {
+    const QRectF paper = printer.pageLayout().paintRectPixels(printer.resolution());
+    const double natural = printer.resolution() / kDotsPerInch;
+    const double scale = std::min({natural, paper.width() / face.width(), paper.height() / face.height()});
+    painter.scale(scale, scale);
+    // The caret and the ring around what has the focus are not part of the page.
+    QWidget* const focused = face.window()->focusWidget();
+    if (focused != nullptr) focused->clearFocus();
+    face.render(&painter);
+    if (focused != nullptr && focused->isVisible()) focused->setFocus(Qt::OtherFocusReason);
+  });
+  if (!painter.end()) throw no_answer;
+}
+
+bool DesktopPlatform::OpenInBrowser(std::string_view address) {
+  return QDesktopServices::openUrl(QUrl(ToQString(address)));
+}
+
+}  // namespace lectern::desktop

@@ -1,4 +1,0 @@
-// The program on the desktop. The folder it is started in is the data folder; there are no options.
-#include "ui/desktop/application.h"
-
-int main(int /*argc*/, char** argv) { return lectern::desktop::RunApplication(argv, {}); }

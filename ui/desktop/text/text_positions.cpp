@@ -1,0 +1,70 @@
+#include "ui/desktop/text/text_positions.h"
+
+#include <algorithm>
+
+namespace lectern::desktop {
+
+TextPositions::Measured TextPositions::Measure(std::string_view text) {
+  Measured measured{{}, {0, 0}};
+  Mark& end = measured.end;
+  for (std::size_t byte = 0; byte < text.size(); ++byte) {
+    const auto lead = static_cast<unsigned char>(text[byte]);
+    if ((lead & 0xC0) == 0x80) continue;  // inside a character
+    ++end.forms;
+    ++end.qt;
+    if (lead == '\n' && byte > 0 && text[byte - 1] == '\r') {
+      --end.qt;
+      measured.marks.push_back(end);
+    } else if (lead >= 0xF0) {
+      ++end.qt;
+      measured.marks.push_back(end);
+    }
+  }
+  return measured;
+}
+
+void TextPositions::Read(std::string_view text) { marks_ = Measure(text).marks; }
+
+int TextPositions::ToQt(std::size_t position) const {
+  const auto behind = std::upper_bound(marks_.begin(), marks_.end(), position,
+                                       [](std::size_t at, const Mark& mark) { return at < mark.forms; });
+  if (behind == marks_.begin()) return static_cast<int>(position);
+  const Mark& mark = *std::prev(behind);
+  return mark.qt + static_cast<int>(position - mark.forms);
+}
+
+std::size_t TextPositions::ToForms(int position) const {
+  const auto behind = std::upper_bound(marks_.begin(), marks_.end(), position,
+                                       [](int at, const Mark& mark) { return at < mark.qt; });
+  if (behind == marks_.begin()) return static_cast<std::size_t>(position);
+  const Mark& mark = *std::prev(behind);
+  return mark.forms + static_cast<std::size_t>(position - mark.qt);
+}
+
+void TextPositions::Edited(int at, int removed, std::string_view inserted) {
+  const std::size_t start = ToForms(at);
+  const std::size_t removed_forms = ToForms(at + removed) - start;
+  const auto behind = [](int place, const Mark& mark) { return place < mark.qt; };
+  const auto first = std::upper_bound(marks_.begin(), marks_.end(), at, behind);
+  const auto last = std::upper_bound(first, marks_.end(), at + removed, behind);
+
+  Measured measured = Measure(inserted);
+  for (auto mark = last; mark != marks_.end(); ++mark) {
+    mark->forms = mark->forms - removed_forms + measured.end.forms;
+    mark->qt += measured.end.qt - removed;
+  }
+  for (Mark& mark : measured.marks) {
+    mark.forms += start;
+    mark.qt += at;
+  }
+  const auto place = marks_.erase(first, last);
+  marks_.insert(place, measured.marks.begin(), measured.marks.end());
+}
+
+QString ToDocument(std::string_view text) {
+  QString document = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+  document.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  return document;
+}
+
+}  // namespace lectern::desktop

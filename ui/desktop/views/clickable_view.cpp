@@ -1,0 +1,157 @@
+#include "ui/desktop/views/clickable_view.h"
+
+#include <QCoreApplication>
+#include <utility>
+
+#include "ui/desktop/layout/window_focus.h"
+#include "ui/desktop/views/keys.h"
+#include "ui/desktop/views/spoken.h"
+#include "ui/desktop/views/window_view.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+constexpr int kLeft = 1;  // buttons of a mouse
+constexpr int kRight = 2;
+
+// A stroke is made of every movement of the mouse; whatever else follows it wants its latest place, so that
+// nothing piles up. Movements are put together as they arrive, which may be before a press is delivered: so
+// it has to be said before the press.
+void WantEveryMovement(bool wanted) {
+  QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, !wanted);
+}
+
+}  // namespace
+
+// A surface to draw on follows the pointer and is no button.
+bool ClickableView::IsButton() const {
+  return Control().Click || (Control().MouseDown && !Control().MouseMove);
+}
+
+void ClickableView::PrepareForInput(QWidget& widget) {
+  if (IsButton()) {
+    const bool waits = IsOneOfARow() && Control().Index() > 0;
+    widget.setFocusPolicy(waits ? Qt::ClickFocus : Qt::StrongFocus);
+    if (auto* spoken = dynamic_cast<Spoken*>(&widget)) spoken->press = [this] { PressByKey(kLeft); };
+  }
+  // The mouse draws without taking the focus from the button that was pressed last.
+  if (IsSurface()) widget.setFocusPolicy(Qt::TabFocus);
+  widget.setMouseTracking(static_cast<bool>(Control().MouseMove));
+}
+
+void ClickableView::PressByKey(int button) {
+  if (Control().Click) return Act([this] { Control().PersonClicks(); });
+  forms::MouseEvent mouse;
+  mouse.button = button;
+  mouse.x = Control().Width / 2;
+  mouse.y = Control().Height / 2;
+  Act([this, mouse] { Control().PersonPresses(mouse); });
+}
+
+bool ClickableView::HandleKey(const QKeyEvent& key) {
+  if (!IsButton()) return false;
+  if (IsOneOfARow() && key.modifiers() == Qt::NoModifier && MoveInRow(key.key())) return true;
+  const bool is_left = (key.key() == Qt::Key_Space || KeyCode(key) == forms::kEnterKey) &&
+                       (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  const bool is_right =
+      !Control().Click &&
+      (key.key() == Qt::Key_Menu || (key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier));
+  if (!is_left && !is_right) return false;
+  if (!key.isAutoRepeat()) PressByKey(is_left ? kLeft : kRight);
+  return true;
+}
+
+std::vector<ControlView*> ClickableView::Row() const {
+  std::vector<ControlView*> row;
+  for (const forms::Control* sibling : Control().Parent().Children()) {
+    if (sibling->Name() != Control().Name()) continue;
+    if (ControlView* view = SeenViewOf(sibling)) row.push_back(view);
+  }
+  return row;
+}
+
+// To the nearest one that stands straight that way.
+bool ClickableView::MoveInRow(int key) {
+  const QPoint here = Place().center();
+  QPoint way;
+  if (key == Qt::Key_Left) way = {-1, 0};
+  if (key == Qt::Key_Right) way = {1, 0};
+  if (key == Qt::Key_Up) way = {0, -1};
+  if (key == Qt::Key_Down) way = {0, 1};
+  if (way.isNull()) return false;
+  ControlView* nearest = nullptr;
+  int least = 0;
+  for (ControlView* other : Row()) {
+    const QPoint from_here = other->Place().center() - here;
+    const int along = QPoint::dotProduct(from_here, way);
+    if (along <= 0 || along < from_here.manhattanLength()) continue;
+    if (nearest == nullptr || along < least) {
+      nearest = other;
+      least = along;
+    }
+  }
+  if (nearest != nullptr) nearest->Widget()->setFocus(Qt::OtherFocusReason);
+  return true;
+}
+
+void ClickableView::StandForRow() {
+  for (const ControlView* other : Row()) {
+    other->Widget()->setFocusPolicy(other == this ? Qt::StrongFocus : Qt::ClickFocus);
+  }
+}
+
+bool ClickableView::Pressed(const QMouseEvent& event) {
+  if (!Control().Click && !Control().MouseDown) return false;
+  pressed_ = event.button() == Qt::LeftButton;
+  const forms::MouseEvent mouse = InScale(ToMouseEvent(event, event.button()));
+  Act([this, mouse] { Control().PersonPresses(mouse); });
+  return true;
+}
+
+bool ClickableView::Released(const QMouseEvent& event) {
+  if (!std::exchange(pressed_, false) || event.button() != Qt::LeftButton) return false;
+  if (Control().Click && Widget()->rect().contains(event.position().toPoint())) {
+    Act([this] { Control().Click(); });
+  }
+  return true;
+}
+
+bool ClickableView::Moved(const QMouseEvent& event) {
+  if (!Control().MouseMove) return false;
+  const forms::MouseEvent mouse = InScale(ToMouseEvent(event, event.buttons()));
+  Act([this, mouse] { Control().PersonMoves(mouse); });
+  return true;
+}
+
+bool ClickableView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == Widget() && !GetWindow().IsAbandoned()) {
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+        return Pressed(static_cast<const QMouseEvent&>(*event));
+      case QEvent::MouseButtonDblClick: {
+        const bool taken = Pressed(static_cast<const QMouseEvent&>(*event));
+        if (Control().DblClick) Act([this] { Control().DblClick(); });
+        return taken;
+      }
+      case QEvent::MouseButtonRelease:
+        return Released(static_cast<const QMouseEvent&>(*event));
+      case QEvent::FocusIn:
+        if (IsOneOfARow()) StandForRow();
+        break;
+      case QEvent::MouseMove:
+        return Moved(static_cast<const QMouseEvent&>(*event));
+      case QEvent::Enter:
+        WantEveryMovement(IsSurface());
+        break;
+      case QEvent::Leave:  // comes only when no button is held down any more
+        WantEveryMovement(false);
+        break;
+      default:
+        break;
+    }
+  }
+  return ControlView::eventFilter(watched, event);
+}
+
+}  // namespace lectern::desktop

@@ -1,0 +1,46 @@
+// What is pressed where it lies, without being a button: labels, images, picture boxes. One whose control has
+// a handler for clicks or presses can be reached and pressed by the keyboard too, with the menu key for the
+// mouse's right button. Several of a control array that tell a press from its button, such as the colours of
+// a palette, are one stop on the way of the Tab key; the arrows go through them.
+#pragma once
+
+#include <vector>
+
+#include "ui/desktop/views/control_view.h"
+
+namespace lectern::desktop {
+
+class ClickableView : public ControlView {
+ public:
+  using ControlView::ControlView;
+
+ protected:
+  // Whether it can be pressed and does not follow the pointer.
+  bool IsButton() const;
+
+  // Whether it is drawn on: it can be pressed and follows the pointer.
+  bool IsSurface() const { return Control().MouseDown && Control().MouseMove; }
+
+  // Gives a new widget the focus policy that the control's handlers call for.
+  void PrepareForInput(QWidget& widget);
+
+  // The position of a mouse event, in the control's own scale.
+  virtual forms::MouseEvent InScale(forms::MouseEvent mouse) const { return mouse; }
+
+  bool HandleKey(const QKeyEvent& key) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool IsOneOfARow() const { return IsButton() && !Control().Click && Control().Index() >= 0; }
+  std::vector<ControlView*> Row() const;  // with this one
+  bool MoveInRow(int key);                // whether the key is one that moves
+  void StandForRow();                     // as the stop of the Tab key
+  void PressByKey(int button);
+  bool Pressed(const QMouseEvent& event);
+  bool Released(const QMouseEvent& event);
+  bool Moved(const QMouseEvent& event);
+
+  bool pressed_ = false;
+};
+
+}  // namespace lectern::desktop

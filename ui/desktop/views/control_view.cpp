@@ -1,0 +1,237 @@
+#include "ui/desktop/views/control_view.h"
+
+#include <QApplication>
+#include <algorithm>
+#include <cmath>
+
+#include "forms/picture_box.h"
+#include "forms/shape.h"
+#include "forms/window.h"
+#include "ui/desktop/app/pictures.h"
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/views/keys.h"
+#include "ui/desktop/views/window_view.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+// Which of the palette's colours are a control's, and the colour that means that it has none of its own.
+struct Roles {
+  QPalette::ColorRole back;
+  QPalette::ColorRole text;
+  forms::Colour design;
+};
+
+int ToPixels(double twips) { return static_cast<int>(std::lround(twips / forms::kTwipsPerPixel)); }
+
+}  // namespace
+
+QString ToQString(const std::string& text) { return QString::fromStdString(text); }
+
+forms::MouseEvent ToMouseEvent(const QMouseEvent& event, Qt::MouseButtons buttons) {
+  forms::MouseEvent mouse;
+  mouse.button = 0;
+  if ((buttons & Qt::MiddleButton) != 0) mouse.button = 4;
+  if ((buttons & Qt::RightButton) != 0) mouse.button = 2;
+  if ((buttons & Qt::LeftButton) != 0) mouse.button = 1;
+  mouse.shift = ((event.modifiers() & Qt::ShiftModifier) != 0 ? 1 : 0) +
+                ((event.modifiers() & Qt::ControlModifier) != 0 ? 2 : 0) +
+                ((event.modifiers() & Qt::AltModifier) != 0 ? 4 : 0);
+  mouse.x = std::floor(event.position().x()) * forms::kTwipsPerPixel;
+  mouse.y = std::floor(event.position().y()) * forms::kTwipsPerPixel;
+  return mouse;
+}
+
+ControlView::ControlView(forms::PlacedControl& control, WindowView& window, QWidget& parent)
+    : LayerView(window.GetEvents()), control_(control), window_(window), parent_(parent) {
+  control_.Attach(this);
+}
+
+ControlView::~ControlView() {
+  if (!window_.IsAbandoned()) control_.Attach(nullptr);
+}
+
+// A pointer is shown at once: it tells of the very handler that is at work.
+void ControlView::Changed() {
+  LayerView::Changed();
+  if (widget_ != nullptr) ApplyPointer();
+}
+
+void ControlView::TakeFocus() { window_.FocusIsWanted(); }
+
+QRect ControlView::Place() const {
+  const int left = ToPixels(control_.Left);
+  const int top = ToPixels(control_.Top);
+  const int right = ToPixels(control_.Left + control_.Width);
+  const int bottom = ToPixels(control_.Top + control_.Height);
+  const int thinnest = control_.GetKind() == forms::Kind::kLine ? 1 : 0;
+  const QSize size(std::max(right - left, thinnest), std::max(bottom - top, thinnest));
+  return {corner_.value_or(QPoint(left, top)), size};
+}
+
+// What stands wholly outside of its panel, as a program's storage does, is no part of what a person sees or
+// comes to by the keyboard.
+bool ControlView::IsInReach() const { return Place().intersects(parent_.rect()); }
+
+void ControlView::Refresh() {
+  if (window_.IsAbandoned()) return;
+  const bool seen = control_.Visible && IsInReach();
+  if (widget_ == nullptr) {
+    if (!seen) return;
+    MakeWidget();
+  }
+  if (const QRect place = Place(); widget_->geometry() != place) {
+    const bool resized = widget_->size() != place.size();
+    widget_->setGeometry(place);
+    window_.NeedsArranging();
+    if (resized) Resized();
+  }
+  if (widget_->isHidden() == seen) {
+    widget_->setVisible(seen);
+    window_.NeedsArranging();
+  }
+  if (!seen) return;
+  widget_->setEnabled(control_.Enabled);
+  ApplyFont();
+  ApplyColours();
+  ApplyPointer();
+  Apply();
+}
+
+void ControlView::MakeWidget() {
+  widget_ = Make(&parent_);
+  widget_->setObjectName(ToQString(control_.FullName()));
+  if (control_.HasNameOfItsOwn() || !SpeaksForItself()) {
+    widget_->setAccessibleName(ToQString(control_.AccessibleName()));
+  }
+  widget_->installEventFilter(this);
+  widget_->setGeometry(Place());
+}
+
+void ControlView::ApplyPointer() {
+  if (pointer_ == control_.MousePointer) return;
+  pointer_ = control_.MousePointer;
+  if (pointer_ == forms::kPointerDefault) {
+    widget_->unsetCursor();
+  } else {
+    widget_->setCursor(Pointer());
+  }
+}
+
+QCursor ControlView::Pointer() const { return PointerOf(control_.MousePointer()); }
+
+QFont ControlView::WantedFont() const {
+  const auto* const text = dynamic_cast<const forms::TextControl*>(&control_);
+  return text == nullptr ? OwnFont() : FontOf(*text);
+}
+
+void ControlView::ApplyFont() {
+  const QFont font = WantedFont();
+  if (widget_->font() == font) return;
+  FontWillChange();
+  widget_->setFont(font);
+}
+
+// The colour that lies behind the control: a filled figure under its middle, or the panel.
+QColor ControlView::GroundColor() const {
+  for (const forms::Control* sibling : control_.Parent().Children()) {
+    if (sibling->GetKind() != forms::Kind::kShape || !sibling->Visible) continue;
+    const auto& figure = static_cast<const forms::Shape&>(*sibling);
+    const QRect under(ToPixels(figure.Left), ToPixels(figure.Top), ToPixels(figure.Width),
+                      ToPixels(figure.Height));
+    if (!forms::IsSystemColour(figure.BackColor) && under.contains(Place().center())) {
+      return ToColor(figure.BackColor, parent_.palette());
+    }
+  }
+  return PictureColor().value_or(parent_.palette().color(QPalette::Window));
+}
+
+// The colour of what is drawn behind the control, on the whole; none where nothing is.
+std::optional<QColor> ControlView::PictureColor() const {
+  const auto* const box = dynamic_cast<const forms::PictureBox*>(&control_.Parent());
+  if (box == nullptr || !box->Picture()) return std::nullopt;
+  const QImage behind = ImageOf(*box->Picture()).copy(Place());
+  return behind.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0);
+}
+
+void ControlView::ApplyColours() {
+  const auto roles_of = [](Ground kind) -> Roles {
+    switch (kind) {
+      case Ground::kField:
+        return {QPalette::Base, QPalette::Text, forms::kWindowBackground};
+      case Ground::kButton:
+        return {QPalette::Button, QPalette::ButtonText, forms::kButtonFace};
+      default:
+        return {QPalette::Window, QPalette::WindowText, forms::kButtonFace};
+    }
+  };
+  const Ground kind = GetGround();
+  if (kind == Ground::kNone) return;
+  // The fore colour of a panel is what is drawn on it with, not its text's.
+  const forms::Colour fore = kind == Ground::kPanel ? forms::kButtonText : control_.ForeColor();
+  const forms::Colour back = control_.BackColor;
+  if (colours_ == std::pair(back, fore)) return;
+  colours_ = std::pair(back, fore);
+
+  const Roles roles = roles_of(kind);
+  const QPalette theme = QApplication::palette();
+  const bool transparent = kind == Ground::kTransparent && back == roles.design;
+  const QColor ground = transparent ? GroundColor() : ToColor(back, theme);
+
+  QPalette palette;
+  const auto set_text = [&](const QColor& text) {
+    palette.setColor(roles.text, text);
+    palette.setColor(QPalette::Disabled, roles.text, Mixed(text, ground, 0.5));
+  };
+  // A panel keeps the theme's colours, whatever was given to the window that it lies on.
+  if (back != roles.design || kind == Ground::kPanel) {
+    palette.setColor(roles.back, ground);
+    if (!forms::IsSystemColour(back)) {
+      set_text(TextOn(ground));
+    } else if (kind == Ground::kPanel) {
+      set_text(theme.color(QPalette::WindowText));
+    }
+  }
+  if (transparent && forms::IsSystemColour(fore)) {
+    if (const auto picture = PictureColor()) set_text(TextOn(*picture));
+  }
+  if (!forms::IsSystemColour(fore)) set_text(Legible(ToColor(fore, theme), ground));
+  if (fore == forms::kButtonShadow) set_text(ShadowOn(ground));
+  if (kind == Ground::kTransparent) widget_->setAutoFillBackground(!transparent);
+  widget_->setPalette(palette);
+}
+
+void ControlView::Recolour() {
+  colours_.reset();
+  Changed();
+}
+
+void ControlView::Act(const std::function<void()>& act) {
+  if (window_.IsAbandoned() || control_.RefusesPerson() != forms::Refusal::kNone) return;
+  Changed();
+  GetEvents().Deliver(control_.HostWindow(), act);
+}
+
+bool ControlView::KeyPressed(const QKeyEvent& key) {
+  if (window_.HandleKey(key)) return true;
+  if (const int letter = AccessKey(key); letter != 0) return window_.PressAccessKey(letter);
+  const int code = KeyCode(key);
+  const bool presses_buttons = code == forms::kEnterKey || code == forms::kEscapeKey;
+  if (HandleKey(key)) return true;
+  if (presses_buttons && !Needs(key)) {
+    if (!key.isAutoRepeat()) Act([this, code] { control_.PersonKeys(code); });
+    return true;
+  }
+  if (code != 0 && control_.KeyDown) Act([this, code] { control_.KeyDown(code); });
+  return false;
+}
+
+bool ControlView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && watched == widget_ && !window_.IsAbandoned()) {
+    return KeyPressed(static_cast<const QKeyEvent&>(*event));
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace lectern::desktop

@@ -1,0 +1,125 @@
+#include "ui/desktop/views/menu_views.h"
+
+#include <QAction>
+#include <QMenu>
+
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/views/control_view.h"
+#include "ui/desktop/views/keys.h"
+#include "ui/desktop/views/window_view.h"
+
+namespace lectern::desktop {
+
+// The letters by which the entries of one list are reached. A caption may mark its own; an entry that marks
+// none gets one that is free, of the beginning of a word if there is one.
+class MenuBarView::Letters {
+ public:
+  explicit Letters(const std::vector<forms::Menu*>& entries) {
+    for (const forms::Menu* entry : entries) taken_.push_back(AccessKey(entry->Caption));
+  }
+
+  // None (null) for what marks one already, and where all are taken.
+  QChar For(const forms::Menu& entry) {
+    if (AccessKey(entry.Caption) != 0) return {};
+    const QString caption = ToQString(entry.Caption);
+    for (const bool only_beginnings : {true, false}) {
+      for (qsizetype i = 0; i < caption.size(); ++i) {
+        const bool begins = i == 0 || !caption[i - 1].isLetter();
+        const int key = caption[i].toUpper().unicode();
+        if (!caption[i].isLetter() || begins != only_beginnings || taken_.contains(key)) continue;
+        taken_.push_back(key);
+        return caption[i];
+      }
+    }
+    return {};
+  }
+
+ private:
+  QList<int> taken_;
+};
+
+// An entry, with the list that it opens where it has one.
+class MenuBarView::Entry : public LayerView {
+ public:
+  Entry(forms::Menu& menu, WindowView& view, QAction& action, QChar letter)
+      : LayerView(view.GetEvents()), menu_(menu), view_(view), action_(action), letter_(letter) {
+    menu_.Attach(this);
+    action_.setObjectName(ToQString(menu_.FullName()));
+    if (!menu_.Shortcut().empty()) action_.setShortcut(QKeySequence(ToQString(menu_.Shortcut())));
+    QObject::connect(&action_, &QAction::triggered, [this] { Chosen(); });
+    Refresh();
+  }
+  ~Entry() override {
+    if (!view_.IsAbandoned()) menu_.Attach(nullptr);
+  }
+
+  void Refresh() override {
+    if (view_.IsAbandoned()) return;
+    const bool is_line = menu_.Caption == "-";
+    action_.setSeparator(is_line);
+    action_.setText(is_line ? QString() : Marked(ToQString(menu_.Caption)));
+    action_.setEnabled(menu_.Enabled);
+    action_.setVisible(menu_.Visible);
+    if (menu_.Checked) action_.setCheckable(true);
+    if (action_.isCheckable()) action_.setChecked(menu_.Checked);
+  }
+
+ private:
+  QString Marked(QString caption) const {
+    const qsizetype at = letter_.isNull() ? -1 : caption.indexOf(letter_);
+    return at < 0 ? caption : caption.insert(at, u'&');
+  }
+
+  void Chosen() {
+    if (view_.IsAbandoned() || menu_.RefusesPerson() != forms::Refusal::kNone) return;
+    Changed();  // Qt has turned the mark by itself
+    GetEvents().Deliver(menu_.HostWindow(), [this] { menu_.PersonClicks(); });
+  }
+
+  forms::Menu& menu_;
+  WindowView& view_;
+  QAction& action_;
+  const QChar letter_;
+};
+
+MenuBarView::MenuBarView(forms::Window& window, WindowView& view, QWidget& frame)
+    : bar_(new QMenuBar(&frame)) {
+  bar_->setNativeMenuBar(false);  // it belongs to the window, on every desktop
+  AddEntries(window, view, *bar_);
+}
+
+MenuBarView::~MenuBarView() = default;
+
+void MenuBarView::AddEntries(forms::Container& from, WindowView& view, QWidget& to) {
+  std::vector<forms::Menu*> menus;
+  for (forms::Control* child : from.Children()) {
+    if (child->GetKind() == forms::Kind::kMenu) menus.push_back(static_cast<forms::Menu*>(child));
+  }
+  Letters letters(menus);
+  for (forms::Menu* menu : menus) {
+    QAction* action = nullptr;
+    if (menu->Children().empty()) {
+      action = new QAction(&to);
+    } else {
+      auto* const list = new QMenu(&to);
+      action = list->menuAction();
+      AddEntries(*menu, view, *list);
+    }
+    to.addAction(action);
+    entries_.push_back(std::make_unique<Entry>(*menu, view, *action, letters.For(*menu)));
+  }
+}
+
+int MenuBarView::Place(int width) {
+  if (const QFont font = OwnFont(); bar_->font() != font) bar_->setFont(font);
+  const int height = bar_->heightForWidth(width);
+  bar_->setGeometry(0, 0, width, height);
+  return height;
+}
+
+void MenuBarView::OpenFirst() {
+  const QList<QAction*> actions = bar_->actions();
+  if (!actions.isEmpty()) bar_->setActiveAction(actions.first());
+}
+
+}  // namespace lectern::desktop

@@ -1,0 +1,34 @@
+// The menu bar of a window and its entries.
+#pragma once
+
+#include <QMenuBar>
+#include <memory>
+#include <vector>
+
+#include "forms/menu.h"
+#include "ui/desktop/app/events.h"
+
+namespace lectern::desktop {
+
+class WindowView;
+
+class MenuBarView {
+ public:
+  MenuBarView(forms::Window& window, WindowView& view, QWidget& frame);
+  ~MenuBarView();
+
+  // Lays the bar along the top of the window; its height, in pixels.
+  int Place(int width);
+
+  void OpenFirst();
+
+ private:
+  class Entry;
+  class Letters;
+  void AddEntries(forms::Container& from, WindowView& view, QWidget& to);
+
+  QMenuBar* bar_;
+  std::vector<std::unique_ptr<Entry>> entries_;
+};
+
+}  // namespace lectern::desktop

@@ -1,0 +1,13 @@
+// Boxes of plain text, of one line and of several.
+#pragma once
+
+#include <memory>
+
+#include "forms/text_box.h"
+#include "ui/desktop/views/control_view.h"
+
+namespace lectern::desktop {
+
+std::unique_ptr<ControlView> MakeTextBoxView(forms::TextBox& box, WindowView& window, QWidget& parent);
+
+}  // namespace lectern::desktop

@@ -1,0 +1,321 @@
+#include "ui/desktop/views/window_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "forms/buttons.h"
+#include "ui/desktop/app/pictures.h"
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/layout/fitted_face.h"
+#include "ui/desktop/layout/window_focus.h"
+#include "ui/desktop/views/child_views.h"
+#include "ui/desktop/views/control_view.h"
+#include "ui/desktop/views/keys.h"
+#include "ui/desktop/views/menu_views.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+// What the desktop puts around a window, at most: borders and a title.
+constexpr QSize kDecoration(8, 36);
+
+int ToPixels(double twips) { return static_cast<int>(std::lround(twips / forms::kTwipsPerPixel)); }
+
+}  // namespace
+
+class WindowView::FrameWidget : public QWidget {
+ public:
+  explicit FrameWidget(WindowView& view) : view_(view) {}
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    event->ignore();  // it is for the program to say what becomes of the window
+    view_.CloseAsked();
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const int letter = AccessKey(*event);
+    const bool taken = letter != 0 ? view_.PressAccessKey(letter) : view_.KeyPressed(*event);
+    if (!taken) QWidget::keyPressEvent(event);
+  }
+
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::ShortcutOverride) {
+      // Qt would let a menu and a button with the same letter take turns.
+      const int letter = AccessKey(static_cast<const QKeyEvent&>(*event));
+      if (letter != 0 && view_.HasAccessKey(letter)) {
+        event->accept();
+        return true;
+      }
+    }
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ApplicationFontChange) {
+      view_.ThemeChanged();
+    }
+    return QWidget::event(event);
+  }
+
+ private:
+  WindowView& view_;
+};
+
+WindowView::WindowView(forms::Window& window, Events& events, std::function<void(forms::Window&)> close)
+    : LayerView(events), window_(window), close_(std::move(close)) {
+  window_.Attach(this);
+  LayerView::Changed();
+}
+
+// The widgets go first, while the views that they report to still stand.
+WindowView::~WindowView() {
+  if (!abandoned_) Abandon();
+  frame_.reset();
+}
+
+void WindowView::Abandon() {
+  for (forms::Control* control : window_.Controls()) {
+    if (control->GetKind() != forms::Kind::kTimer) control->Attach(nullptr);
+  }
+  window_.Attach(nullptr);
+  abandoned_ = true;
+  if (frame_) frame_->hide();
+}
+
+// A pointer is shown at once: it tells of the very handler that is at work.
+void WindowView::Changed() {
+  LayerView::Changed();
+  if (frame_) ApplyPointer();
+}
+
+void WindowView::Refresh() {
+  if (abandoned_) return;
+  if (!frame_) {
+    if (!window_.Visible) return;
+    Build();
+  }
+  frame_->setWindowTitle(ToQString(window_.Title == "" ? window_.Caption() : window_.Title()));
+  ApplySize();
+  ApplyPlace();
+  ApplyPointer();
+  ApplyColours();
+  const bool appears = window_.Visible() && frame_->isHidden();
+  frame_->setVisible(window_.Visible);
+  if (std::exchange(front_is_wanted_, false) || appears) ComeToFront();
+}
+
+void WindowView::ComeToFront() {
+  frame_->setWindowState(frame_->windowState() & ~Qt::WindowMinimized);
+  frame_->raise();
+  frame_->activateWindow();
+}
+
+void WindowView::TakeFocus() {
+  front_is_wanted_ = true;
+  LayerView::Changed();
+}
+
+void WindowView::Build() {
+  frame_ = std::make_unique<FrameWidget>(*this);
+  frame_->setObjectName(ToQString(window_.Name()));
+  fitted_ = std::make_unique<FittedFace>(*frame_);
+  face_ = &fitted_->Face();
+  if (window_.HasMenuBar()) menu_bar_ = std::make_unique<MenuBarView>(window_, *this, *frame_);
+  ApplySize();
+  children_ = std::make_unique<ChildViews>(window_, *this, *face_);
+  focus_ = std::make_unique<WindowFocus>(window_, GetEvents(), *frame_, *children_);
+  needs_arranging_ = true;
+}
+
+QWidget& WindowView::Face() {
+  if (!frame_) {
+    Build();
+    GetEvents().ShowAll();
+  }
+  return *face_;
+}
+
+// What the controls take up of the client area, whether they can be seen by now or not. A dot is only kept
+// there.
+QRect WindowView::Covered(const QSize& client) const {
+  const QRect all(QPoint(0, 0), client);
+  QRect covered;
+  for (const forms::Control* child : window_.Children()) {
+    const auto* const control = dynamic_cast<const forms::PlacedControl*>(child);
+    if (control == nullptr) continue;
+    const QRect place(ToPixels(control->Left), ToPixels(control->Top), ToPixels(control->Width),
+                      ToPixels(control->Height));
+    if (place.width() > 1 && place.height() > 1) covered |= place & all;
+  }
+  return covered;
+}
+
+// Around the client area, which is what the window's size means; the menu bar takes its height above it.
+void WindowView::ApplySize() {
+  const QSize client(ToPixels(window_.ClientWidth()), ToPixels(window_.ClientHeight()));
+  const int above = menu_bar_ ? menu_bar_->Place(client.width()) : 0;
+  const QSize room = frame_->screen()->availableSize() - kDecoration;
+  const bool resized = face_->size() != client;
+  const QSize size = fitted_->Place(client, Covered(client), above, room);
+  if (frame_->size() != size) frame_->setFixedSize(size);
+  if (resized && children_) children_->MarkStale();
+}
+
+// Only when the program moves the window: where a person has put it, it stays. Where it takes up all that
+// there is, it begins where the room does.
+void WindowView::ApplyPlace() {
+  const std::pair<double, double> wanted{window_.Left, window_.Top};
+  if (place_ == wanted) return;
+  place_ = wanted;
+  const QRect room = frame_->screen()->availableGeometry();
+  const QSize left_over = room.size() - kDecoration - frame_->size();
+  const int left = left_over.width() > 0 ? std::max(ToPixels(wanted.first), 0) : room.left();
+  const int top = left_over.height() > 0 ? std::max(ToPixels(wanted.second), 0) : room.top();
+  frame_->move(left, top);
+}
+
+void WindowView::ApplyPointer() {
+  if (pointer_ == window_.MousePointer) return;
+  pointer_ = window_.MousePointer;
+  if (pointer_ == forms::kPointerDefault) {
+    frame_->unsetCursor();
+  } else {
+    frame_->setCursor(PointerOf(pointer_));
+  }
+}
+
+void WindowView::ApplyColours() {
+  const QPalette theme = QApplication::palette();
+  QPalette palette;
+  if (window_.BackColor != forms::kButtonFace) {
+    const QColor ground = ToColor(window_.BackColor, theme);
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::WindowText, TextOn(ground));
+  }
+  if (face_->palette().color(QPalette::Window) == ToColor(window_.BackColor, theme)) return;
+  face_->setPalette(palette);
+  if (children_) children_->Recolour();
+}
+
+// The desktop's own programs change while they are looked at, too.
+void WindowView::ThemeChanged() {
+  if (abandoned_ || !children_) return;
+  Changed();
+  children_->Recolour();
+  if (!GetEvents().AtWork()) GetEvents().Run([] {});
+}
+
+void WindowView::Arrange() {
+  children_->Stack();
+  std::vector<ControlView*> order;
+  children_->AppendInTabOrder(order);
+  for (std::size_t i = 1; i < order.size(); ++i) {
+    QWidget::setTabOrder(order[i - 1]->Widget(), order[i]->Widget());
+  }
+}
+
+void WindowView::WantsToCommit(ControlView& view) {
+  if (std::find(uncommitted_.begin(), uncommitted_.end(), &view) == uncommitted_.end()) {
+    uncommitted_.push_back(&view);
+  }
+}
+
+void WindowView::Commit() {
+  for (ControlView* view : std::exchange(uncommitted_, {})) {
+    if (!abandoned_) view->Commit();
+  }
+}
+
+void WindowView::Settle() {
+  if (abandoned_ || !frame_ || frame_->isHidden()) return;
+  if (std::exchange(needs_arranging_, false)) Arrange();
+  focus_->Settle();
+}
+
+void WindowView::FocusIsWanted() {
+  if (focus_) focus_->IsWanted();
+}
+
+void WindowView::FocusArrived() {
+  if (abandoned_ || !focus_) return;
+  if (QWidget* const focus = frame_->focusWidget()) fitted_->BringIntoSight(*focus);
+  focus_->Arrived();
+}
+
+forms::Control* WindowView::ButtonWith(int letter) const {
+  if (abandoned_) return nullptr;
+  forms::Control* best = nullptr;
+  unsigned best_shown_at = 0;
+  for (forms::Control* control : window_.Controls()) {
+    const auto* const button = dynamic_cast<const forms::Button*>(control);
+    if (button == nullptr || AccessKey(button->Caption) != letter) continue;
+    if (control->RefusesPerson() != forms::Refusal::kNone) continue;
+    const auto* const panel = dynamic_cast<const forms::Control*>(&control->Parent());
+    const unsigned shown_at = panel == nullptr ? 0 : panel->ShownAt();
+    if (best != nullptr && shown_at <= best_shown_at) continue;
+    best = control;
+    best_shown_at = shown_at;
+  }
+  return best;
+}
+
+bool WindowView::PressAccessKey(int letter) {
+  forms::Control* const button = ButtonWith(letter);
+  if (button == nullptr) return false;
+  if (ControlView* view = SeenViewOf(button)) focus_->TakeToPress(*view);
+  // Leaving the field that had the focus may have done away with the button.
+  if (abandoned_ || button->RefusesPerson() != forms::Refusal::kNone) return true;
+  GetEvents().Deliver(window_, [button] { button->PersonClicks(); });
+  return true;
+}
+
+void WindowView::CloseAsked() {
+  if (!abandoned_) GetEvents().Run([this] { close_(window_); });
+}
+
+bool WindowView::HandleKey(const QKeyEvent& key) {
+  if (abandoned_ || !children_) return false;
+  return children_->Any([&key](ControlView& view) { return view.IsSeen() && view.HandleWindowKey(key); });
+}
+
+double WindowView::Enlargement() const {
+  constexpr double kStep = 1.1;
+  return std::pow(kStep, enlarged_);
+}
+
+void WindowView::Enlarge(int steps) {
+  constexpr int kSmallest = -6;
+  constexpr int kLargest = 14;
+  const int wanted = steps == 0 ? 0 : std::clamp(enlarged_ + steps, kSmallest, kLargest);
+  if (abandoned_ || std::exchange(enlarged_, wanted) == wanted) return;
+  GetEvents().Run([this] {
+    children_->Any([](ControlView& view) {
+      view.Changed();
+      return false;
+    });
+  });
+}
+
+bool WindowView::KeyPressed(const QKeyEvent& event) {
+  if (HandleKey(event)) return true;
+  if (abandoned_) return false;
+  const int key = event.key();
+  if (key == Qt::Key_Escape) {
+    GetEvents().Deliver(window_, [this] { window_.PressCancelOfFrontPanel(); });
+    return true;
+  }
+  if (key == Qt::Key_F6) {
+    focus_->ChangeBetweenPanels();
+    return true;
+  }
+  if (key == Qt::Key_F10 && menu_bar_) {
+    menu_bar_->OpenFirst();
+    return true;
+  }
+  return false;
+}
+
+}  // namespace lectern::desktop
