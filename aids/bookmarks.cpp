@@ -51,13 +51,13 @@ Bookmarks::Bookmarks(reader::Reader& the_reader, reader::Panels& the_panels, rea
       Command10(the_panels.Picture1, "Command10", {.caption = "New"}),
       Command11(the_panels.Picture1, "Command11", {.caption = "Delete"}),
       Command7(the_panels.Picture1, "Command7", {.caption = "Close", .is_cancel = true}),
-      reader(the_reader),
-      panels(the_panels),
-      tools(the_tools) {
+      reader_(the_reader),
+      panels_(the_panels),
+      tools_(the_tools) {
   Label19_3.PutInArray(3);
   C_4.PutInArray(4);
-  panels.Picture2.Picture = Arrows();
-  tools.Command3.Click = [this] { Command3_Click(); };
+  panels_.Picture2.Picture = Arrows();
+  tools_.Command3.Click = [this] { Command3_Click(); };
   menus.xb.Click = [this] { xb_Click(); };
   File1.Click = [this] { File1_Click(); };
   Command5.Click = [this] { Command5_Click(); };
@@ -65,59 +65,59 @@ Bookmarks::Bookmarks(reader::Reader& the_reader, reader::Panels& the_panels, rea
   Command7.Click = [this] { Command7_Click(); };
   Command10.Click = [this] { Command10_Click(); };
   Command11.Click = [this] { Command11_Click(); };
-  panels.Picture2.MouseMove = [this](const forms::MouseEvent&) { Picture2_MouseMove(); };
+  panels_.Picture2.MouseMove = [this](const forms::MouseEvent&) { Picture2_MouseMove(); };
 }
 
 void Bookmarks::Command3_Click() {
-  panels.picp.Visible = false;
+  panels_.picp.Visible = false;
   xb_Click();
-  tools.Disable();
+  tools_.Disable();
 }
 
 // ODDITY(bookmark-doors): the menu's door leaves the picture open and the tool buttons enabled, the tool
 // button's own does not; it is meant.
 void Bookmarks::xb_Click() {
-  panels.Picture1.Visible = true;
-  reader.LBLMRK(1).Caption = reader.lblbook.Caption;
-  reader.LBLMRK(2).Caption = reader.lblc.Caption;
+  panels_.Picture1.Visible = true;
+  reader_.LBLMRK(1).Caption = reader_.lblbook.Caption;
+  reader_.LBLMRK(2).Caption = reader_.lblc.Caption;
 }
 
 void Bookmarks::File1_Click() {
   const int selected = File1.SelectedIndex();
   if (selected < 0) return;
-  files::FileSlots& slots = reader.form.Slots();
-  slots.OpenForReading(kBookmark, reader.Dir1.Path + "\\" + File1.List(selected));
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForReading(kBookmark, reader_.Dir1.Path + "\\" + File1.List(selected));
   const std::string name(slots.ReadField(kBookmark));
   const std::string book(slots.ReadField(kBookmark));
   const std::string chapter(slots.ReadField(kBookmark));
   slots.Close(kBookmark);
-  reader.LBLMRK(0).Caption = name;
-  reader.LBLMRK(1).Caption = book;
-  reader.LBLMRK(2).Caption = chapter;
+  reader_.LBLMRK(0).Caption = name;
+  reader_.LBLMRK(1).Caption = book;
+  reader_.LBLMRK(2).Caption = chapter;
 }
 
 std::string Bookmarks::PathOf(const std::string& name) const {
-  return reader.Dir1.Path + "\\" + name + ".bkm";
+  return reader_.Dir1.Path + "\\" + name + ".bkm";
 }
 
 // Writes the reader's place behind whatever the bookmark's file holds.
 void Bookmarks::AppendPlace(const std::string& name) {
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForAppending(kBookmark, PathOf(name));
-  slots.WriteRecord(kBookmark, name, reader.lblbk.Caption(), reader.lblc.Caption());
+  slots.WriteRecord(kBookmark, name, reader_.lblbk.Caption(), reader_.lblc.Caption());
   slots.Close(kBookmark);
 }
 
 void Bookmarks::Command10_Click() {
-  const std::string name = AskForName(reader.form.Platform(), "Enter a name for bookmark", "Enter Name");
+  const std::string name = AskForName(reader_.form.Platform(), "Enter a name for bookmark", "Enter Name");
   if (name.empty()) return;
   // ODDITY(new-keeps-place): under a name that exists the record goes behind the one that is there, which
   // alone is ever read, so that the old place stays in force; it is meant. Update replaces a place.
   AppendPlace(name);
   File1.Refresh();
-  reader.LBLMRK(0).Caption = name;
-  reader.LBLMRK(1).Caption = reader.lblbk.Caption;
-  reader.LBLMRK(2).Caption = reader.lblc.Caption;
+  reader_.LBLMRK(0).Caption = name;
+  reader_.LBLMRK(1).Caption = reader_.lblbk.Caption;
+  reader_.LBLMRK(2).Caption = reader_.lblc.Caption;
 }
 
 // ODDITY(update-by-label): the file is the one that the label names. With no bookmark in hand that is
@@ -125,15 +125,15 @@ void Bookmarks::Command10_Click() {
 // written. The labels stay. It is meant.
 void Bookmarks::Command6_Click() {
   const base::Ignoring ignore;
-  const std::string& name = reader.LBLMRK(0).Caption;
-  ignore([&] { reader.form.Files().DeleteKeepingBackup(PathOf(name)); });
+  const std::string& name = reader_.LBLMRK(0).Caption;
+  ignore([&] { reader_.form.Files().DeleteKeepingBackup(PathOf(name)); });
   ignore([&] { AppendPlace(name); });
   ignore([&] { File1.Refresh(); });
 }
 
 void Bookmarks::Command11_Click() {
   if (const int selected = File1.SelectedIndex(); selected >= 0) {
-    reader.form.Files().DeleteKeepingBackup(reader.Dir1.Path + "\\" + File1.List(selected));
+    reader_.form.Files().DeleteKeepingBackup(reader_.Dir1.Path + "\\" + File1.List(selected));
   }
   File1.Refresh();
 }
@@ -141,29 +141,29 @@ void Bookmarks::Command11_Click() {
 // The empty writes make each later one a change. The book's name, written while the chapter stands, sends
 // the chapter bar to 1 and loads that; the last write shows the chapter that is wanted.
 void Bookmarks::Command5_Click() {
-  const std::string chapter = reader.LBLMRK(2).Caption;
-  reader.lblbook.Caption = "";
-  reader.lblc.Caption = "";
-  reader.lblbk.Caption = "";
-  reader.lblc.Caption = chapter;
-  reader.lblbook.Caption = reader.LBLMRK(1).Caption;
-  reader.lblbk.Caption = reader.LBLMRK(1).Caption;
-  reader.lblc.Caption = "";
-  reader.lblc.Caption = chapter;
+  const std::string chapter = reader_.LBLMRK(2).Caption;
+  reader_.lblbook.Caption = "";
+  reader_.lblc.Caption = "";
+  reader_.lblbk.Caption = "";
+  reader_.lblc.Caption = chapter;
+  reader_.lblbook.Caption = reader_.LBLMRK(1).Caption;
+  reader_.lblbk.Caption = reader_.LBLMRK(1).Caption;
+  reader_.lblc.Caption = "";
+  reader_.lblc.Caption = chapter;
   Leave();
 }
 
 void Bookmarks::Command7_Click() { Leave(); }
 
 void Bookmarks::Leave() {
-  panels.Picture1.Visible = false;
-  tools.Enable();
+  panels_.Picture1.Visible = false;
+  tools_.Enable();
 }
 
 // ODDITY(sweeping-chapters): every movement of the pointer over the box is a chapter further, and nothing
 // stops it behind the last one; it is meant.
 void Bookmarks::Picture2_MouseMove() {
-  reader.lblc.Caption = text::NumberText(text::NumberValue(reader.lblc.Caption()) + 1);
+  reader_.lblc.Caption = text::NumberText(text::NumberValue(reader_.lblc.Caption()) + 1);
 }
 
 }  // namespace lectern::aids

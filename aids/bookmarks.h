@@ -42,9 +42,9 @@ class Bookmarks {
   void AppendPlace(const std::string& name);
   void Leave();
 
-  reader::Reader& reader;
-  reader::Panels& panels;
-  reader::ToolButtons& tools;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ToolButtons& tools_;
 };
 
 }  // namespace lectern::aids

@@ -36,9 +36,9 @@ Help::Help(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolB
       Command44(the_panels.frmhelp, "Command44",
                 {.caption = "Close", .name = "Close, and unlock the tool buttons"}),
       Timer1(the_reader.form, "Timer1"),
-      reader(the_reader),
-      panels(the_panels),
-      tools(the_tools) {
+      reader_(the_reader),
+      panels_(the_panels),
+      tools_(the_tools) {
   Label19_4.PutInArray(4);
   menus.xh2.Click = [this] { xh2_Click(); };
   menus.aboutlt.Click = [this] { aboutlt_Click(); };
@@ -50,11 +50,11 @@ Help::Help(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolB
   Command44.Click = [this] { Command44_Click(); };
 
   for (const StoredNote& note : kStoredNotes) {
-    reader.form.routines[std::string(note.routine)] = [this, &note](const std::string&) {
+    reader_.form.routines[std::string(note.routine)] = [this, &note](const std::string&) {
       ShowText(std::string(note.text));
     };
   }
-  reader.form.routines["OpenWebPage"] = [this](const std::string& address) { OpenWebPage(address); };
+  reader_.form.routines["OpenWebPage"] = [this](const std::string& address) { OpenWebPage(address); };
   ShowAbout();
 }
 
@@ -70,24 +70,24 @@ void Help::LeaveAbout() {
   txthelp.FontSize.EditInPlace([](double& points) { points = 0; });
 }
 
-void Help::xh2_Click() { panels.frmhelp.Visible = true; }
+void Help::xh2_Click() { panels_.frmhelp.Visible = true; }
 
 void Help::lblhp_Click(int index) {
   if (index < 0 || index >= static_cast<int>(kTopicFiles.size())) return;
-  txthelp.LoadFile(reader.Dir1.Path + "\\" + kTopicFiles[static_cast<std::size_t>(index)]);
+  txthelp.LoadFile(reader_.Dir1.Path + "\\" + kTopicFiles[static_cast<std::size_t>(index)]);
   LeaveAbout();
 }
 
 // ODDITY(help-close-unlocks): one of the two Close buttons enables the tool buttons, also where another open
 // panel has disabled them; it is meant.
-void Help::Command4_Click() { panels.frmhelp.Visible = false; }
+void Help::Command4_Click() { panels_.frmhelp.Visible = false; }
 
 void Help::Command44_Click() {
-  panels.frmhelp.Visible = false;
-  tools.Enable();
+  panels_.frmhelp.Visible = false;
+  tools_.Enable();
 }
 
-void Help::aboutlt_Click() { reader.form.Platform().Message(kAboutText); }
+void Help::aboutlt_Click() { reader_.form.Platform().Message(kAboutText); }
 
 void Help::webb1_Click() { OpenWebPage("http://" + std::string(kDefaultHost) + "/lectern/"); }
 void Help::webb2_Click() { OpenWebPage("http://" + std::string(kDefaultHost) + "/"); }
@@ -97,11 +97,11 @@ bool Help::OpenWebPage(const std::string& address) {
   const bool has_scheme = text::EqualFolded(std::string_view(address).substr(0, kScheme.size()), kScheme);
   // ODDITY(bare-address-replaced): an address without its "http" is not completed but replaced by the default
   // host; it is meant.
-  return reader.form.Platform().OpenInBrowser(has_scheme ? address : "http://" + std::string(kDefaultHost));
+  return reader_.form.Platform().OpenInBrowser(has_scheme ? address : "http://" + std::string(kDefaultHost));
 }
 
 void Help::ShowNote(const std::string& text) {
-  panels.frmhelp.Visible = true;
+  panels_.frmhelp.Visible = true;
   ShowText(text);
 }
 

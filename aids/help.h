@@ -50,9 +50,9 @@ class Help {
   void LeaveAbout();
   void ShowText(const std::string& text);
 
-  reader::Reader& reader;
-  reader::Panels& panels;
-  reader::ToolButtons& tools;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ToolButtons& tools_;
 };
 
 }  // namespace lectern::aids

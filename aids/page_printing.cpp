@@ -15,7 +15,7 @@ constexpr int kNote = 1;  // slot
 PagePrinting::PagePrinting(reader::Reader& the_reader, reader::Panels& panels,
                            std::function<forms::Window&()> page)
     : Command30(panels.Picture1, "Command30", {.caption = "Print Page"}),
-      reader(the_reader),
+      reader_(the_reader),
       page_(std::move(page)) {
   Command30.Click = [this] { Command30_Click(); };
 }
@@ -25,9 +25,9 @@ PagePrinting::PagePrinting(reader::Reader& the_reader, reader::Panels& panels,
 // It is meant.
 void PagePrinting::Command30_Click() {
   const base::Ignoring ignore;
-  files::FileSlots& slots = reader.form.Slots();
-  const std::string& bookmark = reader.LBLMRK(0).Caption;
-  const std::string note = reader.Dir1.Path + "\\" + (bookmark.empty() ? "NAME" : bookmark) + ".NOT";
+  files::FileSlots& slots = reader_.form.Slots();
+  const std::string& bookmark = reader_.LBLMRK(0).Caption;
+  const std::string note = reader_.Dir1.Path + "\\" + (bookmark.empty() ? "NAME" : bookmark) + ".NOT";
   ignore([&] { slots.OpenForAppending(kNote, note); });
   ignore([&] { slots.Close(kNote); });
   ignore([&] { slots.OpenForReading(kNote, note); });

@@ -19,7 +19,7 @@ class PagePrinting {
  private:
   void Command30_Click();
 
-  reader::Reader& reader;
+  reader::Reader& reader_;
   std::function<forms::Window&()> page_;
 };
 

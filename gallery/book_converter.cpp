@@ -23,7 +23,7 @@ BookConverter::BookConverter(reader::Panels& panels)
       RTB2(panels.Frame5, "RTB2", {.name = "The book file"}),
       NME(panels.Frame5, "NME", {.caption = "NME"}),
       Command33(panels.Frame5, "Command33", {.caption = "CONVERT FILE"}),
-      form(RTB1.HostWindow()) {
+      form_(RTB1.HostWindow()) {
   Dir2.Change = [this] { File2.Path = Dir2.Path; };
   Command33.Click = [this] { Command33_Click(); };
 }
@@ -31,10 +31,10 @@ BookConverter::BookConverter(reader::Panels& panels)
 void BookConverter::Command33_Click() {
   constexpr std::size_t kShortestSource = 20;
   if (text::Length(RTB1.Text()) < kShortestSource) {
-    form.Platform().Message("SELECT OPTION");
+    form_.Platform().Message("SELECT OPTION");
     return;
   }
-  files::FileSlots& slots = form.Slots();
+  files::FileSlots& slots = form_.Slots();
   const std::string scratch = Dir2.Path + "\\TEMP.TXT";
   LaySourceDown(scratch);
   slots.OpenForReading(kSource, scratch);
@@ -48,13 +48,13 @@ void BookConverter::Command33_Click() {
   slots.Close(kBook);
   RTB1.Text = "";
   RTB2.LoadFile(book_file);
-  form.Files().Delete(scratch);
+  form_.Files().Delete(scratch);
   File2.Refresh();
 }
 
 // Line by line, so that each line's encoding is its own.
 void BookConverter::LaySourceDown(const std::string& scratch) {
-  files::FileSlots& slots = form.Slots();
+  files::FileSlots& slots = form_.Slots();
   slots.OpenForAppending(kSource, scratch);
   std::string_view left = RTB1.Text();
   for (std::size_t end = left.find("\r\n"); end != std::string_view::npos; end = left.find("\r\n")) {
@@ -67,7 +67,7 @@ void BookConverter::LaySourceDown(const std::string& scratch) {
 
 // The line behind the header and a blank line, or behind two blank lines.
 std::string BookConverter::ReadBookName() {
-  files::FileSlots& slots = form.Slots();
+  files::FileSlots& slots = form_.Slots();
   std::string line;
   int passed = 0;
   while (!slots.EndOfFile(kSource) && passed < 2) {
@@ -79,7 +79,7 @@ std::string BookConverter::ReadBookName() {
 }
 
 void BookConverter::ConvertVerses() {
-  files::FileSlots& slots = form.Slots();
+  files::FileSlots& slots = form_.Slots();
   int chapter = 0;
   while (!slots.EndOfFile(kSource)) {
     std::string line(slots.ReadLine(kSource));
@@ -101,7 +101,7 @@ void BookConverter::ConvertVerses() {
 // A verse of which there is next to nothing on its first line goes on on the next one.
 std::string BookConverter::WholeVerse(std::string line) {
   constexpr std::size_t kShortestVerse = 10;
-  if (text::Length(line) < kShortestVerse) line += form.Slots().ReadLine(kSource);
+  if (text::Length(line) < kShortestVerse) line += form_.Slots().ReadLine(kSource);
   return line;
 }
 

@@ -40,7 +40,7 @@ class BookConverter {
   void ConvertVerses();
   std::string WholeVerse(std::string line);
 
-  forms::Window& form;
+  forms::Window& form_;
 };
 
 }  // namespace lectern::gallery

@@ -24,10 +24,10 @@ Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, reader::Pa
             Slot("Fifth picture on the strip")}),
       lblp(the_panels.Picture5, "lblp", 2 * kSlotsOnPage),
       SSCommand3(the_panels.Picture5, "SSCommand3", {.caption = "›", .name = "Pictures after these"}),
-      catalogue(the_catalogue),
-      viewer(the_viewer),
-      panels(the_panels) {
-  catalogue.lblendpic.Change = [this] { lblendpic_Change(); };
+      catalogue_(the_catalogue),
+      viewer_(the_viewer),
+      panels_(the_panels) {
+  catalogue_.lblendpic.Change = [this] { lblendpic_Change(); };
   imgp.ForEach([this](int slot, forms::Image& image) {
     image.BorderStyle = 1;
     image.Click = [this, slot] { imgp_Click(slot); };
@@ -37,8 +37,8 @@ Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, reader::Pa
 }
 
 void Browser::lblendpic_Change() {
-  if (catalogue.lblendpic.Caption == "") return;
-  const int base = catalogue.PageStart();
+  if (catalogue_.lblendpic.Caption == "") return;
+  const int base = catalogue_.PageStart();
   // ODDITY(missing-picture-stops-the-page): a picture that cannot be loaded leaves the slots from there on as
   // they were, and on a page turn it ends the program. It is meant.
   for (int slot = 0; slot < kSlotsOnPage; ++slot) ShowSlot(slot, base + slot);
@@ -46,19 +46,19 @@ void Browser::lblendpic_Change() {
 }
 
 void Browser::ShowSlot(int slot, int index) {
-  const forms::Window& form = catalogue.reader.form;
-  if (catalogue.lstmc(1).ListCount() <= index) {
-    imgp(slot).Picture = form.LoadPicture(catalogue.reader.Dir1.Path + "\\picend.jpg");
+  const forms::Window& form = catalogue_.reader.form;
+  if (catalogue_.lstmc(1).ListCount() <= index) {
+    imgp(slot).Picture = form.LoadPicture(catalogue_.reader.Dir1.Path + "\\picend.jpg");
     Below(slot).Caption = kPastTheList;
     Above(slot).Caption = kPastTheList;
     return;
   }
-  const std::string& name = catalogue.lstmc(0).List(index);
+  const std::string& name = catalogue_.lstmc(0).List(index);
   // ODDITY(nameless-slot): a record without a name leaves its slot as it was. It is meant.
   if (name.empty()) return;
-  const std::size_t book_length = text::Length(catalogue.reader.lblbk.Caption());
-  imgp(slot).Picture = form.LoadPicture(catalogue.PictureFile(name));
-  Below(slot).Caption = std::string(ChapterAndVerse(catalogue.lstmc(1).List(index), book_length));
+  const std::size_t book_length = text::Length(catalogue_.reader.lblbk.Caption());
+  imgp(slot).Picture = form.LoadPicture(catalogue_.PictureFile(name));
+  Below(slot).Caption = std::string(ChapterAndVerse(catalogue_.lstmc(1).List(index), book_length));
   Above(slot).Caption = std::to_string(index + 1);
 }
 
@@ -67,7 +67,7 @@ void Browser::ResetPictureLabels() {
 }
 
 void Browser::SSCommand3_Click() {
-  forms::Label& lblendpic = catalogue.lblendpic;
+  forms::Label& lblendpic = catalogue_.lblendpic;
   // ODDITY(page-of-fillers): only a filler in the last slot stops it, so that a book of just five pictures,
   // or ten, has one more page with nothing but fillers. It is meant.
   if (Below(kSlotsOnPage - 1).Caption == kPastTheList) return;
@@ -81,29 +81,29 @@ void Browser::SSCommand3_Click() {
 
 // A book without pictures stops it too: its first number is not 1, and there is no page before it.
 void Browser::SSCommand4_Click() {
-  forms::Label& lblendpic = catalogue.lblendpic;
-  if (Above(0).Caption == "1" || catalogue.PageStart() <= 0) return;
+  forms::Label& lblendpic = catalogue_.lblendpic;
+  if (Above(0).Caption == "1" || catalogue_.PageStart() <= 0) return;
   lblendpic.Caption = text::NumberText(text::NumberValue(lblendpic.Caption()) - kSlotsOnPage);
 }
 
 void Browser::imgp_Click(int slot) {
   const base::Ignoring ignore;
-  const int index = catalogue.PageStart() + slot;
+  const int index = catalogue_.PageStart() + slot;
   ResetPictureLabels();
-  for (int field = 0; field < catalogue.selfile.Count(); ++field) {
-    ignore([&] { catalogue.selfile(field).Text = catalogue.lstmc(field).List(index); });
+  for (int field = 0; field < catalogue_.selfile.Count(); ++field) {
+    ignore([&] { catalogue_.selfile(field).Text = catalogue_.lstmc(field).List(index); });
   }
   ignore([&] { Below(slot).ForeColor = kPickedColour; });
   // ODDITY(filler-opens-viewer): of a filler the bar refuses the index; the picked record is emptied, and
   // the viewer opens with what it showed. It is meant.
-  ignore([&] { catalogue.picnm.Value = index; });
+  ignore([&] { catalogue_.picnm.Value = index; });
   // The bar may stand on picture 0 already, and then nothing has changed.
-  if (slot == 0 && catalogue.lblendpic.Caption == std::to_string(kFirstPage)) {
-    ignore([&] { viewer.LBLPICP.Caption = catalogue.selfile(0).Text; });
-    ignore([&] { viewer.lblvs.Caption = catalogue.selfile(1).Text; });
-    ignore([&] { viewer.pick.Picture = imgp(0).Picture; });
+  if (slot == 0 && catalogue_.lblendpic.Caption == std::to_string(kFirstPage)) {
+    ignore([&] { viewer_.LBLPICP.Caption = catalogue_.selfile(0).Text; });
+    ignore([&] { viewer_.lblvs.Caption = catalogue_.selfile(1).Text; });
+    ignore([&] { viewer_.pick.Picture = imgp(0).Picture; });
   }
-  ignore([&] { panels.picp.Visible = true; });
+  ignore([&] { panels_.picp.Visible = true; });
 }
 
 }  // namespace lectern::gallery

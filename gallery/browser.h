@@ -39,9 +39,9 @@ class Browser {
   forms::Label& Above(int slot) { return lblp(slot + kSlotsOnPage); }
   forms::Label& Below(int slot) { return lblp(slot); }
 
-  PictureCatalogue& catalogue;
-  Viewer& viewer;
-  reader::Panels& panels;
+  PictureCatalogue& catalogue_;
+  Viewer& viewer_;
+  reader::Panels& panels_;
 };
 
 }  // namespace lectern::gallery

@@ -28,13 +28,13 @@ Maintenance::Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, 
       Command47(the_panels.Frame5, "Command47", {.caption = "Remove All"}),
       Command48(the_panels.Frame5, "Command48", {.name = "No action"}),
       Command46(the_panels.Frame5, "Command46", {.caption = "Close", .is_cancel = true}),
-      catalogue(the_catalogue),
-      browser(the_browser),
-      panels(the_panels),
-      reader(catalogue.reader) {
-  catalogue.Dirpics.Change = [this] { File3.Path = catalogue.Dirpics.Path; };
-  Command26.Click = [this] { panels.Frame5.Visible = true; };
-  Command46.Click = [this] { panels.Frame5.Visible = false; };
+      catalogue_(the_catalogue),
+      browser_(the_browser),
+      panels_(the_panels),
+      reader_(catalogue_.reader) {
+  catalogue_.Dirpics.Change = [this] { File3.Path = catalogue_.Dirpics.Path; };
+  Command26.Click = [this] { panels_.Frame5.Visible = true; };
+  Command46.Click = [this] { panels_.Frame5.Visible = false; };
   Label2.Click = [this] { HelpChangingBook(); };
   Command49.Click = [this] { Command49_Click(); };
   Command45.Click = [this] { Command45_Click(); };
@@ -46,30 +46,30 @@ Maintenance::Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, 
 Maintenance::Picked Maintenance::FindPicked() {
   int slot = 0;
   for (int i = kSlotsOnPage - 1; i >= 0; --i) {
-    if (browser.lblp(i).ForeColor == kPickedColour) slot = i;
+    if (browser_.lblp(i).ForeColor == kPickedColour) slot = i;
   }
   // ODDITY(no-pick-is-the-first): with no picture picked the tools take the first of the page. It is meant.
-  return {slot, catalogue.PageStart() + slot};
+  return {slot, catalogue_.PageStart() + slot};
 }
 
 // Draws the strip from the catalogue as it is now, on the page it was on.
 void Maintenance::ShowCatalogue(const std::string& page) {
-  catalogue.ExtractBookPictures();
-  catalogue.FillPictureLists();
-  catalogue.lblendpic.Caption = "";
-  catalogue.lblendpic.Caption = page;
+  catalogue_.ExtractBookPictures();
+  catalogue_.FillPictureLists();
+  catalogue_.lblendpic.Caption = "";
+  catalogue_.lblendpic.Caption = page;
 }
 
 // Takes every record of the catalogue in the order of the file, its name without the blanks at its end, to
 // `decide`, which keeps it or not.
 void Maintenance::Rewrite(const std::function<void(const PictureRecord&)>& decide) {
-  files::FileSlots& slots = reader.form.Slots();
-  const std::string page = catalogue.lblendpic.Caption;
-  const std::string fresh = reader.Dir1.Path + "\\pics22.dat";
+  files::FileSlots& slots = reader_.form.Slots();
+  const std::string page = catalogue_.lblendpic.Caption;
+  const std::string fresh = reader_.Dir1.Path + "\\pics22.dat";
   // ODDITY(leftover-of-a-failed-rewrite): what an action that failed left in the new file stays at its top,
   // so that those records stand twice in the catalogue. It is meant.
   slots.OpenForAppending(kNew, fresh);
-  slots.OpenForReading(kOld, catalogue.CatalogueFile());
+  slots.OpenForReading(kOld, catalogue_.CatalogueFile());
   while (!slots.EndOfFile(kOld)) {
     PictureRecord record = ReadPictureRecord(slots, kOld);
     record.name.resize(text::TrimEnd(record.name).size());
@@ -77,22 +77,24 @@ void Maintenance::Rewrite(const std::function<void(const PictureRecord&)>& decid
   }
   slots.Close(kOld);
   slots.Close(kNew);
-  reader.form.Files().DeleteKeepingBackup(catalogue.CatalogueFile());
-  reader.form.Files().Rename(fresh, catalogue.CatalogueFile());
+  reader_.form.Files().DeleteKeepingBackup(catalogue_.CatalogueFile());
+  reader_.form.Files().Rename(fresh, catalogue_.CatalogueFile());
   ShowCatalogue(page);
 }
 
-void Maintenance::Keep(const PictureRecord& record) { WritePictureRecord(reader.form.Slots(), kNew, record); }
+void Maintenance::Keep(const PictureRecord& record) {
+  WritePictureRecord(reader_.form.Slots(), kNew, record);
+}
 
 void Maintenance::Command49_Click() {
-  files::FileSlots& slots = reader.form.Slots();
-  const std::string page = catalogue.lblendpic.Caption;
-  slots.OpenForAppending(kOld, catalogue.CatalogueFile());
+  files::FileSlots& slots = reader_.form.Slots();
+  const std::string page = catalogue_.lblendpic.Caption;
+  slots.OpenForAppending(kOld, catalogue_.CatalogueFile());
   // ODDITY(doubled-credit): the third box is meant for a bare name; after a click on a picture it holds a
   // whole credit line, and the prefix stands twice. It is meant.
   WritePictureRecord(
       slots, kOld,
-      {catalogue.selfile(0).Text, catalogue.selfile(1).Text, "PICTURES BY: " + catalogue.selfile(2).Text});
+      {catalogue_.selfile(0).Text, catalogue_.selfile(1).Text, "PICTURES BY: " + catalogue_.selfile(2).Text});
   slots.Close(kOld);
   ShowCatalogue(page);
 }
@@ -108,28 +110,28 @@ void Maintenance::Command45_Click() {
     // also where it is the only one; and a later picture that is really called "done" goes with it.
     sought = "done";
   });
-  browser.ResetPictureLabels();
+  browser_.ResetPictureLabels();
 }
 
 void Maintenance::Command47_Click() {
   const std::string name = NameAt(FindPicked().index);
-  const std::string kept_name = catalogue.selfile(0).Text;
-  files::FileSlots& slots = reader.form.Slots();
+  const std::string kept_name = catalogue_.selfile(0).Text;
+  files::FileSlots& slots = reader_.form.Slots();
   Rewrite([&](const PictureRecord& record) {
     if (record.name != name) {
       Keep(record);
       return;
     }
-    slots.OpenForAppending(kRemoved, reader.Dir1.Path + "\\picsremoved.dat");
+    slots.OpenForAppending(kRemoved, reader_.Dir1.Path + "\\picsremoved.dat");
     WritePictureRecord(slots, kRemoved, record);
     slots.Close(kRemoved);
     // ODDITY(remove-all-wants-a-path): the picture that is moved away lies in the folder of the text, in a
     // folder of its name, and is called "jpg"; where there is none, the action fails, the catalogue staying
     // as it was, and ends the program. It is meant.
-    reader.form.Files().Rename(reader.Dir3.Path + "\\" + kept_name + "\\jpg",
-                               reader.Dir3.Path + "\\rem\\" + kept_name + "\\jpg");
+    reader_.form.Files().Rename(reader_.Dir3.Path + "\\" + kept_name + "\\jpg",
+                                reader_.Dir3.Path + "\\rem\\" + kept_name + "\\jpg");
   });
-  browser.ResetPictureLabels();
+  browser_.ResetPictureLabels();
 }
 
 // Takes the record of the held name out and puts it back behind that of the trigger name. Both stand in one
@@ -149,10 +151,10 @@ void Maintenance::Move(const std::string& held_name, const std::string& trigger_
     if (held) {
       Keep(*held);
     } else {
-      reader.form.Slots().PrintLine(kNew, ",,");
+      reader_.form.Slots().PrintLine(kNew, ",,");
     }
   });
-  browser.ResetPictureLabels();
+  browser_.ResetPictureLabels();
 }
 
 // ODDITY(mark-after-a-move): the mark goes with the picture but from the first slot, where it is lost; from
@@ -160,13 +162,13 @@ void Maintenance::Move(const std::string& held_name, const std::string& trigger_
 void Maintenance::SSCommand1_Click() {
   const Picked picked = FindPicked();
   Move(NameAt(picked.index - 1), NameAt(picked.index));
-  if (picked.slot > 0) browser.lblp(picked.slot - 1).ForeColor = kPickedColour;
+  if (picked.slot > 0) browser_.lblp(picked.slot - 1).ForeColor = kPickedColour;
 }
 
 void Maintenance::SSCommand2_Click() {
   const Picked picked = FindPicked();
   Move(NameAt(picked.index), NameAt(picked.index + 1));
-  if (picked.slot > 0) browser.lblp(picked.slot + 1).ForeColor = kPickedColour;
+  if (picked.slot > 0) browser_.lblp(picked.slot + 1).ForeColor = kPickedColour;
 }
 
 }  // namespace lectern::gallery

@@ -48,17 +48,17 @@ class Maintenance {
     int index;  // in the lists
   };
   Picked FindPicked();
-  std::string NameAt(int index) { return catalogue.lstmc(0).List(index); }
+  std::string NameAt(int index) { return catalogue_.lstmc(0).List(index); }
 
   void Rewrite(const std::function<void(const PictureRecord&)>& decide);
   void Keep(const PictureRecord& record);
   void ShowCatalogue(const std::string& page);
   void Move(const std::string& held_name, const std::string& trigger_name);
 
-  PictureCatalogue& catalogue;
-  Browser& browser;
-  reader::Panels& panels;
-  reader::Reader& reader;
+  PictureCatalogue& catalogue_;
+  Browser& browser_;
+  reader::Panels& panels_;
+  reader::Reader& reader_;
 };
 
 }  // namespace lectern::gallery

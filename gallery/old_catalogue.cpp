@@ -18,23 +18,23 @@ constexpr int kNew = 2;
 }  // namespace
 
 OldCatalogue::OldCatalogue(PictureCatalogue& the_catalogue, Viewer& the_viewer)
-    : catalogue(the_catalogue),
-      viewer(the_viewer),
-      reader(catalogue.reader),
-      Command38(reader.form, "Command38",
+    : catalogue_(the_catalogue),
+      viewer_(the_viewer),
+      reader_(catalogue_.reader),
+      Command38(reader_.form, "Command38",
                 {.caption = "Command38", .name = "Show the chapter's picture of the old catalogue"}) {
   Command38.Click = [this] { Command38_Click(); };
 }
 
-std::string OldCatalogue::OldFile() const { return reader.Dir1.Path + "\\pics.dat"; }
+std::string OldCatalogue::OldFile() const { return reader_.Dir1.Path + "\\pics.dat"; }
 
 void OldCatalogue::ConvertPicsDat() {
   enum class Expected { kCredit, kName, kPlace };
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   const base::Ignoring ignore;
-  ignore([&] { reader.form.Files().DeleteKeepingBackup(catalogue.CatalogueFile()); });  // or it was missing
+  ignore([&] { reader_.form.Files().DeleteKeepingBackup(catalogue_.CatalogueFile()); });  // or it was missing
   slots.OpenForReading(kOld, OldFile());
-  slots.OpenForAppending(kNew, catalogue.CatalogueFile());
+  slots.OpenForAppending(kNew, catalogue_.CatalogueFile());
   PictureRecord record;
   Expected expected = Expected::kCredit;
   while (!slots.EndOfFile(kOld)) {
@@ -57,29 +57,29 @@ void OldCatalogue::ConvertPicsDat() {
   }
   slots.Close(kOld);
   slots.Close(kNew);
-  reader.rtxt.LoadFile(catalogue.CatalogueFile());
+  reader_.rtxt.LoadFile(catalogue_.CatalogueFile());
 }
 
 // Shows the picture whose place the line is, where that lies at or behind the reader's chapter and the
 // picture has a name; whether it did.
 bool OldCatalogue::ShowAtOrBehindChapter(const std::string& line, std::string name) {
-  const int chapter = ChapterOf(line, text::Length(reader.lblbk.Caption()));
+  const int chapter = ChapterOf(line, text::Length(reader_.lblbk.Caption()));
   name = text::TrimEnd(name);
-  if (chapter < text::NumberValue(reader.lblc.Caption()) || name.empty()) return false;
-  viewer.pick.Picture = reader.form.LoadPicture(reader.Dir1.Path + "\\pics\\" + name + ".jpg");
-  viewer.LBLPICP.Caption = name;
-  viewer.lblvs.Caption = line;
+  if (chapter < text::NumberValue(reader_.lblc.Caption()) || name.empty()) return false;
+  viewer_.pick.Picture = reader_.form.LoadPicture(reader_.Dir1.Path + "\\pics\\" + name + ".jpg");
+  viewer_.LBLPICP.Caption = name;
+  viewer_.lblvs.Caption = line;
   return true;
 }
 
 void OldCatalogue::ShowPicsDatPicture() {
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForReading(kOld, OldFile());
   std::string name;
   bool shown = false;
   while (!shown && !slots.EndOfFile(kOld)) {
     const std::string line(slots.ReadLine(kOld));
-    if (IsInBook(line, reader.lblbk.Caption())) {
+    if (IsInBook(line, reader_.lblbk.Caption())) {
       shown = ShowAtOrBehindChapter(line, name);
     } else {
       name = line;
@@ -90,15 +90,15 @@ void OldCatalogue::ShowPicsDatPicture() {
 
 // The same with every line told in a box, and the book's name in another: a means to look into the file.
 void OldCatalogue::Command38_Click() {
-  files::FileSlots& slots = reader.form.Slots();
-  const std::string book = text::Upper(reader.lblbk.Caption());
+  files::FileSlots& slots = reader_.form.Slots();
+  const std::string book = text::Upper(reader_.lblbk.Caption());
   slots.OpenForReading(kOld, OldFile());
   std::string name;
   bool shown = false;
   while (!shown && !slots.EndOfFile(kOld)) {
     const std::string line(slots.ReadLine(kOld));
-    reader.form.Platform().Message(line);
-    reader.form.Platform().Message(book);
+    reader_.form.Platform().Message(line);
+    reader_.form.Platform().Message(book);
     if (IsInBook(text::Upper(line), book)) {
       shown = ShowAtOrBehindChapter(line, name);
     } else {

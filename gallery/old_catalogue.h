@@ -21,9 +21,9 @@ class OldCatalogue {
   bool ShowAtOrBehindChapter(const std::string& line, std::string name);
   std::string OldFile() const;
 
-  PictureCatalogue& catalogue;
-  Viewer& viewer;
-  reader::Reader& reader;
+  PictureCatalogue& catalogue_;
+  Viewer& viewer_;
+  reader::Reader& reader_;
   forms::CommandButton Command38;  // beyond the window's right edge
 };
 

@@ -20,8 +20,8 @@ class OlderList {
  private:
   void Command40_Click();
 
-  PictureCatalogue& catalogue;
-  reader::Reader& reader;
+  PictureCatalogue& catalogue_;
+  reader::Reader& reader_;
 };
 
 }  // namespace lectern::gallery

@@ -12,12 +12,12 @@ Viewer::Viewer(PictureCatalogue& the_catalogue, reader::Panels& the_panels)
       Command32(the_panels.picp, "Command32", {.caption = "Paint"}),
       Command37(the_panels.picp, "Command37", {.caption = "Close Pictures", .is_cancel = true}),
       tmrpb(the_panels.picp, "tmrpb", {.enabled = false, .interval = 3000}),
-      catalogue(the_catalogue),
-      reader(catalogue.reader),
-      panels(the_panels) {
+      catalogue_(the_catalogue),
+      reader_(catalogue_.reader),
+      panels_(the_panels) {
   pick.BorderStyle = 1;
-  catalogue.picnm.Change = [this] { picnm_Change(); };
-  reader.tmrpic.Tick = [this] { tmrpic_Timer(); };
+  catalogue_.picnm.Change = [this] { picnm_Change(); };
+  reader_.tmrpic.Tick = [this] { tmrpic_Timer(); };
   tmrpb.Tick = [this] { tmrpb_Timer(); };
   Command32.Click = [this] { OpenPaint(); };
   Command37.Click = [this] { Command37_Click(); };
@@ -25,20 +25,20 @@ Viewer::Viewer(PictureCatalogue& the_catalogue, reader::Panels& the_panels)
 
 void Viewer::picnm_Change() {
   constexpr int kNoPictures = -1;
-  if (catalogue.picnm.Max == kNoPictures) return;
+  if (catalogue_.picnm.Max == kNoPictures) return;
   const base::Ignoring ignore;
-  const int index = catalogue.picnm.Value;
-  const std::string& name = catalogue.lstmc(0).List(index);
+  const int index = catalogue_.picnm.Value;
+  const std::string& name = catalogue_.lstmc(0).List(index);
   // ODDITY(picture-missing-in-viewer): where the file is missing or is no picture, the picture before stays,
   // under the new name and place. It is meant.
-  ignore([&] { pick.Picture = reader.form.LoadPicture(catalogue.PictureFile(name)); });
+  ignore([&] { pick.Picture = reader_.form.LoadPicture(catalogue_.PictureFile(name)); });
   ignore([&] { LBLPICP.Caption = name; });
-  ignore([&] { lblvs.Caption = catalogue.lstmc(1).List(index); });
+  ignore([&] { lblvs.Caption = catalogue_.lstmc(1).List(index); });
 }
 
 // One step of the slide show, which begins anew behind the last picture.
 void Viewer::tmrpic_Timer() {
-  forms::HScrollBar& picnm = catalogue.picnm;
+  forms::HScrollBar& picnm = catalogue_.picnm;
   if (picnm.Value == picnm.Max()) {
     picnm.Value = 0;
   } else {
@@ -48,13 +48,13 @@ void Viewer::tmrpic_Timer() {
 
 // Nothing enables it, and nothing ever gave it a text to show.
 void Viewer::tmrpb_Timer() {
-  reader.form.Platform().Message("");
+  reader_.form.Platform().Message("");
   tmrpb.Enabled = true;
 }
 
 void Viewer::Command37_Click() {
-  reader.tmrpic.Enabled = false;
-  panels.picp.Visible = false;
+  reader_.tmrpic.Enabled = false;
+  panels_.picp.Visible = false;
 }
 
 }  // namespace lectern::gallery

@@ -33,9 +33,9 @@ class Viewer {
   void tmrpb_Timer();
   void Command37_Click();
 
-  PictureCatalogue& catalogue;
-  reader::Reader& reader;
-  reader::Panels& panels;
+  PictureCatalogue& catalogue_;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
 };
 
 }  // namespace lectern::gallery

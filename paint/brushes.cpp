@@ -24,11 +24,11 @@ Brushes::Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
               {.name = "Brush 4"},
               {.name = "Brush 5, the thickest"},
               {.name = "The chosen brush"}}),
-      form(the_form),
-      gallery(the_gallery),
-      canvas(the_canvas),
-      pen(the_pen),
-      slots(the_slots) {
+      form_(the_form),
+      gallery_(the_gallery),
+      canvas_(the_canvas),
+      pen_(the_pen),
+      slots_(the_slots) {
   picpbs.ForEach([this](int index, forms::PictureBox& box) {
     box.BorderStyle = 0;
     box.AutoSize = index == kChosen;
@@ -38,8 +38,8 @@ Brushes::Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
 }
 
 void Brushes::ShowPointer(int brush) {
-  canvas.picbox.MouseIcon =
-      form.LoadPicture(gallery.reader.Dir1.Path + "\\cdx" + std::to_string(brush + 1) + ".ico");
+  canvas_.picbox.MouseIcon =
+      form_.LoadPicture(gallery_.reader.Dir1.Path + "\\cdx" + std::to_string(brush + 1) + ".ico");
 }
 
 // ODDITY(pointer-of-another-brush): the first stroke has the width of the third brush under the pointer of
@@ -49,7 +49,7 @@ void Brushes::ShowFirstPointer() { ShowPointer(1); }
 // A click on the box of the chosen brush clears the marks and chooses nothing.
 void Brushes::picpbs_Click(int index) {
   // Joined to the folder's path without a separator: the file lies beside the data folder.
-  slots.TakeSnapshot(gallery.reader.Dir1.Path + "TEST.jpg");
+  slots_.TakeSnapshot(gallery_.reader.Dir1.Path + "TEST.jpg");
   for (int x = 0; x < kBrushes; ++x) {
     if (x == index) {
       ShowPointer(x);
@@ -59,7 +59,7 @@ void Brushes::picpbs_Click(int index) {
       picpbs(x).BorderStyle = 0;
     }
   }
-  if (index < kBrushes) pen.mde(PenSettings::kDrawWidth).Text = std::to_string(kDotWidths[index]);
+  if (index < kBrushes) pen_.mde(PenSettings::kDrawWidth).Text = std::to_string(kDotWidths[index]);
 }
 
 }  // namespace lectern::paint

@@ -26,11 +26,11 @@ class Brushes {
   void picpbs_Click(int index);
   void ShowPointer(int brush);
 
-  forms::Window& form;
-  gallery::PictureCatalogue& gallery;
-  Canvas& canvas;
-  PenSettings& pen;
-  SaveSlots& slots;
+  forms::Window& form_;
+  gallery::PictureCatalogue& gallery_;
+  Canvas& canvas_;
+  PenSettings& pen_;
+  SaveSlots& slots_;
 };
 
 }  // namespace lectern::paint

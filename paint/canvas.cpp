@@ -23,8 +23,8 @@ Canvas::Canvas(forms::Window& the_form, PenSettings& the_pen)
             {.name = "Move the picture left"},
             {.name = "Move the picture up"}}),
       imgp(the_form, "imgp", {.visible = false}),
-      form(the_form),
-      pen(the_pen) {
+      form_(the_form),
+      pen_(the_pen) {
   picbox.ScaleMode = forms::kScalePixels;
   picbox.MousePointer = forms::kPointerCustom;
   picbox.BorderStyle = 0;
@@ -38,7 +38,7 @@ Canvas::Canvas(forms::Window& the_form, PenSettings& the_pen)
   });
   picbox.MouseDown = [this](forms::MouseEvent mouse) { picbox_MouseDown(mouse); };
   picbox.MouseMove = [this](forms::MouseEvent mouse) { picbox_MouseMove(mouse); };
-  pen.Text2.Change = [this] { picbox.ScaleMode = text::ToInteger(pen.Text2.Text()); };
+  pen_.Text2.Change = [this] { picbox.ScaleMode = text::ToInteger(pen_.Text2.Text()); };
 }
 
 void Canvas::Centre() {
@@ -65,15 +65,15 @@ void Canvas::TakePictureSize() {
 // Any button draws. A setting that is no number leaves the old one; so does everything else that fails.
 void Canvas::picbox_MouseDown(forms::MouseEvent mouse) {
   const base::Ignoring ignore;
-  pen.Apply(picbox);
+  pen_.Apply(picbox);
   ignore([&] { picbox.PSet(mouse.x, mouse.y); });
 }
 
 void Canvas::picbox_MouseMove(forms::MouseEvent mouse) {
   if (mouse.button == 0) return;
   // The window's own place of drawing, which never moves.
-  pen.xpos.Caption = text::NumberText(form.CurrentX);
-  pen.ypos.Caption = text::NumberText(form.CurrentY);
+  pen_.xpos.Caption = text::NumberText(form_.CurrentX);
+  pen_.ypos.Caption = text::NumberText(form_.CurrentY);
   picbox.PSet(mouse.x, mouse.y);
 }
 

@@ -36,8 +36,8 @@ class Canvas {
   void picbox_MouseMove(forms::MouseEvent mouse);
   void imgs_Click(int index);
 
-  forms::Window& form;
-  PenSettings& pen;
+  forms::Window& form_;
+  PenSettings& pen_;
 };
 
 }  // namespace lectern::paint

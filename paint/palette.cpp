@@ -42,10 +42,10 @@ Palette::Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
       Label2(Frame3, "Label2", {{.caption = "Red"}, {.caption = "Blue"}, {.caption = "Green"}}),
       Text3(Frame3, "Text3", {.caption = "Text3", .name = "Pen value"}),
       Clear(Frame3, "Clear", {.caption = "Hide Color Bars", .is_cancel = true}),
-      form(the_form),
-      gallery(the_gallery),
-      pen(the_pen),
-      slots(the_slots) {
+      form_(the_form),
+      gallery_(the_gallery),
+      pen_(the_pen),
+      slots_(the_slots) {
   clrbox.ForEach([](int index, forms::Shape& circle) {
     circle.FigureKind = forms::kShapeCircle;
     circle.BackColor = index == 0 ? kOrange : forms::kRed;
@@ -64,9 +64,9 @@ Palette::Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
 // A file of fewer lines leaves the other swatches as they are; lines behind the last swatch go nowhere.
 void Palette::LoadColours() {
   const base::Ignoring ignore;
-  files::FileSlots& files = form.Slots();
+  files::FileSlots& files = form_.Slots();
   int counter = 0;
-  ignore([&] { files.OpenForReading(kColours, gallery.reader.Dir1.Path + "\\colors.dat"); });
+  ignore([&] { files.OpenForReading(kColours, gallery_.reader.Dir1.Path + "\\colors.dat"); });
   while (files.IsOpen(kColours) && !files.EndOfFile(kColours)) {
     std::string value;
     forms::Colour shown = 0;
@@ -87,20 +87,20 @@ void Palette::LoadColours() {
 // ODDITY(first-pen): the first pen is not the first swatch's but the number of its shape, a near black, while
 // the colour in hand shows the first swatch; it is meant.
 void Palette::TakeFirstPair() {
-  pen.clr1.BackColor = clrbox(0).FigureKind();
+  pen_.clr1.BackColor = clrbox(0).FigureKind();
   clr2.BackColor = clrbox(0).BackColor;
 }
 
 // The right button fills the swatch with the pair in hand, any other takes the swatch's.
 void Palette::clrboxs_MouseDown(int index, const forms::MouseEvent& mouse) {
   constexpr int kRightButton = 2;
-  slots.TakeSnapshot("TEST.jpg");
+  slots_.TakeSnapshot("TEST.jpg");
   if (mouse.button == kRightButton) {
     clrbox(index).BackColor = clr2.BackColor;
-    clrboxs(index).Caption = ColourText(pen.clr1.BackColor);
+    clrboxs(index).Caption = ColourText(pen_.clr1.BackColor);
     clrboxs(index).ForeColor = clr2.BackColor;
   } else {
-    pen.clr1.BackColor = text::RoundToLong(text::NumberValue(clrboxs(index).Caption()));
+    pen_.clr1.BackColor = text::RoundToLong(text::NumberValue(clrboxs(index).Caption()));
     clr2.BackColor = clrbox(index).BackColor;
   }
 }
@@ -111,15 +111,15 @@ void Palette::scr1_Change() {
   const int red = scr1(0).Value;
   const int green = scr1(1).Value;
   const int blue = scr1(2).Value;
-  pen.clr1.BackColor = forms::Rgb(red, green, blue);
+  pen_.clr1.BackColor = forms::Rgb(red, green, blue);
   clr2.BackColor = forms::Rgb(256 - 10 * red, 256 - 10 * green, 256 - 10 * blue);
-  Text3.Text = ColourText(pen.clr1.BackColor);
+  Text3.Text = ColourText(pen_.clr1.BackColor);
 }
 
 void Palette::Command3_Click() {
-  const std::string path = gallery.reader.Dir1.Path + "\\colors.dat";
-  files::FileSlots& files = form.Slots();
-  form.Files().DeleteKeepingBackup(path);
+  const std::string path = gallery_.reader.Dir1.Path + "\\colors.dat";
+  files::FileSlots& files = form_.Slots();
+  form_.Files().DeleteKeepingBackup(path);
   files.OpenForAppending(kColours, path);
   for (int i = 0; i < kSwatches; ++i)
     files.WriteRecord(kColours, clrboxs(i).Caption(), clrbox(i).BackColor());
@@ -128,7 +128,7 @@ void Palette::Command3_Click() {
 
 // Runs on a change of the box's picture, which nothing makes.
 void Palette::clr2_Change() {
-  pen.Label3.Caption = ColourText(clr2.BackColor);
+  pen_.Label3.Caption = ColourText(clr2.BackColor);
   Text3.Text = ColourText(clr2.BackColor);
 }
 

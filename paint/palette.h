@@ -48,10 +48,10 @@ class Palette {
   void Command3_Click();
   void clr2_Change();
 
-  forms::Window& form;
-  gallery::PictureCatalogue& gallery;
-  PenSettings& pen;
-  SaveSlots& slots;
+  forms::Window& form_;
+  gallery::PictureCatalogue& gallery_;
+  PenSettings& pen_;
+  SaveSlots& slots_;
 };
 
 }  // namespace lectern::paint

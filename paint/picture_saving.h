@@ -23,10 +23,10 @@ class PictureSaving {
   void Command2_Click();
   bool IsInCatalogue(const std::string& name);
 
-  forms::Window& form;
-  gallery::PictureCatalogue& gallery;
-  gallery::Viewer& viewer;
-  Canvas& canvas;
+  forms::Window& form_;
+  gallery::PictureCatalogue& gallery_;
+  gallery::Viewer& viewer_;
+  Canvas& canvas_;
 };
 
 }  // namespace lectern::paint

@@ -13,9 +13,9 @@ SaveSlots::SaveSlots(forms::Window& the_form, Canvas& the_canvas, Zoom& the_zoom
               {.value = 1, .name = "Save 3"},
               {.value = 1, .name = "Save 4, the newest"}}),
       Line2(Frame7, "Line2"),
-      form(the_form),
-      canvas(the_canvas),
-      zoom(the_zoom) {
+      form_(the_form),
+      canvas_(the_canvas),
+      zoom_(the_zoom) {
   IMGSPB.ForEach([this](int index, forms::Image& slot) {
     slot.BorderStyle = 1;
     slot.Click = [this, index] { IMGSPB_Click(index); };
@@ -23,11 +23,11 @@ SaveSlots::SaveSlots(forms::Window& the_form, Canvas& the_canvas, Zoom& the_zoom
 }
 
 void SaveSlots::TakeSnapshot(const std::string& scratch_file) {
-  forms::PictureBox& picbox = canvas.picbox;
+  forms::PictureBox& picbox = canvas_.picbox;
   picbox.AutoRedraw = true;
-  if (zoom.txt5.Text == "0" && picbox.Picture()) {
+  if (zoom_.txt5.Text == "0" && picbox.Picture()) {
     const base::Ignoring ignore;
-    ignore([&] { form.SavePicture(picbox.Picture, scratch_file); });
+    ignore([&] { form_.SavePicture(picbox.Picture, scratch_file); });
   }
   // ODDITY(newest-save-holds): after a click on the newest state the canvas shows that very picture, and
   // nothing is kept until another one is set, however much is painted; it is meant.
@@ -40,6 +40,6 @@ void SaveSlots::TakeSnapshot(const std::string& scratch_file) {
 
 // ODDITY(level-outlives-going-back): going back from a zoomed state shows the picture in its own size under
 // the zoom level that stood; it is meant.
-void SaveSlots::IMGSPB_Click(int index) { canvas.ShowInItsSize(IMGSPB(index).Picture); }
+void SaveSlots::IMGSPB_Click(int index) { canvas_.ShowInItsSize(IMGSPB(index).Picture); }
 
 }  // namespace lectern::paint

@@ -27,9 +27,9 @@ class SaveSlots {
  private:
   void IMGSPB_Click(int index);
 
-  forms::Window& form;
-  Canvas& canvas;
-  Zoom& zoom;
+  forms::Window& form_;
+  Canvas& canvas_;
+  Zoom& zoom_;
 };
 
 }  // namespace lectern::paint

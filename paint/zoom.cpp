@@ -20,7 +20,7 @@ Zoom::Zoom(forms::Window& form, Canvas& the_canvas)
             {.caption = "      -", .enabled = false, .name = "Zoom out"}}),
       txt5(form, "txt5", {.caption = "0", .name = "Zoom level"}),
       picbox2(form, "picbox2", {.visible = false}),
-      canvas(the_canvas) {
+      canvas_(the_canvas) {
   cmdm.ForEach([this](int index, forms::SSCommand& button) {
     button.Picture = GlassPicture();
     button.Click = [this, index] { cmdm_Click(index); };
@@ -31,14 +31,14 @@ Zoom::Zoom(forms::Window& form, Canvas& the_canvas)
 // take the computer's memory is not begun.
 bool Zoom::IsTooLargeToDouble() const {
   constexpr double kLargest = 1 << 26;  // pixels; a few copies of it are made on the way
-  const double width = 2 * canvas.picbox.Width / forms::kTwipsPerPixel;
-  const double height = 2 * canvas.picbox.Height / forms::kTwipsPerPixel;
+  const double width = 2 * canvas_.picbox.Width / forms::kTwipsPerPixel;
+  const double height = 2 * canvas_.picbox.Height / forms::kTwipsPerPixel;
   return width * height > kLargest;
 }
 
 void Zoom::cmdm_Click(int index) {
   constexpr int kOut = 1;
-  forms::PictureBox& picbox = canvas.picbox;
+  forms::PictureBox& picbox = canvas_.picbox;
   if (index != kOut && IsTooLargeToDouble()) {
     picbox.HostWindow().Platform().Message("The picture is too large to be shown any larger.");
     return;
@@ -67,7 +67,7 @@ void Zoom::cmdm_Click(int index) {
   // picture is painted a little smaller than the canvas; it is meant.
   constexpr double kTwipsPerPixel = 15.08;
   picbox.PaintPicture(picbox.Picture, 0, 0, picbox.Width / kTwipsPerPixel, picbox.Height / kTwipsPerPixel);
-  canvas.Centre();
+  canvas_.Centre();
 
   if (txt5.Text == "0" || txt5.Text == "1" || txt5.Text == "2") {
     cmdm(0).Enabled = txt5.Text != "2";

@@ -22,7 +22,7 @@ class Zoom {
   bool IsTooLargeToDouble() const;
   void cmdm_Click(int index);
 
-  Canvas& canvas;
+  Canvas& canvas_;
 };
 
 }  // namespace lectern::paint

@@ -16,7 +16,7 @@ class Catalogue {
  private:
   void Command12_Click();
 
-  Reader& reader;
+  Reader& reader_;
   forms::CommandButton Command12;  // beyond the window's right edge
 };
 

@@ -16,20 +16,20 @@ bool IsChapterLine(std::string_view line) { return line.starts_with(kChapterMark
 
 }  // namespace
 
-ChapterStore::ChapterStore(Reader& the_reader) : reader(the_reader) {
-  reader.lblc.Change = [this] { lblc_Change(); };
-  reader.optk.Click = [this] { optk_Click(); };
-  reader.optn.Click = [this] { optn_Click(); };
+ChapterStore::ChapterStore(Reader& the_reader) : reader_(the_reader) {
+  reader_.lblc.Change = [this] { lblc_Change(); };
+  reader_.optk.Click = [this] { optk_Click(); };
+  reader_.optn.Click = [this] { optn_Click(); };
 }
 
 void ChapterStore::lblc_Change() {
-  reader.tmrpic.Enabled = false;  // on the early return too
-  if (reader.lblc.Caption == "" || reader.lblbook.Caption == "") return;
+  reader_.tmrpic.Enabled = false;  // on the early return too
+  if (reader_.lblc.Caption == "" || reader_.lblbook.Caption == "") return;
 
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   const base::Trapping trap{[&] { slots.Close(kBook); }};
-  const std::string scratch = reader.Dir3.Path + "\\temp.txt";
-  const bool opened = trap([&] { slots.OpenForReading(kBook, reader.BookFile(reader.lblbook.Caption())); });
+  const std::string scratch = reader_.Dir3.Path + "\\temp.txt";
+  const bool opened = trap([&] { slots.OpenForReading(kBook, reader_.BookFile(reader_.lblbook.Caption())); });
   if (opened) {
     // Opened for appending, so that lines a broken run left there come first.
     bool written = trap([&] { slots.OpenForAppending(kScratch, scratch); });
@@ -41,21 +41,21 @@ void ChapterStore::lblc_Change() {
     written = trap([&] { slots.PrintLine(kScratch, held); }) && written;
     written = trap([&] { slots.Close(kScratch); }) && written;
     // What a full disk cut off is no chapter: the pane keeps its text.
-    if (written && trap([&] { reader.rtxt.LoadFile(scratch); })) {
-      const forms::Label& version = reader.optk.Value ? reader.Label34 : reader.Label35;
-      shown_ = {reader.lblbk.Caption(), found ? reader.lblc.Caption() : "", version.Caption()};
+    if (written && trap([&] { reader_.rtxt.LoadFile(scratch); })) {
+      const forms::Label& version = reader_.optk.Value ? reader_.Label34 : reader_.Label35;
+      shown_ = {reader_.lblbk.Caption(), found ? reader_.lblc.Caption() : "", version.Caption()};
     }
-    trap([&] { reader.form.Files().Delete(scratch); });
+    trap([&] { reader_.form.Files().Delete(scratch); });
   }
-  trap([&] { reader.LBLMRK(2).Caption = reader.lblc.Caption; });
-  trap([&] { reader.scr.Value = text::IntegerValue(reader.lblc.Caption()); });
-  trap([&] { reader.SeekChapterPicture(); });
+  trap([&] { reader_.LBLMRK(2).Caption = reader_.lblc.Caption; });
+  trap([&] { reader_.scr.Value = text::IntegerValue(reader_.lblc.Caption()); });
+  trap([&] { reader_.SeekChapterPicture(); });
 }
 
 // Copies the chapter from the book to the scratch file, all but its last line, and leaves the line in hand;
 // whether the book has it. A failure closes the book, and with it ends the loop.
 bool ChapterStore::CopyChapter(const base::Trapping& trap, std::string& held) {
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   int counter = 0;  // 16 bits
   bool done = false;
   std::string_view line;
@@ -68,7 +68,7 @@ bool ChapterStore::CopyChapter(const base::Trapping& trap, std::string& held) {
     // follows another one at once is not counted.
     trap([&] { line = slots.ReadLine(kBook); });
     bool wanted = false;
-    trap([&] { wanted = text::ToNumber(reader.lblc.Caption()) == counter; });
+    trap([&] { wanted = text::ToNumber(reader_.lblc.Caption()) == counter; });
     if (!wanted) continue;
     while (!IsChapterLine(line) && more()) {
       trap([&] { slots.PrintLine(kScratch, line); });
@@ -85,10 +85,10 @@ void ChapterStore::optn_Click() { ChangeVersion("Revised Standard Version", "\\N
 
 // The book stays, the chapter falls back to 1.
 void ChapterStore::ChangeVersion(const std::string& name, const std::string& folder) {
-  reader.LBLVR.Caption = name;
-  reader.Dir3.Path = reader.Dir1.Path + folder;
-  reader.lblc.Caption = "";
-  reader.lblc.Caption = "1";
+  reader_.LBLVR.Caption = name;
+  reader_.Dir3.Path = reader_.Dir1.Path + folder;
+  reader_.lblc.Caption = "";
+  reader_.lblc.Caption = "1";
 }
 
 }  // namespace lectern::reader

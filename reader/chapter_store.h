@@ -36,7 +36,7 @@ class ChapterStore {
   bool CopyChapter(const base::Trapping& trap, std::string& held);
   void ChangeVersion(const std::string& name, const std::string& folder);
 
-  Reader& reader;
+  Reader& reader_;
   ShownChapter shown_;
 };
 

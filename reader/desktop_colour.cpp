@@ -29,10 +29,10 @@ constexpr Swatch kSwatches[] = {
 }  // namespace
 
 DesktopColour::DesktopColour(Panels& the_panels)
-    : panels(the_panels),
-      Option2(panels.Picture23, "Option2", {.caption = "Front Color", .value = 1}),
-      Option3(panels.Picture23, "Option3", {.caption = "Back Color"}),
-      Picture24(panels.Picture23, "Picture24", {.name = "Colours"}) {
+    : panels_(the_panels),
+      Option2(panels_.Picture23, "Option2", {.caption = "Front Color", .value = 1}),
+      Option3(panels_.Picture23, "Option3", {.caption = "Back Color"}),
+      Picture24(panels_.Picture23, "Picture24", {.name = "Colours"}) {
   for (const Swatch& swatch : kSwatches) {
     forms::PictureBox& box = swatches_.emplace_back(
         Picture24, swatch.control, forms::Design{.name = swatch.name, .back_color = swatch.colour});
@@ -43,7 +43,7 @@ DesktopColour::DesktopColour(Panels& the_panels)
 void DesktopColour::Swatch_Click(forms::PictureBox& swatch) {
   ChosenColour = std::to_string(swatch.BackColor);
   if (Option3.Value) {
-    panels.Picture23.HostWindow().BackColor = text::ToLong(ChosenColour);
+    panels_.Picture23.HostWindow().BackColor = text::ToLong(ChosenColour);
   } else {
     ApplyDesktopColour();
   }
@@ -52,8 +52,8 @@ void DesktopColour::Swatch_Click(forms::PictureBox& swatch) {
 // ODDITY(front-colour): what is called the front colour is the background of the panels; it is meant.
 void DesktopColour::ApplyDesktopColour() {
   for (forms::PlacedControl* panel : std::initializer_list<forms::PlacedControl*>{
-           &panels.Picture23, &panels.frmc, &panels.frmd, &panels.Picture17, &panels.frmhelp, &panels.frms,
-           &panels.frmscale, &panels.FRMMARK}) {
+           &panels_.Picture23, &panels_.frmc, &panels_.frmd, &panels_.Picture17, &panels_.frmhelp,
+           &panels_.frms, &panels_.frmscale, &panels_.FRMMARK}) {
     panel->BackColor = text::ToLong(ChosenColour);
   }
 }

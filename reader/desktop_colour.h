@@ -19,7 +19,7 @@ class DesktopColour {
   void Swatch_Click(forms::PictureBox& swatch);
   void ApplyDesktopColour();
 
-  Panels& panels;
+  Panels& panels_;
   forms::OptionButton Option2;  // the panels; set at start
   forms::OptionButton Option3;  // the window
   forms::PictureBox Picture24;  // the strip

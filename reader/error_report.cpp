@@ -3,11 +3,11 @@
 namespace lectern::reader {
 
 void ErrorReport::ReportError(const base::RunTimeError& error) {
-  reader.List1.Visible = true;
-  base::Platform& platform = reader.form.Platform();
+  reader_.List1.Visible = true;
+  base::Platform& platform = reader_.form.Platform();
   if (error.Is(base::ErrorNumber::kFileNotFound)) {
     // ODDITY(concordance-missing): every missing file is told as the concordance's; it is meant.
-    platform.Message("CONCORD.DAT missing from " + reader.Dir1.Path);
+    platform.Message("CONCORD.DAT missing from " + reader_.Dir1.Path);
   } else {
     platform.Message(
         "An error (" + std::to_string(error.number()) +

@@ -10,12 +10,12 @@ namespace lectern::reader {
 
 class ErrorReport {
  public:
-  explicit ErrorReport(Reader& the_reader) : reader(the_reader) {}
+  explicit ErrorReport(Reader& the_reader) : reader_(the_reader) {}
 
   void ReportError(const base::RunTimeError& error);
 
  private:
-  Reader& reader;
+  Reader& reader_;
   std::string stop_word_;  // reserved; nothing reads it
 };
 

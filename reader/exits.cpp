@@ -12,20 +12,20 @@ constexpr int kSettings = 1;  // slot
 }  // namespace
 
 Exits::Exits(Reader& the_reader, Menus& the_menus, ToolButtons& tools, SettingTexts the_settings)
-    : reader(the_reader), menus(the_menus), settings(the_settings) {
+    : reader_(the_reader), menus_(the_menus), settings_(the_settings) {
   tools.Command1.Click = [this] { Command1_Click(); };
-  menus.xx.Click = [this] { xx_Click(); };
-  menus.oo12.Click = [this] { oo12_Click(); };
+  menus_.xx.Click = [this] { xx_Click(); };
+  menus_.oo12.Click = [this] { oo12_Click(); };
 }
 
 void Exits::Command1_Click() {
   const base::Ignoring ignore;
-  files::FileSlots& slots = reader.form.Slots();
-  if (menus.oo12.Checked) {
-    ignore([&] { reader.form.Files().DeleteKeepingBackup(reader.Dir1.Path + "\\CODEX.CFG"); });
-    ignore([&] { slots.OpenForAppending(kSettings, reader.Dir1.Path + "\\codex.cfg"); });
+  files::FileSlots& slots = reader_.form.Slots();
+  if (menus_.oo12.Checked) {
+    ignore([&] { reader_.form.Files().DeleteKeepingBackup(reader_.Dir1.Path + "\\CODEX.CFG"); });
+    ignore([&] { slots.OpenForAppending(kSettings, reader_.Dir1.Path + "\\codex.cfg"); });
     ignore([&] {
-      slots.WriteRecord(kSettings, settings.Combo1.Text(), settings.Combo2.Text(), settings.Combo3.Text());
+      slots.WriteRecord(kSettings, settings_.Combo1.Text(), settings_.Combo2.Text(), settings_.Combo3.Text());
     });
     ignore([&] { slots.Close(kSettings); });
   }
@@ -33,9 +33,9 @@ void Exits::Command1_Click() {
 }
 
 void Exits::xx_Click() {
-  if (menus.oo12.Checked) {
-    reader.form.Files().DeleteKeepingBackup(reader.Dir1.Path + "\\CODEX.CFG");
-    reader.form.Slots().OpenForAppending(kSettings, reader.Dir1.Path + "\\codex.cfg");
+  if (menus_.oo12.Checked) {
+    reader_.form.Files().DeleteKeepingBackup(reader_.Dir1.Path + "\\CODEX.CFG");
+    reader_.form.Slots().OpenForAppending(kSettings, reader_.Dir1.Path + "\\codex.cfg");
     // ODDITY(menu-exit-loses-settings): the first field of the record is a colour of something that does
     // not exist, so that the write fails and the settings file stays behind empty; it is meant.
     throw base::RunTimeError(base::ErrorNumber::kObjectRequired);
@@ -43,7 +43,7 @@ void Exits::xx_Click() {
   throw base::ProgramEnd{};
 }
 
-void Exits::oo12_Click() { menus.oo12.Checked = !menus.oo12.Checked; }
+void Exits::oo12_Click() { menus_.oo12.Checked = !menus_.oo12.Checked; }
 
 void Exits::Form_Unload() { throw base::ProgramEnd{}; }
 

@@ -28,9 +28,9 @@ class Exits {
   void xx_Click();
   void oo12_Click();
 
-  Reader& reader;
-  Menus& menus;
-  SettingTexts settings;
+  Reader& reader_;
+  Menus& menus_;
+  SettingTexts settings_;
 };
 
 }  // namespace lectern::reader

@@ -18,9 +18,9 @@ class Navigation {
   void List1_DblClick();
   void List1_KeyDown(int code);
 
-  Reader& reader;
-  Panels& panels;
-  Catalogue& catalogue;
+  Reader& reader_;
+  Panels& panels_;
+  Catalogue& catalogue_;
 };
 
 }  // namespace lectern::reader

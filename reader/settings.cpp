@@ -38,20 +38,20 @@ Settings::Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pa
       Combo1(the_panels.Picture23, "Combo1", {.name = "Font"}),
       Combo2(the_panels.Picture23, "Combo2", {.name = "Size"}),
       Combo3(the_panels.Picture23, "Combo3", {.name = "Style"}),
-      reader(the_reader),
-      panels(the_panels),
-      tools(the_tools),
+      reader_(the_reader),
+      panels_(the_panels),
+      tools_(the_tools),
       RTXT2(second_pane.RTXT2),
-      lblsetting(panels.Picture23, "lblsetting",
+      lblsetting(panels_.Picture23, "lblsetting",
                  {{.caption = "Fonts and desktop"},
                   {.caption = "Font"},
                   {.caption = "Size"},
                   {.caption = "Style"},
                   {.caption = "Colors"}}),
-      lblf(panels.Picture23, "lblf", {{.caption = "A B C D E F G"}, {.caption = "a b c d e f g"}}),
-      colours(panels),
-      Command36(panels.Picture23, "Command36", {.caption = "Save", .is_default = true}),
-      Command24(panels.Picture23, "Command24", {.caption = "Close", .is_cancel = true}) {
+      lblf(panels_.Picture23, "lblf", {{.caption = "A B C D E F G"}, {.caption = "a b c d e f g"}}),
+      colours_(panels_),
+      Command36(panels_.Picture23, "Command36", {.caption = "Save", .is_default = true}),
+      Command24(panels_.Picture23, "Command24", {.caption = "Close", .is_cancel = true}) {
   menus.oo11.Click = [this] { oo11_Click(); };
   for (forms::ComboBox* box : {&Combo1, &Combo2, &Combo3}) {
     box->Click = [this] { Combo_Click(); };
@@ -61,8 +61,8 @@ Settings::Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pa
 }
 
 void Settings::ReadSettings() {
-  files::FileSlots& slots = reader.form.Slots();
-  slots.OpenForReading(kSettings, reader.Dir1.Path + "\\codex.cfg");
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForReading(kSettings, reader_.Dir1.Path + "\\codex.cfg");
   // ODDITY(default-settings-misread): the record that start-up writes into an empty file is of an older
   // layout, colour, colour, font and size, and it is read as font, size and style; it is meant.
   const std::string font(slots.ReadField(kSettings));
@@ -74,11 +74,11 @@ void Settings::ReadSettings() {
   Combo3.Text = style;
   ApplyFontSamples();
   // The name goes to both panes before a size can fail.
-  reader.rtxt.FontName = font;
+  reader_.rtxt.FontName = font;
   RTXT2.FontName = font;
-  reader.rtxt.FontSize = text::ToNumber(size);
+  reader_.rtxt.FontSize = text::ToNumber(size);
   RTXT2.FontSize = text::ToNumber(size);
-  SetStyle(reader.rtxt, style);
+  SetStyle(reader_.rtxt, style);
   SetStyle(RTXT2, style);
 }
 
@@ -96,7 +96,7 @@ void Settings::ApplyFontSamples() {
 // A size that is none leaves the panes at theirs, so that the other two boxes can be tried meanwhile.
 void Settings::ApplyFontToPanes() {
   const base::Ignoring ignore;
-  for (forms::RichTextBox* pane : {&reader.rtxt, &RTXT2}) {
+  for (forms::RichTextBox* pane : {&reader_.rtxt, &RTXT2}) {
     pane->FontName = Combo1.Text;
     ignore([&] { pane->FontSize = text::ToNumber(Combo2.Text()); });
     SetStyle(*pane, Combo3.Text());
@@ -108,12 +108,12 @@ void Settings::Combo_Click() {
   ApplyFontToPanes();
 }
 
-void Settings::oo11_Click() { panels.Picture23.Visible = true; }
+void Settings::oo11_Click() { panels_.Picture23.Visible = true; }
 
 void Settings::Command36_Click() {
-  files::FileSlots& slots = reader.form.Slots();
-  const std::string path = reader.Dir1.Path + "\\codex.cfg";
-  reader.form.Files().DeleteKeepingBackup(path);
+  files::FileSlots& slots = reader_.form.Slots();
+  const std::string path = reader_.Dir1.Path + "\\codex.cfg";
+  reader_.form.Files().DeleteKeepingBackup(path);
   slots.OpenForAppending(kSettings, path);
   slots.WriteRecord(kSettings, Combo1.Text(), Combo2.Text(), Combo3.Text());
   slots.Close(kSettings);
@@ -123,8 +123,8 @@ void Settings::Command36_Click() {
 // ODDITY(close-unlocks): opening the panel locks no tool buttons, closing it sets them free all the same,
 // also those that another panel holds locked; it is meant.
 void Settings::Command24_Click() {
-  panels.Picture23.Visible = false;
-  tools.Enable();
+  panels_.Picture23.Visible = false;
+  tools_.Enable();
 }
 
 }  // namespace lectern::reader

@@ -44,14 +44,14 @@ class Settings {
   void ApplyFontSamples();
   void ApplyFontToPanes();
 
-  Reader& reader;
-  Panels& panels;
-  ToolButtons& tools;
+  Reader& reader_;
+  Panels& panels_;
+  ToolButtons& tools_;
   forms::RichTextBox& RTXT2;
 
   forms::ControlArray<forms::Label> lblsetting;  // heading, and what each box is for
   forms::ControlArray<forms::Label> lblf;        // samples
-  DesktopColour colours;
+  DesktopColour colours_;
   forms::CommandButton Command36;
   forms::CommandButton Command24;
 };

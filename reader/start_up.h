@@ -43,10 +43,10 @@ class StartUp {
   void PlacePanels();
   void ShowGenesis();
 
-  Reader& reader;
-  Panels& panels;
-  Catalogue& catalogue;
-  StartUpControls controls;
+  Reader& reader_;
+  Panels& panels_;
+  Catalogue& catalogue_;
+  StartUpControls controls_;
 };
 
 }  // namespace lectern::reader

@@ -91,7 +91,7 @@ constexpr Story kStories[] = {
 
 }  // namespace
 
-Stories::Stories(Reader& the_reader, Menus& menus) : reader(the_reader) {
+Stories::Stories(Reader& the_reader, Menus& menus) : reader_(the_reader) {
   for (const Submenu& submenu : kSubmenus) {
     forms::Menu& list =
         submenus_.emplace_back(menus.dd1, submenu.control, forms::Design{.caption = submenu.caption});
@@ -107,10 +107,10 @@ Stories::Stories(Reader& the_reader, Menus& menus) : reader(the_reader) {
 // ODDITY(story-keeps-range): the book is named while lblc is empty, so that the chapter bar keeps the range
 // of the book before; it is meant.
 void Stories::Entry_Click(const Story& story) {
-  const auto blank = [&] { reader.lblc.Caption = ""; };
-  const auto stem = [&] { reader.lblbook.Caption = story.book; };
-  const auto name = [&] { reader.lblbk.Caption = story.book; };
-  const auto chapter = [&] { reader.lblc.Caption = story.chapter; };
+  const auto blank = [&] { reader_.lblc.Caption = ""; };
+  const auto stem = [&] { reader_.lblbook.Caption = story.book; };
+  const auto name = [&] { reader_.lblbk.Caption = story.book; };
+  const auto chapter = [&] { reader_.lblc.Caption = story.chapter; };
   using Steps = std::array<std::function<void()>, 4>;
   Steps steps{blank, stem, name, chapter};
   if (story.order == Order::kNameFirst) steps = Steps{blank, name, stem, chapter};

@@ -19,7 +19,7 @@ class Stories {
  private:
   void Entry_Click(const Story& story);
 
-  Reader& reader;
+  Reader& reader_;
   std::deque<forms::Menu> submenus_;
   std::deque<forms::Menu> entries_;
 };

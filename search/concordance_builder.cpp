@@ -25,9 +25,9 @@ ConcordanceBuilder::ConcordanceBuilder(reader::Reader& the_reader, reader::Panel
       Text2(the_panels.Frame2, "Text2", {.name = "Hits"}),
       Text1(the_panels.Frame2, "Text1", {.name = "Text1"}),
       Timer2(the_reader.form, "Timer2", {.enabled = false, .interval = 1}),
-      reader(the_reader),
-      panels(the_panels),
-      search(the_search) {
+      reader_(the_reader),
+      panels_(the_panels),
+      search_(the_search) {
   Command27.Click = [this] { Command27_Click(); };
   Command23.Click = [this] { Timer2.Enabled = false; };
   Timer2.Tick = [this] { Timer2_Timer(); };
@@ -36,22 +36,22 @@ ConcordanceBuilder::ConcordanceBuilder(reader::Reader& the_reader, reader::Panel
 
 void ConcordanceBuilder::Command27_Click() {
   // The first run needs a file to be there.
-  reader.form.Files().DeleteKeepingBackup(ConcordanceFile(reader));
-  panels.frms.Visible = true;
-  search.txts.Text = "";
-  search.lsts.Clear();
-  panels.frmscale.Visible = true;
+  reader_.form.Files().DeleteKeepingBackup(ConcordanceFile(reader_));
+  panels_.frms.Visible = true;
+  search_.txts.Text = "";
+  search_.lsts.Clear();
+  panels_.frmscale.Visible = true;
   Timer2.Enabled = true;
   lbln.Caption = "-1";
-  search.pbar.Max = reader.lst.ListCount() - 1;
-  search.SearchBookIndex = -1;
+  search_.pbar.Max = reader_.lst.ListCount() - 1;
+  search_.SearchBookIndex = -1;
 }
 
 void ConcordanceBuilder::Timer2_Timer() {
-  panels.frmscale.Visible = true;
-  if (search.tmrb.Enabled) return;  // a word is still being looked up
+  panels_.frmscale.Visible = true;
+  if (search_.tmrb.Enabled) return;  // a word is still being looked up
   const base::Ignoring ignore;
-  search.pbar.Value = 0;
+  search_.pbar.Value = 0;
   Label32.Caption = lbln.Caption + " of " + std::to_string(List2.ListCount());
   if (lbln.Caption == "-1") {
     ignore([&] { LoadWords(); });
@@ -63,7 +63,7 @@ void ConcordanceBuilder::Timer2_Timer() {
   }
   const int next = static_cast<int>(text::NumberValue(lbln.Caption())) + 1;
   lbln.Caption = std::to_string(next);
-  search.wrd.Caption = List2.List(next);
+  search_.wrd.Caption = List2.List(next);
   if (next > List2.ListCount() - 1) {
     pbar2.Max = List2.ListCount() - 1;
     pbar2.Value = 1;
@@ -71,17 +71,17 @@ void ConcordanceBuilder::Timer2_Timer() {
     // there to cut them.
     ignore([&] { WriteResults(); });
     Timer2.Enabled = false;
-    reader.form.Platform().Beep();
+    reader_.form.Platform().Beep();
   } else {
-    search.tmrb.Enabled = true;
+    search_.tmrb.Enabled = true;
   }
-  search.txts.Text = List2.List(next);
+  search_.txts.Text = List2.List(next);
   pbar2.Value = pbar2.Value + 1;
 }
 
 void ConcordanceBuilder::LoadWords() {
-  files::FileSlots& slots = reader.form.Slots();
-  slots.OpenForReading(kWords, reader.Dir1.Path + "\\conc.txt");
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForReading(kWords, reader_.Dir1.Path + "\\conc.txt");
   while (!slots.EndOfFile(kWords)) List2.AddItem(std::string(slots.ReadLine(kWords)));
   slots.Close(kWords);
 }
@@ -89,10 +89,10 @@ void ConcordanceBuilder::LoadWords() {
 // The verses of the word that was looked up, as the search lists them.
 void ConcordanceBuilder::WriteResults() {
   const base::Ignoring ignore;
-  files::FileSlots& slots = reader.form.Slots();
-  ignore([&] { slots.OpenForAppending(kTarget, ConcordanceFile(reader)); });
-  for (int i = 0; i < search.lsts.ListCount(); ++i) {
-    ignore([&] { slots.WriteRecord(kTarget, search.txts.Text(), search.lsts.List(i)); });
+  files::FileSlots& slots = reader_.form.Slots();
+  ignore([&] { slots.OpenForAppending(kTarget, ConcordanceFile(reader_)); });
+  for (int i = 0; i < search_.lsts.ListCount(); ++i) {
+    ignore([&] { slots.WriteRecord(kTarget, search_.txts.Text(), search_.lsts.List(i)); });
   }
   ignore([&] { slots.Close(kTarget); });
 }
@@ -101,17 +101,17 @@ void ConcordanceBuilder::WriteResults() {
 void ConcordanceBuilder::List2_Click() {
   const int selected = List2.SelectedIndex();
   if (selected >= 0) Text2.Text = List2.List(selected);
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   std::string fields[3];
-  slots.OpenForReading(kBookmarks, reader.Dir1.Path + "\\BKMK.DAT");
+  slots.OpenForReading(kBookmarks, reader_.Dir1.Path + "\\BKMK.DAT");
   while (!slots.EndOfFile(kBookmarks)) {
     for (std::string& field : fields) field = slots.ReadField(kBookmarks);
     if (Text2.Text != fields[0]) continue;
-    for (int i = 0; i < 3; ++i) reader.LBLMRK(i).Caption = fields[i];
+    for (int i = 0; i < 3; ++i) reader_.LBLMRK(i).Caption = fields[i];
     break;
   }
   slots.Close(kBookmarks);
-  reader.lblbk.Caption = fields[1];
+  reader_.lblbk.Caption = fields[1];
 }
 
 }  // namespace lectern::search

@@ -36,9 +36,9 @@ class ConcordanceBuilder {
   void WriteResults();
   void List2_Click();
 
-  reader::Reader& reader;
-  reader::Panels& panels;
-  TextSearch& search;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  TextSearch& search_;
 };
 
 }  // namespace lectern::search

@@ -21,15 +21,15 @@ ConcordanceEditing::ConcordanceEditing(reader::Reader& the_reader, reader::Panel
     : Command21(the_panels.frmc, "Command21", {.caption = "Delete Word/Phrase"}),
       Command18(the_panels.Frame2, "Command18",
                 {.caption = "Command18", .name = "Cut the file back to its true end"}),
-      reader(the_reader),
-      panels(the_panels),
-      report(the_report),
-      search(the_search),
-      results(the_results),
-      viewer(the_viewer) {
-  search.cmdadd.Click = [this] { cmdadd_Click(); };
+      reader_(the_reader),
+      panels_(the_panels),
+      report_(the_report),
+      search_(the_search),
+      results_(the_results),
+      viewer_(the_viewer) {
+  search_.cmdadd.Click = [this] { cmdadd_Click(); };
   Command21.MouseDown = [this](forms::MouseEvent) {
-    search.Command22.MousePointer = forms::kPointerHourglass;
+    search_.Command22.MousePointer = forms::kPointerHourglass;
   };
   Command21.Click = [this] { Command21_Click(); };
   Command18.Click = [this] { Command18_Click(); };
@@ -38,54 +38,54 @@ ConcordanceEditing::ConcordanceEditing(reader::Reader& the_reader, reader::Panel
 // A search for two terms is kept under its first; a word that is there already gets its records once more.
 void ConcordanceEditing::cmdadd_Click() {
   try {
-    for (int i = 0; i < search.lsts.ListCount(); ++i) AddEntry(search.lsts.List(i));
-    reader.form.Platform().Message(text::Upper(search.txts.Text()) + " has been added to the Concordance");
+    for (int i = 0; i < search_.lsts.ListCount(); ++i) AddEntry(search_.lsts.List(i));
+    reader_.form.Platform().Message(text::Upper(search_.txts.Text()) + " has been added to the Concordance");
   } catch (const base::RunTimeError& error) {
-    report.ReportError(error);
+    report_.ReportError(error);
   }
 }
 
 void ConcordanceEditing::AddEntry(const std::string& text) {
   const std::optional<Entry> entry = ParseEntry(text);
   if (!entry) return;
-  files::FileSlots& slots = reader.form.Slots();
-  slots.OpenForAppending(kConcordance, ConcordanceFile(reader));
-  slots.WriteRecord(kConcordance, search.txts.Text(),
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForAppending(kConcordance, ConcordanceFile(reader_));
+  slots.WriteRecord(kConcordance, search_.txts.Text(),
                     entry->book + " " + entry->chapter + " " + entry->verse);
   slots.Close(kConcordance);
 }
 
 void ConcordanceEditing::Command21_Click() {
-  const std::string path = ConcordanceFile(reader);
-  const std::string work_file = reader.Dir1.Path + "\\concord1.dat";
-  files::FileSlots& slots = reader.form.Slots();
-  const int selected = viewer.lstc.SelectedIndex();
-  if (selected >= 0) results.LBLCC.Caption = viewer.lstc.List(selected);
+  const std::string path = ConcordanceFile(reader_);
+  const std::string work_file = reader_.Dir1.Path + "\\concord1.dat";
+  files::FileSlots& slots = reader_.form.Slots();
+  const int selected = viewer_.lstc.SelectedIndex();
+  if (selected >= 0) results_.LBLCC.Caption = viewer_.lstc.List(selected);
 
   slots.OpenForReading(kConcordance, path);
   slots.OpenForAppending(kWorkFile, work_file);
-  CopyOtherWords(text::Upper(results.LBLCC.Caption()));
+  CopyOtherWords(text::Upper(results_.LBLCC.Caption()));
   slots.Close(kConcordance);
   slots.Close(kWorkFile);
-  reader.form.Files().DeleteKeepingBackup(path);
-  reader.form.Files().Rename(work_file, path);
+  reader_.form.Files().DeleteKeepingBackup(path);
+  reader_.form.Files().Rename(work_file, path);
 
-  viewer.lstc.Clear();
+  viewer_.lstc.Clear();
   slots.OpenForReading(kConcordance, path);
-  const std::string last = FillWordList(slots, kConcordance, viewer.lstc);
+  const std::string last = FillWordList(slots, kConcordance, viewer_.lstc);
   slots.Close(kConcordance);
-  viewer.lstc2.Clear();
+  viewer_.lstc2.Clear();
   // ODDITY(deletion-names-another): the message names the word that was loaded last, not the one that was
   // deleted; it is meant.
-  reader.form.Platform().Message(
+  reader_.form.Platform().Message(
       last + " has been removed from the Concordance. You can add words to Concordance with search feature.");
-  panels.frmc.Visible = true;
-  search.Command22.MousePointer = forms::kPointerDefault;
+  panels_.frmc.Visible = true;
+  search_.Command22.MousePointer = forms::kPointerDefault;
 }
 
 // Copies the records of all words but one, which goes in whatever case it stands.
 void ConcordanceEditing::CopyOtherWords(const std::string& word) {
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   std::string record_word;
   while (!slots.EndOfFile(kConcordance)) {
     record_word = slots.ReadField(kConcordance);
@@ -98,13 +98,13 @@ void ConcordanceEditing::CopyOtherWords(const std::string& word) {
 // builder repeats. A second click copies nothing until a search or the builder has set the index anew.
 void ConcordanceEditing::Command18_Click() {
   constexpr int kStop = 5;
-  files::FileSlots& slots = reader.form.Slots();
-  slots.OpenForReading(kConcordance, reader.Dir1.Path + "\\CONCORD2.DAT");
-  slots.OpenForAppending(kWorkFile, reader.Dir1.Path + "\\CONCORD22.DAT");
-  while (!slots.EndOfFile(kConcordance) && search.SearchBookIndex != kStop) {
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForReading(kConcordance, reader_.Dir1.Path + "\\CONCORD2.DAT");
+  slots.OpenForAppending(kWorkFile, reader_.Dir1.Path + "\\CONCORD22.DAT");
+  while (!slots.EndOfFile(kConcordance) && search_.SearchBookIndex != kStop) {
     const std::string word(slots.ReadField(kConcordance));
     const std::string_view reference = slots.ReadField(kConcordance);
-    if (word == "Zion" && reference == "1 Peter 2 6") search.SearchBookIndex = kStop;
+    if (word == "Zion" && reference == "1 Peter 2 6") search_.SearchBookIndex = kStop;
     slots.WriteRecord(kWorkFile, word, reference);
   }
   slots.Close(kConcordance);

@@ -25,12 +25,12 @@ class ConcordanceEditing {
   void CopyOtherWords(const std::string& word);
   void Command18_Click();
 
-  reader::Reader& reader;
-  reader::Panels& panels;
-  reader::ErrorReport& report;
-  TextSearch& search;
-  ResultNavigation& results;
-  ConcordanceViewer& viewer;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ErrorReport& report_;
+  TextSearch& search_;
+  ResultNavigation& results_;
+  ConcordanceViewer& viewer_;
 };
 
 }  // namespace lectern::search

@@ -45,11 +45,11 @@ ConcordanceViewer::ConcordanceViewer(reader::Reader& the_reader, reader::Panels&
       text6(the_panels.frmc, "text6", {.caption = "00"}),
       lstc2(the_panels.frmc, "lstc2", {.name = "Verses of the word"}),
       Command9(the_panels.frmc, "Command9", {.caption = "Close Concordance", .is_cancel = true}),
-      reader(the_reader),
-      panels(the_panels),
-      tools(the_tools),
-      search(the_search) {
-  tools.Command8.Click = [this] { Command8_Click(); };
+      reader_(the_reader),
+      panels_(the_panels),
+      tools_(the_tools),
+      search_(the_search) {
+  tools_.Command8.Click = [this] { Command8_Click(); };
   menus.cc1.Click = [this] { cc1_Click(); };
   lstc.Click = [this] { lstc_Click(); };
   lstc2.Click = [this] { lstc2_Click(); };
@@ -58,23 +58,23 @@ ConcordanceViewer::ConcordanceViewer(reader::Reader& the_reader, reader::Panels&
 
 // The one tool button that locks nothing.
 void ConcordanceViewer::Command8_Click() {
-  panels.picp.Visible = false;
-  panels.frmc.Visible = true;
+  panels_.picp.Visible = false;
+  panels_.frmc.Visible = true;
   LoadConcordanceWords();
 }
 
 void ConcordanceViewer::cc1_Click() {
-  panels.frmc.Visible = true;
+  panels_.frmc.Visible = true;
   LoadConcordanceWords();
 }
 
 void ConcordanceViewer::LoadConcordanceWords() {
   text6.Caption = "0";
   lstc.Clear();
-  reader.List1.Clear();
-  search.text5.Caption = "";
-  files::FileSlots& slots = reader.form.Slots();
-  slots.OpenForReading(kConcordance, ConcordanceFile(reader));
+  reader_.List1.Clear();
+  search_.text5.Caption = "";
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForReading(kConcordance, ConcordanceFile(reader_));
   FillWordList(slots, kConcordance, lstc);
   slots.Close(kConcordance);
 }
@@ -86,8 +86,8 @@ void ConcordanceViewer::lstc_Click() {
   const int selected = lstc.SelectedIndex();
   if (selected >= 0) lblw.Caption = lstc.List(selected);
   const std::string wanted = text::Upper(lblw.Caption());
-  files::FileSlots& slots = reader.form.Slots();
-  slots.OpenForReading(kConcordance, ConcordanceFile(reader));
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForReading(kConcordance, ConcordanceFile(reader_));
   text::TextList references;
   std::string last;  // the records of a word stand together: it is compared once
   bool last_fits = wanted.empty();
@@ -108,22 +108,22 @@ void ConcordanceViewer::lstc_Click() {
 void ConcordanceViewer::lstc2_Click() {
   const std::optional<Passage> passage = ParseReference(lstc2.List(lstc2.SelectedIndex()));
   if (!passage) return;
-  reader.Show(passage->book, passage->book, passage->chapter);
-  HighlightText(reader.rtxt, lblw.Caption(), kMarkColour);
+  reader_.Show(passage->book, passage->book, passage->chapter);
+  HighlightText(reader_.rtxt, lblw.Caption(), kMarkColour);
 }
 
 void ConcordanceViewer::Command9_Click() {
   lstc.Clear();
-  reader.lblc.Caption = "";
-  reader.lblbk.Visible = true;
-  reader.List1.Visible = true;
+  reader_.lblc.Caption = "";
+  reader_.lblbk.Visible = true;
+  reader_.List1.Visible = true;
   // As with the search, closing lands on chapter 1.
-  reader.lblc.Caption = "1";
-  panels.frmc.Visible = false;
-  const std::string stem = reader.lblbook.Caption;
-  reader.lblbook.Caption = "";
-  reader.lblbook.Caption = stem;
-  tools.Enable();
+  reader_.lblc.Caption = "1";
+  panels_.frmc.Visible = false;
+  const std::string stem = reader_.lblbook.Caption;
+  reader_.lblbook.Caption = "";
+  reader_.lblbook.Caption = stem;
+  tools_.Enable();
 }
 
 }  // namespace lectern::search

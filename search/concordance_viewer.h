@@ -33,10 +33,10 @@ class ConcordanceViewer {
   void lstc2_Click();
   void Command9_Click();
 
-  reader::Reader& reader;
-  reader::Panels& panels;
-  reader::ToolButtons& tools;
-  TextSearch& search;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ToolButtons& tools_;
+  TextSearch& search_;
 };
 
 }  // namespace lectern::search

@@ -14,20 +14,20 @@ constexpr forms::Design Shadow(const char* caption) {
 
 Dictionary::Dictionary(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
                        reader::Menus& menus, reader::ErrorReport& the_error_report)
-    : reader(the_reader),
-      panels(the_panels),
-      tools(the_tools),
-      error_report(the_error_report),
-      lstd(panels.frmd, "lstd", {.name = "Words of the dictionary"}),
-      dwd2(panels.frmd, "dwd2", Shadow("Word")),
-      ddf2(panels.frmd, "ddf2", Shadow("Definition")),
-      dex2(panels.frmd, "dex2", Shadow("used in a verce")),
-      linedic(panels.frmd, "linedic"),
-      dwd(panels.frmd, "dwd", {.caption = "Word"}),
-      ddf(panels.frmd, "ddf", {.caption = "Definition"}),
-      dex(panels.frmd, "dex", {.caption = "used in a verce"}),  // ODDITY(kept-spelling)
-      Command19(panels.frmd, "Command19", {.caption = "Close Dictionary", .is_cancel = true}) {
-  tools.Command17.Click = [this] { Command17_Click(); };
+    : reader_(the_reader),
+      panels_(the_panels),
+      tools_(the_tools),
+      error_report_(the_error_report),
+      lstd(panels_.frmd, "lstd", {.name = "Words of the dictionary"}),
+      dwd2(panels_.frmd, "dwd2", Shadow("Word")),
+      ddf2(panels_.frmd, "ddf2", Shadow("Definition")),
+      dex2(panels_.frmd, "dex2", Shadow("used in a verce")),
+      linedic(panels_.frmd, "linedic"),
+      dwd(panels_.frmd, "dwd", {.caption = "Word"}),
+      ddf(panels_.frmd, "ddf", {.caption = "Definition"}),
+      dex(panels_.frmd, "dex", {.caption = "used in a verce"}),  // ODDITY(kept-spelling)
+      Command19(panels_.frmd, "Command19", {.caption = "Close Dictionary", .is_cancel = true}) {
+  tools_.Command17.Click = [this] { Command17_Click(); };
   menus.cc2.Click = [this] { cc2_Click(); };
   lstd.MouseDown = [this](const forms::MouseEvent&) { lstd_MouseDown(); };
   lstd.Click = [this] { lstd_Click(); };
@@ -37,12 +37,12 @@ Dictionary::Dictionary(reader::Reader& the_reader, reader::Panels& the_panels, r
   Command19.Click = [this] { Command19_Click(); };
 }
 
-std::string Dictionary::DataFile() const { return reader.Dir1.Path + "\\cdxdic.dat"; }
+std::string Dictionary::DataFile() const { return reader_.Dir1.Path + "\\cdxdic.dat"; }
 
 // ODDITY(dictionary-grows): the list is not cleared first, so that each opening adds all words once more; it
 // is meant.
 bool Dictionary::LoadWords() {
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   try {
     slots.OpenForReading(kWords, DataFile());
     while (!slots.EndOfFile(kWords)) {
@@ -54,7 +54,7 @@ bool Dictionary::LoadWords() {
     return true;
   } catch (const base::RunTimeError& error) {
     slots.Close(kWords);
-    error_report.ReportError(error);
+    error_report_.ReportError(error);
     return false;
   }
 }
@@ -62,14 +62,14 @@ bool Dictionary::LoadWords() {
 // Whether the panel is open now: it stays closed where the words cannot be read.
 bool Dictionary::Open() {
   const bool loaded = LoadWords();
-  if (loaded) panels.frmd.Visible = true;
-  tools.Command17.MousePointer = forms::kPointerDefault;
+  if (loaded) panels_.frmd.Visible = true;
+  tools_.Command17.MousePointer = forms::kPointerDefault;
   return loaded;
 }
 
 void Dictionary::Command17_Click() {
-  panels.picp.Visible = false;
-  if (Open()) tools.Disable();
+  panels_.picp.Visible = false;
+  if (Open()) tools_.Disable();
 }
 
 void Dictionary::cc2_Click() { Open(); }
@@ -84,7 +84,7 @@ void Dictionary::lstd_Click() {
     dwd.Caption = lstd.List(i);
     break;
   }
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForReading(kWords, DataFile());
   bool found = false;
   while (!found && !slots.EndOfFile(kWords)) {
@@ -102,8 +102,8 @@ void Dictionary::lstd_Click() {
 }
 
 void Dictionary::Command19_Click() {
-  panels.frmd.Visible = false;
-  tools.Enable();
+  panels_.frmd.Visible = false;
+  tools_.Enable();
 }
 
 }  // namespace lectern::search

@@ -29,10 +29,10 @@ class Dictionary {
   bool LoadWords();
   std::string DataFile() const;
 
-  reader::Reader& reader;
-  reader::Panels& panels;
-  reader::ToolButtons& tools;
-  reader::ErrorReport& error_report;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ToolButtons& tools_;
+  reader::ErrorReport& error_report_;
 
   forms::ListBox lstd;  // the words, in file order
 

@@ -20,30 +20,30 @@ OnePassBuilder::OnePassBuilder(reader::Reader& the_reader, reader::Panels& panel
     : Command13(panels.Frame2, "Command13", {.caption = "Command13", .name = "Build in one pass"}),
       books(panels.Frame2, "books"),
       pbar3(panels.Frame2, "pbar3", {.name = "Books done"}),
-      reader(the_reader),
-      search(the_search),
-      builder(the_builder) {
+      reader_(the_reader),
+      search_(the_search),
+      builder_(the_builder) {
   Command13.Click = [this] { Command13_Click(); };
 }
 
 void OnePassBuilder::Command13_Click() {
-  files::FileSlots& slots = reader.form.Slots();
-  builder.List2.Clear();
-  slots.OpenForReading(kBook, reader.Dir1.Path + "\\conc.txt");
-  while (!slots.EndOfFile(kBook)) builder.List2.AddItem(std::string(slots.ReadLine(kBook)));
+  files::FileSlots& slots = reader_.form.Slots();
+  builder_.List2.Clear();
+  slots.OpenForReading(kBook, reader_.Dir1.Path + "\\conc.txt");
+  while (!slots.EndOfFile(kBook)) builder_.List2.AddItem(std::string(slots.ReadLine(kBook)));
   slots.Close(kBook);
-  builder.pbar2.Max = builder.List2.ListCount();
-  builder.pbar2.Value = 0;
+  builder_.pbar2.Max = builder_.List2.ListCount();
+  builder_.pbar2.Value = 0;
   // Whatever version is set.
-  reader.form.Files().DeleteKeepingBackup(reader.Dir1.Path + "\\concord.dat");
-  slots.OpenForAppending(kTarget, reader.Dir1.Path + "\\concord.dat");
+  reader_.form.Files().DeleteKeepingBackup(reader_.Dir1.Path + "\\concord.dat");
+  slots.OpenForAppending(kTarget, reader_.Dir1.Path + "\\concord.dat");
   char32_t next = 0;  // lives through the whole click
-  for (int i = 0; i < builder.List2.ListCount(); ++i) {
-    builder.pbar2.Value = builder.pbar2.Value + 1;
+  for (int i = 0; i < builder_.List2.ListCount(); ++i) {
+    builder_.pbar2.Value = builder_.pbar2.Value + 1;
     pbar3.Max = 65;
     pbar3.Value = 0;
-    search.wrd.Caption = builder.List2.List(i);
-    LookUp(builder.List2.List(i), next);
+    search_.wrd.Caption = builder_.List2.List(i);
+    LookUp(builder_.List2.List(i), next);
     pbar3.Value = 0;
   }
   slots.Flush(kTarget);
@@ -54,18 +54,18 @@ void OnePassBuilder::Command13_Click() {
 }
 
 void OnePassBuilder::LookUp(const std::string& word, char32_t& next) {
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   const Terms terms = Terms::OneWord(word);
-  for (search.SearchBookIndex = 0; search.SearchBookIndex <= 65; ++search.SearchBookIndex) {
-    const std::string book = reader.lst.List(search.SearchBookIndex);
+  for (search_.SearchBookIndex = 0; search_.SearchBookIndex <= 65; ++search_.SearchBookIndex) {
+    const std::string book = reader_.lst.List(search_.SearchBookIndex);
     books.Caption = book;
     // Set to whether it stands at 1, so that it never leaves 0; it is meant.
     pbar3.Value = pbar3.Value == 1 ? kTruth : 0;
-    search.text7.Caption = reader.lst.List(search.SearchBookIndex + 1);
+    search_.text7.Caption = reader_.lst.List(search_.SearchBookIndex + 1);
     constexpr std::size_t kShortName = 8;
     const std::string name(text::Left(book, kShortName));
-    slots.OpenForReading(kBook, reader.Dir1.Path + "\\" + name + ".txt");
-    const LineRules rules{ScanKind::kOnePass, text::Length(search.wrd.Caption())};
+    slots.OpenForReading(kBook, reader_.Dir1.Path + "\\" + name + ".txt");
+    const LineRules rules{ScanKind::kOnePass, text::Length(search_.wrd.Caption())};
     TakeFindings(word, book, ScanText(slots.ReadRest(kBook), terms, name, rules, next));
     slots.Close(kBook);
   }
@@ -74,18 +74,18 @@ void OnePassBuilder::LookUp(const std::string& word, char32_t& next) {
 void OnePassBuilder::TakeFindings(const std::string& word, const std::string& book,
                                   const ScanFindings& findings) {
   if (findings.count == 0) return;
-  search.cmdadd.Enabled = true;
+  search_.cmdadd.Enabled = true;
   for (std::size_t i = 0; i < findings.entries.Count(); ++i) {
     const std::string_view entry = findings.entries[i];
     const std::size_t verse = entry.rfind(' ');
     const std::size_t chapter = entry.rfind(' ', verse - 1);
-    reader.form.Slots().WriteRecord(kTarget, " " + text::Upper(word), book,
-                                    text::RoundToLong(text::NumberValue(entry.substr(chapter + 1))),
-                                    text::RoundToLong(text::NumberValue(entry.substr(verse + 1))));
+    reader_.form.Slots().WriteRecord(kTarget, " " + text::Upper(word), book,
+                                     text::RoundToLong(text::NumberValue(entry.substr(chapter + 1))),
+                                     text::RoundToLong(text::NumberValue(entry.substr(verse + 1))));
   }
   const auto records = static_cast<double>(findings.entries.Count());
-  builder.Text2.Text = text::NumberText(text::NumberValue(builder.Text2.Text()) + records);
-  search.text5.Caption = text::NumberText(text::NumberValue(search.text5.Caption()) + findings.count);
+  builder_.Text2.Text = text::NumberText(text::NumberValue(builder_.Text2.Text()) + records);
+  search_.text5.Caption = text::NumberText(text::NumberValue(search_.text5.Caption()) + findings.count);
 }
 
 }  // namespace lectern::search

@@ -21,9 +21,9 @@ class OnePassBuilder {
   void LookUp(const std::string& word, char32_t& next);
   void TakeFindings(const std::string& word, const std::string& book, const struct ScanFindings& findings);
 
-  reader::Reader& reader;
-  TextSearch& search;
-  ConcordanceBuilder& builder;
+  reader::Reader& reader_;
+  TextSearch& search_;
+  ConcordanceBuilder& builder_;
 };
 
 }  // namespace lectern::search

@@ -17,8 +17,8 @@ class ResultNavigation {
  private:
   void lsts_Click();
 
-  reader::Reader& reader;
-  TextSearch& search;
+  reader::Reader& reader_;
+  TextSearch& search_;
 };
 
 }  // namespace lectern::search

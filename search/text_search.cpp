@@ -37,10 +37,10 @@ TextSearch::TextSearch(reader::Reader& the_reader, reader::Panels& the_panels, r
       tmrb(the_reader.form, "tmrb", {.enabled = false, .interval = 1}),
       wrd(the_panels.Frame2, "wrd", {.caption = "Label32"}),
       ShowHelpNote([](const std::string&) {}),
-      reader(the_reader),
-      panels(the_panels),
-      tools(the_tools) {
-  tools.Command16.Click = [this] { Command16_Click(); };
+      reader_(the_reader),
+      panels_(the_panels),
+      tools_(the_tools) {
+  tools_.Command16.Click = [this] { Command16_Click(); };
   menus.cc3.Click = [this] { cc3_Click(); };
   txts.Change = [this] { txts_Change(txts); };
   txts2.Change = [this] { txts_Change(txts2); };
@@ -55,16 +55,16 @@ TextSearch::TextSearch(reader::Reader& the_reader, reader::Panels& the_panels, r
 }
 
 void TextSearch::Command16_Click() {
-  panels.picp.Visible = false;
-  panels.frms.Visible = true;
+  panels_.picp.Visible = false;
+  panels_.frms.Visible = true;
   lsts.Clear();
   text5.Caption = "";
   txts.SetFocus();
-  tools.Disable();
+  tools_.Disable();
 }
 
 void TextSearch::cc3_Click() {
-  panels.frms.Visible = true;
+  panels_.frms.Visible = true;
   lsts.Clear();
   text5.Caption = "";
 }
@@ -73,7 +73,7 @@ void TextSearch::cc3_Click() {
 void TextSearch::txts_Change(const forms::TextBox& box) {
   if (box.Text == "") return;
   Command22.Enabled = true;
-  panels.frmscale.Visible = false;
+  panels_.frmscale.Visible = false;
   lsts.Clear();
   text5.Caption = "";
 }
@@ -81,7 +81,7 @@ void TextSearch::txts_Change(const forms::TextBox& box) {
 void TextSearch::Command22_Click() {
   if (txts.Text == "" && txts2.Text == "") return;
   if (op1.Value) {
-    panels.frmscale.Visible = true;
+    panels_.frmscale.Visible = true;
   } else {
     Command22.MousePointer = kPointerHourglass;
   }
@@ -95,17 +95,17 @@ void TextSearch::Command22_Click() {
     return;
   }
   ScanOpenBook();
-  panels.frmscale.Visible = false;
-  reader.form.Platform().Beep();
-  reader.form.Platform().Beep();
+  panels_.frmscale.Visible = false;
+  reader_.form.Platform().Beep();
+  reader_.form.Platform().Beep();
   Command22.Enabled = false;
   Command22.MousePointer = kPointerDefault;
 }
 
 void TextSearch::ScanOpenBook() {
-  files::FileSlots& slots = reader.form.Slots();
-  const std::string& book = reader.lblbook.Caption;
-  slots.OpenForReading(kBook, reader.BookFile(book));
+  files::FileSlots& slots = reader_.form.Slots();
+  const std::string& book = reader_.lblbook.Caption;
+  slots.OpenForReading(kBook, reader_.BookFile(book));
   const ScanFindings findings =
       ScanText(slots.ReadRest(kBook), Terms(txts.Text(), txts2.Text()), book, {ScanKind::kBook, 0});
   pbar.Value = pbar.Value + findings.chapter_lines;
@@ -123,22 +123,22 @@ void TextSearch::TakeFindings(const ScanFindings& findings) {
 void TextSearch::tmrb_Timer() {
   if (tmrb.Interval != 1) return;
   const base::Ignoring ignore;
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   ignore([&] { pbar.Value = pbar.Value + 1; });
-  ignore([&] { text7.Caption = reader.lst.List(SearchBookIndex + 1); });
-  const std::string book = reader.lst.List(SearchBookIndex);
+  ignore([&] { text7.Caption = reader_.lst.List(SearchBookIndex + 1); });
+  const std::string book = reader_.lst.List(SearchBookIndex);
   // A book without a name is read as one without a line.
-  if (!book.empty()) ignore([&] { slots.OpenForReading(kBook, reader.BookFile(book)); });
+  if (!book.empty()) ignore([&] { slots.OpenForReading(kBook, reader_.BookFile(book)); });
   ignore([&] {
     const LineRules rules{ScanKind::kWholeText, text::Length(wrd.Caption())};
     TakeFindings(ScanText(slots.ReadRest(kBook), Terms(txts.Text(), txts2.Text()), book, rules));
   });
   ignore([&] { slots.Close(kBook); });
   ++SearchBookIndex;
-  if (SearchBookIndex > reader.lst.ListCount() - 1) {
+  if (SearchBookIndex > reader_.lst.ListCount() - 1) {
     tmrb.Enabled = false;
     SearchBookIndex = 0;
-    panels.frmscale.Visible = false;
+    panels_.frmscale.Visible = false;
     Command22.Enabled = false;
     Command22.MousePointer = kPointerDefault;
   }
@@ -147,7 +147,7 @@ void TextSearch::tmrb_Timer() {
 void TextSearch::Command25_Click() {
   tmrb.Enabled = false;
   SearchBookIndex = 0;
-  panels.frmscale.Visible = false;
+  panels_.frmscale.Visible = false;
   Command22.MousePointer = kPointerDefault;
 }
 
@@ -163,19 +163,19 @@ void TextSearch::Command15_Click() {
 // is meant.
 void TextSearch::Command20_Click() {
   tmrb.Enabled = false;
-  reader.lblc.Caption = "";
-  reader.lblbk.Visible = true;
+  reader_.lblc.Caption = "";
+  reader_.lblbk.Visible = true;
   lsts.Clear();
-  reader.List1.Visible = true;
-  reader.lblc.Caption = "";
-  reader.lblc.Caption = "1";
-  panels.frms.Visible = false;
-  panels.frmscale.Visible = false;
+  reader_.List1.Visible = true;
+  reader_.lblc.Caption = "";
+  reader_.lblc.Caption = "1";
+  panels_.frms.Visible = false;
+  panels_.frmscale.Visible = false;
   Command22.MousePointer = kPointerDefault;
-  const std::string stem = reader.lblbook.Caption;
-  reader.lblbook.Caption = "";
-  reader.lblbook.Caption = stem;
-  tools.Enable();
+  const std::string stem = reader_.lblbook.Caption;
+  reader_.lblbook.Caption = "";
+  reader_.lblbook.Caption = stem;
+  tools_.Enable();
 }
 
 }  // namespace lectern::search

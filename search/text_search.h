@@ -63,9 +63,9 @@ class TextSearch {
   void ScanOpenBook();
   void TakeFindings(const struct ScanFindings& findings);
 
-  reader::Reader& reader;
-  reader::Panels& panels;
-  reader::ToolButtons& tools;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ToolButtons& tools_;
 };
 
 }  // namespace lectern::search

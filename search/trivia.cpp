@@ -12,35 +12,35 @@ constexpr int kQuestions = 1;  // slot
 
 Trivia::Trivia(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
                reader::Menus& menus, reader::ErrorReport& the_error_report)
-    : reader(the_reader),
-      panels(the_panels),
-      tools(the_tools),
-      error_report(the_error_report),
-      lbltrivia(panels.Picture17, "lbltrivia", {.caption = "CODEX TRIVIA"}),
-      Label25(panels.Picture17, "Label25", {.caption = "Press Question to begin"}),
-      Label26(panels.Picture17, "Label26"),
-      List3(panels.Picture17, "List3", {.visible = false, .name = "Questions asked"}),
-      Command29(panels.Picture17, "Command29", {.caption = "Question", .is_default = true}),
-      Command31(panels.Picture17, "Command31", {.caption = "Answer"}),
-      Command28(panels.Picture17, "Command28", {.caption = "Close", .is_cancel = true}) {
-  tools.Command2.Click = [this] { Command2_Click(); };
+    : reader_(the_reader),
+      panels_(the_panels),
+      tools_(the_tools),
+      error_report_(the_error_report),
+      lbltrivia(panels_.Picture17, "lbltrivia", {.caption = "CODEX TRIVIA"}),
+      Label25(panels_.Picture17, "Label25", {.caption = "Press Question to begin"}),
+      Label26(panels_.Picture17, "Label26"),
+      List3(panels_.Picture17, "List3", {.visible = false, .name = "Questions asked"}),
+      Command29(panels_.Picture17, "Command29", {.caption = "Question", .is_default = true}),
+      Command31(panels_.Picture17, "Command31", {.caption = "Answer"}),
+      Command28(panels_.Picture17, "Command28", {.caption = "Close", .is_cancel = true}) {
+  tools_.Command2.Click = [this] { Command2_Click(); };
   menus.cc4.Click = [this] { cc4_Click(); };
   Command29.Click = [this] { Command29_Click(); };
   Command31.Click = [this] { Command31_Click(); };
   Command28.Click = [this] { Command28_Click(); };
 }
 
-std::string Trivia::DataFile() const { return reader.Dir1.Path + "\\codex.trv"; }
+std::string Trivia::DataFile() const { return reader_.Dir1.Path + "\\codex.trv"; }
 
 void Trivia::ReadRecord(Record& record) {
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   record.question = slots.ReadField(kQuestions);
   record.answer = slots.ReadField(kQuestions);
 }
 
 // From -1 to one less than the number of records; a half goes to the even neighbour.
 std::int16_t Trivia::Draw(int records) {
-  return text::RoundToInteger(records * reader.form.Platform().Random() - 1);
+  return text::RoundToInteger(records * reader_.form.Platform().Random() - 1);
 }
 
 // Draws again while the number is in the history.
@@ -63,7 +63,7 @@ void Trivia::KeepFromRepeating(int records) {
 }
 
 void Trivia::AskQuestion() {
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   Record record;
   int records = 0;
   slots.OpenForReading(kQuestions, DataFile());
@@ -89,18 +89,18 @@ void Trivia::AskQuestion() {
 }
 
 void Trivia::Command29_Click() {
-  reader.form.Platform().SeedRandom();
+  reader_.form.Platform().SeedRandom();
   Command29.MousePointer = forms::kPointerHourglass;
   try {
     AskQuestion();
   } catch (const base::RunTimeError& error) {
     Command29.MousePointer = forms::kPointerDefault;
-    error_report.ReportError(error);
+    error_report_.ReportError(error);
   }
 }
 
 void Trivia::Command31_Click() {
-  files::FileSlots& slots = reader.form.Slots();
+  files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForReading(kQuestions, DataFile());
   bool found = false;
   while (!found && !slots.EndOfFile(kQuestions)) {
@@ -115,16 +115,16 @@ void Trivia::Command31_Click() {
 }
 
 void Trivia::Command2_Click() {
-  panels.picp.Visible = false;
-  panels.Picture17.Visible = true;
-  tools.Disable();
+  panels_.picp.Visible = false;
+  panels_.Picture17.Visible = true;
+  tools_.Disable();
 }
 
-void Trivia::cc4_Click() { panels.Picture17.Visible = true; }
+void Trivia::cc4_Click() { panels_.Picture17.Visible = true; }
 
 void Trivia::Command28_Click() {
-  panels.Picture17.Visible = false;
-  tools.Enable();
+  panels_.Picture17.Visible = false;
+  tools_.Enable();
 }
 
 }  // namespace lectern::search

@@ -38,10 +38,10 @@ class Trivia {
   void ReadRecord(Record& record);
   std::string DataFile() const;
 
-  reader::Reader& reader;
-  reader::Panels& panels;
-  reader::ToolButtons& tools;
-  reader::ErrorReport& error_report;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ToolButtons& tools_;
+  reader::ErrorReport& error_report_;
 
   forms::Label lbltrivia;  // heading
   forms::Label Label25;    // the question, which is the key to its answer

@@ -9,10 +9,10 @@ class Form2 : public forms::Window {
  public:
   explicit Form2(forms::Services services);
 
-  void Form_Load() override { page.Form_Load(); }
+  void Form_Load() override { page_.Form_Load(); }
 
  private:
-  aids::PrintedPage page;
+  aids::PrintedPage page_;
 };
 
 }  // namespace lectern::ui

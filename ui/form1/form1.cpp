@@ -7,52 +7,53 @@ namespace lectern::ui {
 
 Form1::Form1(forms::Services services, const OtherWindows& others)
     : Window(services, "Form1", base::kProgramName),
-      menus(*this),
-      panels(*this),
-      tools(panels),
-      reader(*this, panels),
-      second_pane(panels),
-      settings(reader, panels, second_pane, menus, tools),
-      error_report(reader),
-      chapter_store(reader),
-      catalogue(reader),
-      navigation(reader, panels, catalogue),
-      stories(reader, menus),
-      text_search(reader, panels, tools, menus),
-      result_navigation(reader, panels, text_search),
-      concordance_viewer(reader, panels, tools, menus, text_search),
-      concordance_editing(reader, panels, error_report, text_search, result_navigation, concordance_viewer),
-      concordance_builder(reader, panels, text_search),
-      one_pass_builder(reader, panels, text_search, concordance_builder),
-      dictionary(reader, panels, tools, menus, error_report),
-      trivia(reader, panels, tools, menus, error_report),
-      bookmarks(reader, panels, tools, menus),
-      page_printing(reader, panels, others.Form2),
-      notes_doors(panels, tools, menus, others.notes),
-      help(reader, panels, tools, menus),
-      pictures(reader, panels),
-      viewer(pictures, panels),
-      browser(pictures, viewer, panels),
-      maintenance(pictures, browser, panels),
-      old_catalogue(pictures, viewer),
-      older_list(pictures, panels),
-      book_converter(panels),
-      start_up(reader, panels, catalogue,
-               {pictures.Dirpics, bookmarks.File1, maintenance.Command26, page_printing.Command30,
-                concordance_builder.Text2, settings.Combo1, settings.Combo2, settings.Combo3}),
-      exits(reader, menus, tools, {settings.Combo1, settings.Combo2, settings.Combo3}) {
-  start_up.ReadSettings = [this] { settings.ReadSettings(); };
-  settings.PointAtSearchButton = [this](int pointer) { text_search.Command22.MousePointer = pointer; };
-  text_search.ShowHelpNote = [this](const std::string& text) { help.ShowNote(text); };
-  viewer.OpenPaint = [this, open_paint = others.OpenPaint] { open_paint(viewer.pick.Picture); };
-  maintenance.HelpChangingBook = [this] { help.HelpChangingBook(); };
-  reader.ExtractBookPictures = [this] { pictures.ExtractBookPictures(); };
-  reader.FillPictureLists = [this] { pictures.FillPictureLists(); };
-  reader.SeekChapterPicture = [this] { pictures.SeekChapterPicture(); };
-  reader.rtxt.Quote = [this] { return QuotationFrom(reader.rtxt, chapter_store.Shown()); };
-  routines["ConvertPicsDat"] = [this](const std::string&) { old_catalogue.ConvertPicsDat(); };
-  routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue.ShowPicsDatPicture(); };
-  routines["ListChapterPictures"] = [this](const std::string&) { older_list.ListChapterPictures(); };
+      menus_(*this),
+      panels_(*this),
+      tools_(panels_),
+      reader_(*this, panels_),
+      second_pane_(panels_),
+      settings_(reader_, panels_, second_pane_, menus_, tools_),
+      error_report_(reader_),
+      chapter_store_(reader_),
+      catalogue_(reader_),
+      navigation_(reader_, panels_, catalogue_),
+      stories_(reader_, menus_),
+      text_search_(reader_, panels_, tools_, menus_),
+      result_navigation_(reader_, panels_, text_search_),
+      concordance_viewer_(reader_, panels_, tools_, menus_, text_search_),
+      concordance_editing_(reader_, panels_, error_report_, text_search_, result_navigation_,
+                           concordance_viewer_),
+      concordance_builder_(reader_, panels_, text_search_),
+      one_pass_builder_(reader_, panels_, text_search_, concordance_builder_),
+      dictionary_(reader_, panels_, tools_, menus_, error_report_),
+      trivia_(reader_, panels_, tools_, menus_, error_report_),
+      bookmarks_(reader_, panels_, tools_, menus_),
+      page_printing_(reader_, panels_, others.Form2),
+      notes_doors_(panels_, tools_, menus_, others.notes),
+      help_(reader_, panels_, tools_, menus_),
+      pictures_(reader_, panels_),
+      viewer_(pictures_, panels_),
+      browser_(pictures_, viewer_, panels_),
+      maintenance_(pictures_, browser_, panels_),
+      old_catalogue_(pictures_, viewer_),
+      older_list_(pictures_, panels_),
+      book_converter_(panels_),
+      start_up_(reader_, panels_, catalogue_,
+                {pictures_.Dirpics, bookmarks_.File1, maintenance_.Command26, page_printing_.Command30,
+                 concordance_builder_.Text2, settings_.Combo1, settings_.Combo2, settings_.Combo3}),
+      exits_(reader_, menus_, tools_, {settings_.Combo1, settings_.Combo2, settings_.Combo3}) {
+  start_up_.ReadSettings = [this] { settings_.ReadSettings(); };
+  settings_.PointAtSearchButton = [this](int pointer) { text_search_.Command22.MousePointer = pointer; };
+  text_search_.ShowHelpNote = [this](const std::string& text) { help_.ShowNote(text); };
+  viewer_.OpenPaint = [this, open_paint = others.OpenPaint] { open_paint(viewer_.pick.Picture); };
+  maintenance_.HelpChangingBook = [this] { help_.HelpChangingBook(); };
+  reader_.ExtractBookPictures = [this] { pictures_.ExtractBookPictures(); };
+  reader_.FillPictureLists = [this] { pictures_.FillPictureLists(); };
+  reader_.SeekChapterPicture = [this] { pictures_.SeekChapterPicture(); };
+  reader_.rtxt.Quote = [this] { return QuotationFrom(reader_.rtxt, chapter_store_.Shown()); };
+  routines["ConvertPicsDat"] = [this](const std::string&) { old_catalogue_.ConvertPicsDat(); };
+  routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue_.ShowPicsDatPicture(); };
+  routines["ListChapterPictures"] = [this](const std::string&) { older_list_.ListChapterPictures(); };
 
   for (const std::span<const Place> table : kForm1Places) Apply(table, *this);
 }

@@ -51,46 +51,46 @@ class Form1 : public forms::Window {
  public:
   Form1(forms::Services services, const OtherWindows& others);
 
-  void Form_Load() override { start_up.Form_Load(); }
-  void Form_Unload() override { exits.Form_Unload(); }
+  void Form_Load() override { start_up_.Form_Load(); }
+  void Form_Unload() override { exits_.Form_Unload(); }
 
   // What the paint window works with.
-  gallery::PictureCatalogue& Pictures() { return pictures; }
-  gallery::Viewer& PictureViewer() { return viewer; }
+  gallery::PictureCatalogue& Pictures() { return pictures_; }
+  gallery::Viewer& PictureViewer() { return viewer_; }
 
  private:
-  reader::Menus menus;
-  reader::Panels panels;
-  reader::ToolButtons tools;
-  reader::Reader reader;
-  reader::SecondPane second_pane;
-  reader::Settings settings;
-  reader::ErrorReport error_report;
-  reader::ChapterStore chapter_store;
-  reader::Catalogue catalogue;
-  reader::Navigation navigation;
-  reader::Stories stories;
-  search::TextSearch text_search;
-  search::ResultNavigation result_navigation;
-  search::ConcordanceViewer concordance_viewer;
-  search::ConcordanceEditing concordance_editing;
-  search::ConcordanceBuilder concordance_builder;
-  search::OnePassBuilder one_pass_builder;
-  search::Dictionary dictionary;
-  search::Trivia trivia;
-  aids::Bookmarks bookmarks;
-  aids::PagePrinting page_printing;
-  aids::NotesDoors notes_doors;
-  aids::Help help;
-  gallery::PictureCatalogue pictures;
-  gallery::Viewer viewer;
-  gallery::Browser browser;
-  gallery::Maintenance maintenance;
-  gallery::OldCatalogue old_catalogue;
-  gallery::OlderList older_list;
-  gallery::BookConverter book_converter;
-  reader::StartUp start_up;
-  reader::Exits exits;
+  reader::Menus menus_;
+  reader::Panels panels_;
+  reader::ToolButtons tools_;
+  reader::Reader reader_;
+  reader::SecondPane second_pane_;
+  reader::Settings settings_;
+  reader::ErrorReport error_report_;
+  reader::ChapterStore chapter_store_;
+  reader::Catalogue catalogue_;
+  reader::Navigation navigation_;
+  reader::Stories stories_;
+  search::TextSearch text_search_;
+  search::ResultNavigation result_navigation_;
+  search::ConcordanceViewer concordance_viewer_;
+  search::ConcordanceEditing concordance_editing_;
+  search::ConcordanceBuilder concordance_builder_;
+  search::OnePassBuilder one_pass_builder_;
+  search::Dictionary dictionary_;
+  search::Trivia trivia_;
+  aids::Bookmarks bookmarks_;
+  aids::PagePrinting page_printing_;
+  aids::NotesDoors notes_doors_;
+  aids::Help help_;
+  gallery::PictureCatalogue pictures_;
+  gallery::Viewer viewer_;
+  gallery::Browser browser_;
+  gallery::Maintenance maintenance_;
+  gallery::OldCatalogue old_catalogue_;
+  gallery::OlderList older_list_;
+  gallery::BookConverter book_converter_;
+  reader::StartUp start_up_;
+  reader::Exits exits_;
 };
 
 }  // namespace lectern::ui

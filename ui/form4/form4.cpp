@@ -9,13 +9,13 @@ namespace lectern::ui {
 Form4::Form4(forms::Services services, gallery::PictureCatalogue& gallery, gallery::Viewer& viewer,
              const std::function<void(const forms::Picture&)>& print_picture)
     : Window(services, "Form4", "paint"),
-      pen(*this),
-      canvas(*this, pen),
-      zoom(*this, canvas),
-      slots(*this, canvas, zoom),
-      palette(*this, gallery, pen, slots),
-      brushes(*this, gallery, canvas, pen, slots),
-      saving(*this, gallery, viewer, canvas, palette),
+      pen_(*this),
+      canvas_(*this, pen_),
+      zoom_(*this, canvas_),
+      slots_(*this, canvas_, zoom_),
+      palette_(*this, gallery, pen_, slots_),
+      brushes_(*this, gallery, canvas_, pen_, slots_),
+      saving_(*this, gallery, viewer, canvas_, palette_),
       Command1(*this, "Command1", {.caption = "Close Paint", .is_cancel = true}) {
   constexpr double kClientWidth = 15675;  // twips
   constexpr double kClientHeight = 10485;
@@ -23,7 +23,7 @@ Form4::Form4(forms::Services services, gallery::PictureCatalogue& gallery, galle
   Height = kClientHeight + forms::kFrameHeight;
   Command1.Click = [this] { Visible = false; };
   routines["PrintPaintPicture"] = [this, print_picture](const std::string&) {
-    print_picture(canvas.picbox.Picture);
+    print_picture(canvas_.picbox.Picture);
   };
   Apply(kPaintPlaces, *this);
 }
@@ -33,24 +33,24 @@ void Form4::Form_Load() {
   const base::ScreenSize screen = Platform().Screen();
   ignore([&] { Top = (screen.height - Height) / 2; });
   ignore([&] { Left = (screen.width - Width) / 2; });
-  ignore([&] { palette.LoadColours(); });
-  palette.Command4.SetFocus();  // on none of the brushes, which would look as if it were chosen
+  ignore([&] { palette_.LoadColours(); });
+  palette_.Command4.SetFocus();  // on none of the brushes, which would look as if it were chosen
 }
 
 void Form4::Open(const forms::Picture& picture) {
   constexpr int kPageWidth = 533;  // pixels
   constexpr int kPageHeight = 363;
-  canvas.picbox.Picture = picture ? picture : paint::WhitePage(kPageWidth, kPageHeight);
+  canvas_.picbox.Picture = picture ? picture : paint::WhitePage(kPageWidth, kPageHeight);
   Visible = true;
   BringToFront();
   StartPaint();
 }
 
 void Form4::StartPaint() {
-  canvas.TakePictureSize();
-  palette.TakeFirstPair();
-  brushes.ShowFirstPointer();
-  slots.IMGSPB(0).Picture = canvas.picbox.Picture;
+  canvas_.TakePictureSize();
+  palette_.TakeFirstPair();
+  brushes_.ShowFirstPointer();
+  slots_.IMGSPB(0).Picture = canvas_.picbox.Picture;
 }
 
 }  // namespace lectern::ui

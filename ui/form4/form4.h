@@ -28,13 +28,13 @@ class Form4 : public forms::Window {
  private:
   void StartPaint();
 
-  paint::PenSettings pen;
-  paint::Canvas canvas;
-  paint::Zoom zoom;
-  paint::SaveSlots slots;
-  paint::Palette palette;
-  paint::Brushes brushes;
-  paint::PictureSaving saving;
+  paint::PenSettings pen_;
+  paint::Canvas canvas_;
+  paint::Zoom zoom_;
+  paint::SaveSlots slots_;
+  paint::Palette palette_;
+  paint::Brushes brushes_;
+  paint::PictureSaving saving_;
   forms::CommandButton Command1;
 };
 

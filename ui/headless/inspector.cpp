@@ -11,7 +11,7 @@
 namespace lectern::headless {
 
 Inspector::Inspector(ui::Program& the_program, std::function<void(const std::string&)> print)
-    : program(the_program), print_(std::move(print)) {}
+    : program_(the_program), print_(std::move(print)) {}
 
 std::optional<ShownItems> ItemsOf(const forms::Control& control) {
   if (const auto* list = dynamic_cast<const forms::ItemList*>(&control)) {
@@ -45,7 +45,7 @@ std::string ReadName(const std::string& name) {
 
 void Inspector::Get(const std::vector<Word>& words) {
   if (words.size() != 1) throw Misunderstood{"one property is wanted"};
-  const Target target = FindProperty(program, words[0].text);
+  const Target target = FindProperty(program_, words[0].text);
   std::string name = target.property;
   forms::Value value;
   const forms::PropertyBase* const property = target.Owner().FindProperty(target.property);
@@ -70,7 +70,7 @@ void Inspector::Get(const std::vector<Word>& words) {
 
 void Inspector::Items(const std::vector<Word>& words) {
   if (words.size() != 1) throw Misunderstood{"a list is wanted"};
-  const Target target = FindControl(program, words[0].text);
+  const Target target = FindControl(program_, words[0].text);
   const std::optional<ShownItems> shown = ItemsOf(*target.control);
   if (!shown) throw Misunderstood{target.Name() + " has no items"};
   print_(target.Name() + ": " + std::to_string(shown->items.size()) + " items");
@@ -91,12 +91,12 @@ void Inspector::PrintMenu(const forms::Container& container, int level) {
 
 void Inspector::Menu(const std::vector<Word>& words) {
   if (words.size() > 1) throw Misunderstood{"one window is wanted"};
-  PrintMenu(FindWindow(program, words.empty() ? "Form1" : words[0].text), 0);
+  PrintMenu(FindWindow(program_, words.empty() ? "Form1" : words[0].text), 0);
 }
 
 void Inspector::Controls(const std::vector<Word>& words) {
   if (words.size() != 1) throw Misunderstood{"a window is wanted"};
-  for (const forms::Control* control : FindWindow(program, words[0].text).Controls()) {
+  for (const forms::Control* control : FindWindow(program_, words[0].text).Controls()) {
     print_(std::string(forms::KindName(control->GetKind())) + " " + control->FullName() + " " +
            control->Parent().ContainerName() + " " + (control->Visible ? "True" : "False"));
   }

@@ -32,7 +32,7 @@ class Inspector {
  private:
   void PrintMenu(const forms::Container& container, int level);
 
-  ui::Program& program;
+  ui::Program& program_;
   std::function<void(const std::string&)> print_;
 };
 

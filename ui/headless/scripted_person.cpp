@@ -32,7 +32,7 @@ const std::vector<ScriptedPerson::Command>& ScriptedPerson::Commands() {
 }
 
 ScriptedPerson::ScriptedPerson(ui::Program& the_program, std::function<void(const std::string&)> print)
-    : program(the_program), print_(std::move(print)) {}
+    : program_(the_program), print_(std::move(print)) {}
 
 bool ScriptedPerson::Knows(std::string_view command) {
   return std::any_of(Commands().begin(), Commands().end(),
@@ -41,7 +41,7 @@ bool ScriptedPerson::Knows(std::string_view command) {
 
 void ScriptedPerson::Do(std::string_view command, const std::vector<Word>& words, Hand hand) {
   if (words.empty()) throw Misunderstood{"a control is wanted"};
-  const Target target = FindControl(program, words[0].text);
+  const Target target = FindControl(program_, words[0].text);
   if (Refused(target, hand)) return;
   const auto found = std::find_if(Commands().begin(), Commands().end(),
                                   [command](const Command& known) { return known.name == command; });
@@ -58,7 +58,7 @@ bool ScriptedPerson::Refused(const Target& target, Hand hand) {
 }
 
 void ScriptedPerson::Deliver(const Target& target, const std::function<void()>& event) {
-  program.Deliver(*target.window, event);
+  program_.Deliver(*target.window, event);
 }
 
 namespace {

@@ -37,7 +37,7 @@ class ScriptedPerson {
   struct Command;
   static const std::vector<Command>& Commands();
 
-  ui::Program& program;
+  ui::Program& program_;
   std::function<void(const std::string&)> print_;
 };
 
