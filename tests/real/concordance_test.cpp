@@ -9,8 +9,8 @@
 #include "forms/list_box.h"
 #include "forms/rich_text_box.h"
 #include "reader/canon.h"
+#include "tests/kit/test_window.h"
 #include "tests/real/real_data.h"
-#include "tests/unit/test_window.h"
 #include "ui/headless/driver.h"
 
 namespace lectern {

@@ -9,7 +9,7 @@
 #include "forms/list_box.h"
 #include "gallery/picture_record.h"
 #include "reader/canon.h"
-#include "tests/unit/test_window.h"
+#include "tests/kit/test_window.h"
 #include "tools/make_data/sources.h"
 #include "ui/headless/driver.h"
 

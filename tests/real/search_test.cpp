@@ -5,7 +5,7 @@
 
 #include "forms/list_box.h"
 #include "reader/canon.h"
-#include "tests/plain_scan.h"
+#include "tests/kit/plain_scan.h"
 #include "tests/real/real_data.h"
 #include "ui/headless/driver.h"
 

@@ -1,0 +1,33 @@
+#include "reader/error_report.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/kit/test_window.h"
+
+namespace lectern {
+namespace {
+
+// ODDITY(concordance-missing): a missing file of any name is told as the concordance's.
+TEST(ErrorReport, TellsAMissingFileAndAnyOtherFailure) {
+  TestWindow test;
+  reader::Panels panels(test.form);
+  reader::Reader reader(test.form, panels);
+  reader::ErrorReport report(reader);
+  reader.List1.Visible = false;
+
+  report.ReportError(base::RunTimeError(base::ErrorNumber::kFileNotFound));
+  EXPECT_EQ(test.events,
+            (std::vector<std::string>{
+                "message \"CONCORD.DAT missing from " + test.folder.Path() + "\" \"Lectern 2\"", "beep"}));
+  EXPECT_TRUE(reader.List1.Visible);
+
+  test.events.clear();
+  report.ReportError(base::RunTimeError(base::ErrorNumber::kFileAlreadyOpen));
+  EXPECT_EQ(
+      test.events[0],
+      "message \"An error (55 ) has occured during proccessing your request. Click HELP, for information on "
+      "possible sources causing the error. \" \"Lectern 2\"");
+}
+
+}  // namespace
+}  // namespace lectern

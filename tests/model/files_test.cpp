@@ -1,0 +1,205 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "base/files/file_slots.h"
+#include "base/files/path_names.h"
+#include "base/files/text_encoding.h"
+#include "tests/kit/test_window.h"
+
+namespace lectern::files {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Files : public testing::Test {
+ protected:
+  TemporaryFolder folder;
+  FileSystem files{folder.Path()};
+  FileSlots slots{files};
+
+  std::string Name(const std::string& rest) const { return folder.Path() + rest; }
+};
+
+TEST_F(Files, AreFoundWithoutRegardToCaseAndByBothSlashes) {
+  folder.Write("KJV/Song of Solomon.txt", "x");
+  folder.Write("Ünnä/Ä.not", "y");
+  EXPECT_TRUE(files.FileExists(Name("\\kjv/SONG of solomon.TXT")));
+  EXPECT_TRUE(files.FileExists(Name("\\üNNÄ\\ä.NOT")));
+  EXPECT_TRUE(files.FileExists("kjv\\song of solomon.txt"));
+  EXPECT_FALSE(files.FileExists(Name("\\KJV\\Song.txt")));
+  EXPECT_TRUE(files.FolderExists(Name("/Kjv")));
+
+  // A new file goes into the folder that is there; an old one keeps its name.
+  slots.OpenForAppending(1, Name("\\kjv\\New.txt"));
+  slots.OpenForAppending(2, Name("\\KJV\\song OF Solomon.txt"));
+  slots.PrintLine(2, "more");
+  slots.CloseAll();
+  EXPECT_TRUE(fs::exists(folder.Path() + "/KJV/New.txt"));
+  EXPECT_EQ(folder.Read("KJV/Song of Solomon.txt"), "xmore\r\n");
+
+  // Of two names that differ in case only, the one as written comes first.
+  folder.Write("a.txt", "small");
+  folder.Write("A.txt", "capital");
+  slots.OpenForReading(1, Name("\\a.txt"));
+  EXPECT_EQ(slots.ReadLine(1), "small");
+}
+
+TEST_F(Files, FailWithTheNumberThatFits) {
+  folder.Write("there.txt", "x");
+  folder.Write("folder/file.txt", "x");
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(1, Name("\\missing.txt")); }), 53);
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(1, Name("\\nowhere\\missing.txt")); }), 76);
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(1, Name("\\nowhere\\new.txt")); }), 76);
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(1, Name("\\folder")); }), 75);
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(1, Name("\\there.txt\\x")); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files.Delete(Name("\\folder")); }), 53);
+  EXPECT_EQ(ErrorOf([&] { files.Length(Name("\\missing.txt")); }), 53);
+  for (const std::string bad : {"a:b", "a*", "what?", "\"x\"", "<x", "x>", "a|b"}) {
+    EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(1, Name("\\" + bad + ".bkm")); }), 52) << bad;
+    EXPECT_EQ(ErrorOf([&] { files.Delete(Name("\\" + bad)); }), 52) << bad;
+  }
+  const std::string long_name(252, 'n');
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(1, Name("\\" + long_name + ".bk")); }), 0);
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(2, Name("\\" + long_name + ".bkm")); }), 52);
+  slots.CloseAll();
+
+  EXPECT_EQ(ErrorOf([&] { files.Rename(Name("\\missing.txt"), Name("\\new.txt")); }), 53);
+  EXPECT_EQ(ErrorOf([&] { files.Rename(Name("\\there.txt"), Name("\\nowhere\\new.txt")); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files.Rename(Name("\\there.txt"), Name("\\FOLDER")); }), 58);
+  EXPECT_EQ(ErrorOf([&] { files.Rename(Name("\\there.txt"), Name("\\moved.txt")); }), 0);
+  EXPECT_EQ(folder.Read("moved.txt"), "x");
+}
+
+TEST_F(Files, SlotsKeepToTheirNumbers) {
+  folder.Write("a.txt", "one\r\ntwo");
+  EXPECT_EQ(ErrorOf([&] { slots.ReadLine(1); }), 52);
+  EXPECT_EQ(ErrorOf([&] { slots.EndOfFile(1); }), 52);
+  EXPECT_EQ(ErrorOf([&] { slots.PrintLine(1, "x"); }), 52);
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(0, Name("\\a.txt")); }), 52);
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(256, Name("\\a.txt")); }), 52);
+  slots.OpenForReading(255, Name("\\a.txt"));
+  slots.OpenForReading(1, Name("\\a.txt"));
+  EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(1, Name("\\a.txt")); }), 55);
+  EXPECT_EQ(slots.ReadLine(1), "one");
+  EXPECT_EQ(slots.ReadLine(1), "two");
+  EXPECT_TRUE(slots.EndOfFile(1));
+  EXPECT_EQ(ErrorOf([&] { slots.ReadLine(1); }), 62);
+  slots.Close(1);
+  slots.Close(1);
+  EXPECT_FALSE(slots.IsOpen(1));
+  EXPECT_TRUE(slots.IsOpen(255));
+  // Nothing is to be read from a file that is written to.
+  slots.OpenForAppending(1, Name("\\b.txt"));
+  slots.PrintLine(1, "b");
+  EXPECT_TRUE(slots.EndOfFile(1));
+  EXPECT_EQ(ErrorOf([&] { slots.ReadLine(1); }), 52);
+  EXPECT_EQ(folder.Read("b.txt"), "");
+  slots.Flush(1);
+  EXPECT_EQ(folder.Read("b.txt"), "b\r\n");
+}
+
+TEST_F(Files, ReadQuotedRecordsFieldByField) {
+  folder.Write(
+      "r.dat",
+      "\"a, b\", 50\r\n  \"spaced\" ,plain text , -7x\n,\"\"\r\n\"three\",\"fields\",\"here\"\r\n12\r\n");
+  slots.OpenForReading(1, Name("\\r.dat"));
+  std::vector<std::string> fields;
+  while (!slots.EndOfFile(1)) fields.emplace_back(slots.ReadField(1));
+  EXPECT_EQ(fields, (std::vector<std::string>{"a, b", "50", "spaced", "plain text ", "-7x", "", "", "three",
+                                              "fields", "here", "12"}));
+  slots.Close(1);
+
+  folder.Write("n.dat", "17,-4,many,\"9 lives\"\r\n\"open");
+  slots.OpenForReading(1, Name("\\n.dat"));
+  EXPECT_EQ(slots.ReadNumber(1), 17);
+  EXPECT_EQ(slots.ReadNumber(1), -4);
+  EXPECT_EQ(slots.ReadNumber(1), 0);
+  EXPECT_EQ(slots.ReadNumber(1), 9);
+  EXPECT_EQ(slots.ReadField(1), "open");
+  EXPECT_EQ(ErrorOf([&] { slots.ReadField(1); }), 62);
+  slots.Close(1);
+
+  slots.OpenForAppending(2, Name("\\w.dat"));
+  slots.WriteRecord(2, "name", std::string("a, b"), 50, "");
+  slots.Close(2);
+  EXPECT_EQ(folder.Read("w.dat"), "\"name\",\"a, b\",50,\"\"\r\n");
+}
+
+TEST_F(Files, KeepTextOfAnyScript) {
+  // What the code page can hold is written in it, and read back from it.
+  EXPECT_EQ(Encode("café – “quoted” €"), "caf\xE9 \x96 \x93quoted\x94 \x80");
+  EXPECT_EQ(Decode("caf\xE9\r\n\xE2\x80\x94\r\n"), "café\r\n—\r\n");
+  // What it cannot hold, or what could be mistaken, is written as UTF-8.
+  for (const std::string text : {"ἐν ἀρχῇ", "בְּרֵאשִׁית", "Ã©", "plain", "mixed é and ω", "",
+                                 // In the code page the first line would be UTF-8 for another letter.
+                                 "Õ—\r\né\r\n"}) {
+    EXPECT_EQ(Decode(Encode(text)), text);
+  }
+  for (int byte = 0x80; byte < 0x100; ++byte) {
+    const std::string line = std::string("x") + static_cast<char>(byte) + "y";
+    EXPECT_EQ(Encode(Decode(line)), line) << byte;
+  }
+}
+
+TEST_F(Files, KeepTheLastVersionOfWhatAPersonMade) {
+  folder.Write("notes/mine.not", "first");
+  files.DeleteKeepingBackup(Name("\\Notes\\MINE.not"));
+  EXPECT_FALSE(files.FileExists(Name("\\notes\\mine.not")));
+  EXPECT_EQ(folder.Read("backup/notes/mine.not"), "first");
+  EXPECT_EQ(ErrorOf([&] { files.DeleteKeepingBackup(Name("\\notes\\mine.not")); }), 53);
+
+  // An empty file, as a full disk leaves one, does not push out a version that holds something.
+  folder.Write("notes/mine.not", "");
+  files.DeleteKeepingBackup(Name("\\notes\\mine.not"));
+  EXPECT_EQ(folder.Read("backup/notes/mine.not"), "first");
+  folder.Write("notes/mine.not", "second");
+  files.DeleteKeepingBackup(Name("\\notes\\mine.not"));
+  EXPECT_EQ(folder.Read("backup/notes/mine.not"), "second");
+}
+
+TEST_F(Files, KeepTheVersionBeforeAndTheLongestOfThoseBeforeIt) {
+  const auto replace = [&](const char* version) {
+    folder.Write("mine.not", version);
+    files.DeleteKeepingBackup(Name("\\mine.not"));
+    EXPECT_EQ(folder.Read("backup/mine.not"), version);
+  };
+  const auto expect_before = [&](const char* last, const char* longest) {
+    EXPECT_EQ(folder.Read("backup/backup/mine.not"), last);
+    EXPECT_EQ(folder.Read("backup/backup/backup/mine.not"), longest);
+  };
+  replace("all of it");
+  expect_before("(missing)", "(missing)");
+  replace("half");
+  replace("half");  // saved unaltered
+  expect_before("all of it", "(missing)");
+  replace("part");
+  expect_before("half", "all of it");
+  for (const char* version : {"other", "some", "half", "some"}) replace(version);
+  expect_before("half", "all of it");
+  for (const char* version : {"all of it!", "nothing", "half"}) replace(version);
+  expect_before("nothing", "all of it!");
+}
+
+TEST_F(Files, LeaveAFileAsItWasWhenTheDiskIsFull) {
+  folder.Write("words.dat", "\"kept\",\"Ruth 1 1\"\r\n");
+  files.before = [](Operation operation, const std::string&) {
+    if (operation == Operation::kWrite) throw base::RunTimeError(base::ErrorNumber::kDiskFull);
+  };
+  slots.OpenForAppending(1, Name("\\words.dat"));
+  slots.WriteRecord(1, "new", "Ruth 1 2");
+  EXPECT_EQ(ErrorOf([&] { slots.Close(1); }), 61);
+  EXPECT_FALSE(slots.IsOpen(1));
+  EXPECT_EQ(folder.Read("words.dat"), "\"kept\",\"Ruth 1 1\"\r\n");
+}
+
+TEST(PathNames, FitPatternsAsFileListsDo) {
+  EXPECT_TRUE(FitsPattern("Ruth and Naomi.BKM", "*.bkm"));
+  EXPECT_TRUE(FitsPattern(".bkm", "*.bkm"));
+  EXPECT_FALSE(FitsPattern("x.bkm.txt", "*.bkm"));
+  EXPECT_TRUE(FitsPattern("cdx4.ico", "CDX?.ico"));
+  EXPECT_FALSE(FitsPattern("cdx.ico", "cdx?.ico"));
+  EXPECT_TRUE(FitsPattern("aXbXc", "*b*c"));
+}
+
+}  // namespace
+}  // namespace lectern::files

@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include "forms/buttons.h"
+#include "forms/folder_lists.h"
+#include "forms/frame.h"
+#include "forms/label.h"
+#include "forms/list_box.h"
+#include "forms/scroll_bar.h"
+#include "forms/text_box.h"
+#include "tests/kit/test_window.h"
+
+namespace lectern::forms {
+namespace {
+
+static_assert(!std::is_copy_constructible_v<Property<int>>);
+static_assert(!std::is_copy_constructible_v<RuledProperty<std::string>>);
+
+TEST(Property, RunsItsChangeInsideTheWriteAndOnlyForANewValue) {
+  TestWindow test;
+  Label first(test.form, "first");
+  Label second(test.form, "second", {.caption = "design"});
+  std::string seen;
+  first.Change = [&] {
+    seen += "[" + first.Caption();
+    second.Caption = first.Caption;  // writes the value, and runs the other's handler before it goes on
+    seen += "]";
+  };
+  second.Change = [&] { seen += ">" + second.Caption(); };
+  first.Caption = "a";
+  first.Caption = "a";
+  second.Caption = "a";
+  EXPECT_EQ(seen, "[a>a]");
+  first.Caption = "";
+  EXPECT_EQ(seen, "[a>a][>]");
+}
+
+TEST(HScrollBar, RefusesWhatLiesOutsideAndKeepsWhatANewMaximumLeavesOutside) {
+  TestWindow test;
+  HScrollBar bar(test.form, "scr", {.value = 1, .min = 1, .max = 50});
+  int changes = 0;
+  bar.Change = [&] { ++changes; };
+  bar.Value = 40;
+  EXPECT_EQ(ErrorOf([&] { bar.Value = 51; }), 380);
+  EXPECT_EQ(ErrorOf([&] { bar.Value = 0; }), 380);
+  bar.Max = 4;
+  EXPECT_EQ(bar.Value, 40);
+  EXPECT_EQ(ErrorOf([&] { bar.Value = 40; }), 0);  // no write at all
+  EXPECT_EQ(changes, 1);
+}
+
+TEST(ListBox, SortsByCharacterCodeOrKeepsTheOrderAndForgetsTheSelectionWithItsItems) {
+  TestWindow test;
+  ListBox sorted(test.form, "lstc", {.sorted = true});
+  ListBox plain(test.form, "lsts");
+  for (const char* word : {"b", "a", "B", "a b", "É", "a"}) {
+    sorted.AddItem(word);
+    plain.AddItem(word);
+  }
+  std::string all;
+  for (int i = 0; i < sorted.ListCount(); ++i) all += sorted.List(i) + ",";
+  EXPECT_EQ(all, "B,a,a,a b,b,É,");
+  EXPECT_EQ(plain.List(2), "B");
+  EXPECT_EQ(plain.List(-1), "");
+  EXPECT_EQ(plain.List(6), "");
+
+  int clicks = 0;
+  sorted.Click = [&] { ++clicks; };
+  sorted.PersonPicks(3);
+  sorted.AddItem("A");  // in front: the selection stays on its item
+  EXPECT_TRUE(sorted.Selected(4));
+  sorted.RemoveItem(4);
+  EXPECT_EQ(sorted.SelectedIndex(), -1);
+  sorted.PersonPicks(-1);
+  EXPECT_EQ(clicks, 2);
+  EXPECT_EQ(ErrorOf([&] { sorted.RemoveItem(99); }), 5);
+  sorted.PersonPicks(0);
+  sorted.Clear();
+  EXPECT_FALSE(sorted.Selected(0));
+}
+
+TEST(OptionButton, ClearsItsNeighboursAndCountsEveryClick) {
+  TestWindow test;
+  Frame frame(test.form, "frame");
+  OptionButton first(test.form, "optk", {.value = 1});
+  OptionButton second(test.form, "optn");
+  OptionButton elsewhere(frame, "op1", {.value = 1});
+  int clicks = 0;
+  second.Click = [&] { ++clicks; };
+  second.PersonClicks();
+  second.PersonClicks();
+  EXPECT_FALSE(first.Value);
+  EXPECT_TRUE(elsewhere.Value);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST(Keys, PressTheDefaultAndTheCancelButtonOfThePanelAroundOrOfTheFrontOne) {
+  TestWindow test;
+  test.form.Visible = true;
+  Frame back(test.form, "back");
+  Frame front(test.form, "front", {.visible = false});
+  TextBox box(back, "txts");
+  CommandButton go(back, "go", {.is_default = true});
+  CommandButton close_back(back, "close_back", {.is_cancel = true});
+  CommandButton close_front(front, "close_front", {.is_cancel = true});
+  std::string pressed;
+  go.Click = [&] { pressed += "go "; };
+  close_back.Click = [&] { pressed += "close_back "; };
+  close_front.Click = [&] { pressed += "close_front "; };
+  front.Visible = true;
+  box.PersonKeys(kEnterKey);
+  box.PersonKeys(kEscapeKey);
+  test.form.PressCancelOfFrontPanel();
+  go.Enabled = false;
+  box.PersonKeys(kEnterKey);
+  front.Visible = false;
+  test.form.PressCancelOfFrontPanel();
+  EXPECT_EQ(pressed, "go close_back close_front close_back ");
+
+  // From below an open panel Escape closes that, and the window only when none is left.
+  TextBox below(test.form, "below");
+  CommandButton leave(test.form, "leave", {.is_cancel = true});
+  leave.Click = [&] { pressed += "leave "; };
+  pressed.clear();
+  below.PersonKeys(kEscapeKey);
+  back.Visible = false;
+  below.PersonKeys(kEscapeKey);
+  test.form.PressCancelOfFrontPanel();
+  EXPECT_EQ(pressed, "close_back leave leave ");
+}
+
+TEST(Control, IsOutOfReachWhenItOrWhatItLiesInIsHiddenOrItIsDisabled) {
+  TestWindow test;
+  Frame panel(test.form, "panel");
+  CommandButton button(panel, "button");
+  EXPECT_EQ(button.RefusesPerson(), Refusal::kHidden);  // the window is not shown yet
+  test.form.Visible = true;
+  EXPECT_EQ(button.RefusesPerson(), Refusal::kNone);
+  button.Enabled = false;
+  EXPECT_EQ(button.RefusesPerson(), Refusal::kDisabled);
+  panel.Visible = false;
+  EXPECT_EQ(button.RefusesPerson(), Refusal::kHidden);
+  EXPECT_TRUE(button.Visible);  // it keeps its own state
+}
+
+TEST(FolderLists, LookIntoTheFileSystem) {
+  TestWindow test;
+  test.folder.Write("pics/b.jpg", "");
+  test.folder.Write("pics/A.JPG", "");
+  test.folder.Write("pics/readme.txt", "");
+  DirListBox folders(test.form, "Dir1");
+  FileListBox list(test.form, "File1", {.pattern = "*.jpg"});
+  EXPECT_EQ(folders.Path, test.folder.Path());
+  EXPECT_EQ(ErrorOf([&] { folders.Path = folders.Path + "\\none"; }), 76);
+  folders.Change = [&] { list.Path = folders.Path; };
+  folders.Path = folders.Path + "/Pics";
+  ASSERT_EQ(list.ListCount(), 2);
+  EXPECT_EQ(list.List(0), "A.JPG");
+  list.PersonPicks(1);
+  test.folder.Write("pics/c.jpg", "");
+  EXPECT_EQ(list.ListCount(), 2);
+  list.Refresh();
+  EXPECT_EQ(list.ListCount(), 3);
+  EXPECT_EQ(list.SelectedIndex(), -1);
+  EXPECT_EQ(folders.Entries().back().name, "pics");
+}
+
+}  // namespace
+}  // namespace lectern::forms
