@@ -6,7 +6,6 @@
 
 #include "aids/asked_name.h"
 #include "base/error_modes.h"
-#include "base/text/numbers.h"
 
 namespace lectern::aids {
 
@@ -78,15 +77,15 @@ void Bookmarks::Command3_Click() {
 // button's own does not; it is meant.
 void Bookmarks::xb_Click() {
   panels_.Picture1.Visible = true;
-  reader_.LBLMRK(1).Caption = reader_.lblbook.Caption;
-  reader_.LBLMRK(2).Caption = reader_.lblc.Caption;
+  reader_.LBLMRK(1).Caption = reader_.Stem();
+  reader_.LBLMRK(2).Caption = reader_.Chapter();
 }
 
 void Bookmarks::File1_Click() {
   const int selected = File1.SelectedIndex();
   if (selected < 0) return;
   files::FileSlots& slots = reader_.form.Slots();
-  slots.OpenForReading(kBookmark, reader_.Dir1.Path + "\\" + File1.List(selected));
+  slots.OpenForReading(kBookmark, reader_.DataFile(File1.List(selected)));
   const std::string name(slots.ReadField(kBookmark));
   const std::string book(slots.ReadField(kBookmark));
   const std::string chapter(slots.ReadField(kBookmark));
@@ -96,15 +95,13 @@ void Bookmarks::File1_Click() {
   reader_.LBLMRK(2).Caption = chapter;
 }
 
-std::string Bookmarks::PathOf(const std::string& name) const {
-  return reader_.Dir1.Path + "\\" + name + ".bkm";
-}
+std::string Bookmarks::PathOf(const std::string& name) const { return reader_.DataFile(name + ".bkm"); }
 
 // Writes the reader's place behind whatever the bookmark's file holds.
 void Bookmarks::AppendPlace(const std::string& name) {
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForAppending(kBookmark, PathOf(name));
-  slots.WriteRecord(kBookmark, name, reader_.lblbk.Caption(), reader_.lblc.Caption());
+  slots.WriteRecord(kBookmark, name, reader_.Book(), reader_.Chapter());
   slots.Close(kBookmark);
 }
 
@@ -116,8 +113,8 @@ void Bookmarks::Command10_Click() {
   AppendPlace(name);
   File1.Refresh();
   reader_.LBLMRK(0).Caption = name;
-  reader_.LBLMRK(1).Caption = reader_.lblbk.Caption;
-  reader_.LBLMRK(2).Caption = reader_.lblc.Caption;
+  reader_.LBLMRK(1).Caption = reader_.Book();
+  reader_.LBLMRK(2).Caption = reader_.Chapter();
 }
 
 // ODDITY(update-by-label): the file is the one that the label names. With no bookmark in hand that is
@@ -133,23 +130,13 @@ void Bookmarks::Command6_Click() {
 
 void Bookmarks::Command11_Click() {
   if (const int selected = File1.SelectedIndex(); selected >= 0) {
-    reader_.form.Files().DeleteKeepingBackup(reader_.Dir1.Path + "\\" + File1.List(selected));
+    reader_.form.Files().DeleteKeepingBackup(reader_.DataFile(File1.List(selected)));
   }
   File1.Refresh();
 }
 
-// The empty writes make each later one a change. The book's name, written while the chapter stands, sends
-// the chapter bar to 1 and loads that; the last write shows the chapter that is wanted.
 void Bookmarks::Command5_Click() {
-  const std::string chapter = reader_.LBLMRK(2).Caption;
-  reader_.lblbook.Caption = "";
-  reader_.lblc.Caption = "";
-  reader_.lblbk.Caption = "";
-  reader_.lblc.Caption = chapter;
-  reader_.lblbook.Caption = reader_.LBLMRK(1).Caption;
-  reader_.lblbk.Caption = reader_.LBLMRK(1).Caption;
-  reader_.lblc.Caption = "";
-  reader_.lblc.Caption = chapter;
+  reader_.RestoreBookmark();
   Leave();
 }
 
@@ -162,8 +149,6 @@ void Bookmarks::Leave() {
 
 // ODDITY(sweeping-chapters): every movement of the pointer over the box is a chapter further, and nothing
 // stops it behind the last one; it is meant.
-void Bookmarks::Picture2_MouseMove() {
-  reader_.lblc.Caption = text::NumberText(text::NumberValue(reader_.lblc.Caption()) + 1);
-}
+void Bookmarks::Picture2_MouseMove() { reader_.StepToNextChapter(); }
 
 }  // namespace lectern::aids

@@ -74,7 +74,7 @@ void Help::xh2_Click() { panels_.frmhelp.Visible = true; }
 
 void Help::lblhp_Click(int index) {
   if (index < 0 || index >= static_cast<int>(kTopicFiles.size())) return;
-  txthelp.LoadFile(reader_.Dir1.Path + "\\" + kTopicFiles[static_cast<std::size_t>(index)]);
+  txthelp.LoadFile(reader_.DataFile(kTopicFiles[static_cast<std::size_t>(index)]));
   LeaveAbout();
 }
 

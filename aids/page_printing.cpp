@@ -27,7 +27,7 @@ void PagePrinting::Command30_Click() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
   const std::string& bookmark = reader_.LBLMRK(0).Caption;
-  const std::string note = reader_.Dir1.Path + "\\" + (bookmark.empty() ? "NAME" : bookmark) + ".NOT";
+  const std::string note = reader_.DataFile((bookmark.empty() ? "NAME" : bookmark) + ".NOT");
   ignore([&] { slots.OpenForAppending(kNote, note); });
   ignore([&] { slots.Close(kNote); });
   ignore([&] { slots.OpenForReading(kNote, note); });

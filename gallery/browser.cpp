@@ -48,7 +48,7 @@ void Browser::lblendpic_Change() {
 void Browser::ShowSlot(int slot, int index) {
   const forms::Window& form = catalogue_.reader.form;
   if (catalogue_.lstmc(1).ListCount() <= index) {
-    imgp(slot).Picture = form.LoadPicture(catalogue_.reader.Dir1.Path + "\\picend.jpg");
+    imgp(slot).Picture = form.LoadPicture(catalogue_.reader.DataFile("picend.jpg"));
     Below(slot).Caption = kPastTheList;
     Above(slot).Caption = kPastTheList;
     return;
@@ -56,7 +56,7 @@ void Browser::ShowSlot(int slot, int index) {
   const std::string& name = catalogue_.lstmc(0).List(index);
   // ODDITY(nameless-slot): a record without a name leaves its slot as it was. It is meant.
   if (name.empty()) return;
-  const std::size_t book_length = text::Length(catalogue_.reader.lblbk.Caption());
+  const std::size_t book_length = text::Length(catalogue_.reader.Book());
   imgp(slot).Picture = form.LoadPicture(catalogue_.PictureFile(name));
   Below(slot).Caption = std::string(ChapterAndVerse(catalogue_.lstmc(1).List(index), book_length));
   Above(slot).Caption = std::to_string(index + 1);

@@ -54,8 +54,7 @@ Maintenance::Picked Maintenance::FindPicked() {
 
 // Draws the strip from the catalogue as it is now, on the page it was on.
 void Maintenance::ShowCatalogue(const std::string& page) {
-  catalogue_.ExtractBookPictures();
-  catalogue_.FillPictureLists();
+  catalogue_.ListBookPictures();
   catalogue_.lblendpic.Caption = "";
   catalogue_.lblendpic.Caption = page;
 }
@@ -65,7 +64,7 @@ void Maintenance::ShowCatalogue(const std::string& page) {
 void Maintenance::Rewrite(const std::function<void(const PictureRecord&)>& decide) {
   files::FileSlots& slots = reader_.form.Slots();
   const std::string page = catalogue_.lblendpic.Caption;
-  const std::string fresh = reader_.Dir1.Path + "\\pics22.dat";
+  const std::string fresh = reader_.DataFile("pics22.dat");
   // ODDITY(leftover-of-a-failed-rewrite): what an action that failed left in the new file stays at its top,
   // so that those records stand twice in the catalogue. It is meant.
   slots.OpenForAppending(kNew, fresh);
@@ -122,7 +121,7 @@ void Maintenance::Command47_Click() {
       Keep(record);
       return;
     }
-    slots.OpenForAppending(kRemoved, reader_.Dir1.Path + "\\picsremoved.dat");
+    slots.OpenForAppending(kRemoved, reader_.DataFile("picsremoved.dat"));
     WritePictureRecord(slots, kRemoved, record);
     slots.Close(kRemoved);
     // ODDITY(remove-all-wants-a-path): the picture that is moved away lies in the folder of the text, in a

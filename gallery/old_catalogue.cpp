@@ -26,7 +26,7 @@ OldCatalogue::OldCatalogue(PictureCatalogue& the_catalogue, Viewer& the_viewer)
   Command38.Click = [this] { Command38_Click(); };
 }
 
-std::string OldCatalogue::OldFile() const { return reader_.Dir1.Path + "\\pics.dat"; }
+std::string OldCatalogue::OldFile() const { return reader_.DataFile("pics.dat"); }
 
 void OldCatalogue::ConvertPicsDat() {
   enum class Expected { kCredit, kName, kPlace };
@@ -63,10 +63,10 @@ void OldCatalogue::ConvertPicsDat() {
 // Shows the picture whose place the line is, where that lies at or behind the reader's chapter and the
 // picture has a name; whether it did.
 bool OldCatalogue::ShowAtOrBehindChapter(const std::string& line, std::string name) {
-  const int chapter = ChapterOf(line, text::Length(reader_.lblbk.Caption()));
+  const int chapter = ChapterOf(line, text::Length(reader_.Book()));
   name = text::TrimEnd(name);
-  if (chapter < text::NumberValue(reader_.lblc.Caption()) || name.empty()) return false;
-  viewer_.pick.Picture = reader_.form.LoadPicture(reader_.Dir1.Path + "\\pics\\" + name + ".jpg");
+  if (chapter < text::NumberValue(reader_.Chapter()) || name.empty()) return false;
+  viewer_.pick.Picture = reader_.form.LoadPicture(reader_.DataFile("pics\\" + name + ".jpg"));
   viewer_.LBLPICP.Caption = name;
   viewer_.lblvs.Caption = line;
   return true;
@@ -79,7 +79,7 @@ void OldCatalogue::ShowPicsDatPicture() {
   bool shown = false;
   while (!shown && !slots.EndOfFile(kOld)) {
     const std::string line(slots.ReadLine(kOld));
-    if (IsInBook(line, reader_.lblbk.Caption())) {
+    if (IsInBook(line, reader_.Book())) {
       shown = ShowAtOrBehindChapter(line, name);
     } else {
       name = line;
@@ -91,7 +91,7 @@ void OldCatalogue::ShowPicsDatPicture() {
 // The same with every line told in a box, and the book's name in another: a means to look into the file.
 void OldCatalogue::Command38_Click() {
   files::FileSlots& slots = reader_.form.Slots();
-  const std::string book = text::Upper(reader_.lblbk.Caption());
+  const std::string book = text::Upper(reader_.Book());
   slots.OpenForReading(kOld, OldFile());
   std::string name;
   bool shown = false;

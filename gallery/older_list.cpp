@@ -24,15 +24,15 @@ OlderList::OlderList(PictureCatalogue& the_catalogue, reader::Panels& panels)
 void OlderList::Command40_Click() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
-  const std::string empty_file = reader_.Dir1.Path + "\\tmppics3.dat";
+  const std::string empty_file = reader_.DataFile("tmppics3.dat");
   List4.Clear();
   List5.Clear();
   // ODDITY(older-list-doubles): the work file still holds what the last change of book put there, so that
   // each picture stands twice. It is meant.
   const int highest = catalogue_.CopyBookRecords();
   ignore([&] { slots.OpenForAppending(kEmpty, empty_file); });
-  const double chapter = text::NumberValue(reader_.lblc.Caption());
-  const std::size_t book_length = text::Length(reader_.lblbook.Caption());
+  const double chapter = text::NumberValue(reader_.Chapter());
+  const std::size_t book_length = text::Length(reader_.Stem());
   for (const auto& entry : catalogue_.RecordsByChapter(book_length, highest)) {
     const std::string name(text::TrimEnd(entry.record.name));
     List4.AddItem(name);

@@ -47,6 +47,11 @@ int PictureCatalogue::PageStart() const {
   return text::RoundToLong(text::NumberValue(lblendpic.Caption())) - kSlotsBeforeLast;
 }
 
+void PictureCatalogue::ListBookPictures() {
+  ExtractBookPictures();
+  FillPictureLists();
+}
+
 void PictureCatalogue::ClearLists() {
   lstmc.ForEach([](int, forms::ListBox& list) { list.Clear(); });
 }
@@ -54,7 +59,7 @@ void PictureCatalogue::ClearLists() {
 int PictureCatalogue::CopyBookRecords() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader.form.Slots();
-  const std::string& book = reader.lblbk.Caption;
+  const std::string& book = reader.Book();
   const std::size_t book_length = text::Length(book);
   int highest = 0;
   ignore([&] { slots.OpenForReading(kCatalogue, CatalogueFile()); });
@@ -103,7 +108,7 @@ void PictureCatalogue::FillPictureLists() {
   const base::Ignoring ignore;
   ClearLists();
   const int highest = text::RoundToLong(text::NumberValue(lbltm.Caption()));
-  for (Entry& entry : RecordsByChapter(text::Length(reader.lblbk.Caption()), highest)) {
+  for (Entry& entry : RecordsByChapter(text::Length(reader.Book()), highest)) {
     lstmc(0).AddItem(std::string(text::TrimEnd(entry.record.name)));
     lstmc(1).AddItem(std::move(entry.record.place));
     lstmc(2).AddItem(std::move(entry.record.author));
@@ -115,8 +120,8 @@ void PictureCatalogue::FillPictureLists() {
 
 void PictureCatalogue::SeekChapterPicture() {
   const base::Ignoring ignore;
-  const std::size_t book_length = text::Length(reader.lblbook.Caption());
-  const double chapter = text::NumberValue(reader.lblc.Caption());
+  const std::size_t book_length = text::Length(reader.Stem());
+  const double chapter = text::NumberValue(reader.Chapter());
   for (int i = 0; i < lstmc(1).ListCount(); ++i) {
     if (ChapterOf(lstmc(1).List(i), book_length) != chapter) continue;
     ignore([&] { picnm.Value = i; });

@@ -27,10 +27,9 @@ class PictureCatalogue {
  public:
   PictureCatalogue(reader::Reader& the_reader, reader::Panels& panels);
 
-  // The two stand together: the book's records to the work file, and from there into the lists. Whoever
-  // changed `pics2.dat` runs both. The strip is then on its first page. Neither shows a failure.
-  void ExtractBookPictures();
-  void FillPictureLists();
+  // Fills the lists with the pictures of the book that is open: to be called when the book or `pics2.dat` has
+  // changed. The strip is then on its first page. Shows no failure.
+  void ListBookPictures();
 
   // Moves the viewer to the chapter's first picture, where it has one.
   void SeekChapterPicture();
@@ -46,8 +45,8 @@ class PictureCatalogue {
   };
   std::vector<Entry> RecordsByChapter(std::size_t book_length, int highest);
 
-  std::string CatalogueFile() const { return reader.Dir1.Path + "\\pics2.dat"; }
-  std::string WorkFile() const { return reader.Dir1.Path + "\\tmppics2.dat"; }
+  std::string CatalogueFile() const { return reader.DataFile("pics2.dat"); }
+  std::string WorkFile() const { return reader.DataFile("tmppics2.dat"); }
   std::string PictureFile(std::string_view name) const;
 
   // The list index of the first picture on the strip's page.
@@ -63,6 +62,8 @@ class PictureCatalogue {
   forms::HScrollBar picnm;
 
  private:
+  void ExtractBookPictures();
+  void FillPictureLists();
   void ClearLists();
 };
 

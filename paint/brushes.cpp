@@ -39,7 +39,7 @@ Brushes::Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
 
 void Brushes::ShowPointer(int brush) {
   canvas_.picbox.MouseIcon =
-      form_.LoadPicture(gallery_.reader.Dir1.Path + "\\cdx" + std::to_string(brush + 1) + ".ico");
+      form_.LoadPicture(gallery_.reader.DataFile("cdx" + std::to_string(brush + 1) + ".ico"));
 }
 
 // ODDITY(pointer-of-another-brush): the first stroke has the width of the third brush under the pointer of

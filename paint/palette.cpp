@@ -66,7 +66,7 @@ void Palette::LoadColours() {
   const base::Ignoring ignore;
   files::FileSlots& files = form_.Slots();
   int counter = 0;
-  ignore([&] { files.OpenForReading(kColours, gallery_.reader.Dir1.Path + "\\colors.dat"); });
+  ignore([&] { files.OpenForReading(kColours, gallery_.reader.DataFile("colors.dat")); });
   while (files.IsOpen(kColours) && !files.EndOfFile(kColours)) {
     std::string value;
     forms::Colour shown = 0;
@@ -117,7 +117,7 @@ void Palette::scr1_Change() {
 }
 
 void Palette::Command3_Click() {
-  const std::string path = gallery_.reader.Dir1.Path + "\\colors.dat";
+  const std::string path = gallery_.reader.DataFile("colors.dat");
   files::FileSlots& files = form_.Slots();
   form_.Files().DeleteKeepingBackup(path);
   files.OpenForAppending(kColours, path);

@@ -25,7 +25,7 @@ PictureSaving::PictureSaving(forms::Window& the_form, gallery::PictureCatalogue&
 
 // The canvas keeps its size and place, and the original stays what it was.
 void PictureSaving::Command5_Click() {
-  canvas_.picbox.Picture = form_.LoadPicture(gallery_.reader.Dir1.Path + "\\newpic.jpg");
+  canvas_.picbox.Picture = form_.LoadPicture(gallery_.reader.DataFile("newpic.jpg"));
 }
 
 void PictureSaving::Command2_Click() {
@@ -52,10 +52,8 @@ void PictureSaving::Command2_Click() {
     slots.WriteRecord(kCatalogue, name, gallery_.selfile(1).Text(), gallery_.selfile(2).Text());
     slots.Close(kCatalogue);
   }
-  form_.SavePictureKeepingBackup(canvas_.picbox.Picture,
-                                 gallery_.reader.Dir1.Path + "\\pics\\" + name + ".JPG");
-  gallery_.ExtractBookPictures();
-  gallery_.FillPictureLists();
+  form_.SavePictureKeepingBackup(canvas_.picbox.Picture, gallery_.reader.DataFile("pics\\" + name + ".JPG"));
+  gallery_.ListBookPictures();
   viewer_.LBLPICP.Caption = old_name;
   viewer_.lblvs.Caption = place;
   form_.MousePointer = kPointerArrow;

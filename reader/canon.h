@@ -1,9 +1,11 @@
-// The 66 books in their fixed order: names that are at once shown to the reader and the stems of the
-// books' files.
+// The 66 books in their fixed order. A name is shown to the reader and is also the stem of the book's file.
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
+
+#include "base/text/characters.h"
 
 namespace lectern::reader {
 
@@ -75,5 +77,8 @@ inline constexpr std::array<std::string_view, 66> kCanon = {
     "Jude",
     "Revelation",
 };
+
+// The short stem by which the tools for preparing the data know a book's file: "Deuteron".
+inline std::string ShortStem(std::string_view book) { return std::string(text::Left(book, 8)); }
 
 }  // namespace lectern::reader

@@ -2,6 +2,7 @@
 
 #include "base/error_modes.h"
 #include "base/text/numbers.h"
+#include "reader/reader.h"
 
 namespace lectern::reader {
 
@@ -16,40 +17,25 @@ bool IsChapterLine(std::string_view line) { return line.starts_with(kChapterMark
 
 }  // namespace
 
-ChapterStore::ChapterStore(Reader& the_reader) : reader_(the_reader) {
-  reader_.lblc.Change = [this] { lblc_Change(); };
-  reader_.optk.Click = [this] { optk_Click(); };
-  reader_.optn.Click = [this] { optn_Click(); };
-}
-
-void ChapterStore::lblc_Change() {
-  reader_.tmrpic.Enabled = false;  // on the early return too
-  if (reader_.lblc.Caption == "" || reader_.lblbook.Caption == "") return;
-
+void ChapterStore::Load() {
   files::FileSlots& slots = reader_.form.Slots();
   const base::Trapping trap{[&] { slots.Close(kBook); }};
+  if (!trap([&] { slots.OpenForReading(kBook, reader_.BookFile(reader_.Stem())); })) return;
   const std::string scratch = reader_.Dir3.Path + "\\temp.txt";
-  const bool opened = trap([&] { slots.OpenForReading(kBook, reader_.BookFile(reader_.lblbook.Caption())); });
-  if (opened) {
-    // Opened for appending, so that lines a broken run left there come first.
-    bool written = trap([&] { slots.OpenForAppending(kScratch, scratch); });
-    std::string held;
-    const bool found = CopyChapter(trap, held);
-    trap([&] { slots.Close(kBook); });
-    // ODDITY(next-heading): the line in hand is written once more, whatever it is. It is the last line of
-    // the book, or the heading of the next chapter, with which every other chapter ends; it is meant.
-    written = trap([&] { slots.PrintLine(kScratch, held); }) && written;
-    written = trap([&] { slots.Close(kScratch); }) && written;
-    // What a full disk cut off is no chapter: the pane keeps its text.
-    if (written && trap([&] { reader_.rtxt.LoadFile(scratch); })) {
-      const forms::Label& version = reader_.optk.Value ? reader_.Label34 : reader_.Label35;
-      shown_ = {reader_.lblbk.Caption(), found ? reader_.lblc.Caption() : "", version.Caption()};
-    }
-    trap([&] { reader_.form.Files().Delete(scratch); });
+  // Opened for appending, so that lines a broken run left there come first.
+  bool written = trap([&] { slots.OpenForAppending(kScratch, scratch); });
+  std::string held;
+  const bool found = CopyChapter(trap, held);
+  slots.Close(kBook);
+  // ODDITY(next-heading): the line in hand is written once more, whatever it is. It is the last line of
+  // the book, or the heading of the next chapter, with which every other chapter ends; it is meant.
+  written = trap([&] { slots.PrintLine(kScratch, held); }) && written;
+  written = trap([&] { slots.Close(kScratch); }) && written;
+  // What a full disk cut off is no chapter: the pane keeps its text.
+  if (written && trap([&] { reader_.rtxt.LoadFile(scratch); })) {
+    shown_ = {reader_.Book(), found ? reader_.Chapter() : "", std::string(reader_.CurrentVersion().label)};
   }
-  trap([&] { reader_.LBLMRK(2).Caption = reader_.lblc.Caption; });
-  trap([&] { reader_.scr.Value = text::IntegerValue(reader_.lblc.Caption()); });
-  trap([&] { reader_.SeekChapterPicture(); });
+  trap([&] { reader_.form.Files().Delete(scratch); });
 }
 
 // Copies the chapter from the book to the scratch file, all but its last line, and leaves the line in hand;
@@ -68,7 +54,7 @@ bool ChapterStore::CopyChapter(const base::Trapping& trap, std::string& held) {
     // follows another one at once is not counted.
     trap([&] { line = slots.ReadLine(kBook); });
     bool wanted = false;
-    trap([&] { wanted = text::ToNumber(reader_.lblc.Caption()) == counter; });
+    trap([&] { wanted = text::ToNumber(reader_.Chapter()) == counter; });
     if (!wanted) continue;
     while (!IsChapterLine(line) && more()) {
       trap([&] { slots.PrintLine(kScratch, line); });
@@ -78,17 +64,6 @@ bool ChapterStore::CopyChapter(const base::Trapping& trap, std::string& held) {
   }
   held = line;
   return done;
-}
-
-void ChapterStore::optk_Click() { ChangeVersion("King James Version", "\\KJV"); }
-void ChapterStore::optn_Click() { ChangeVersion("Revised Standard Version", "\\NEW"); }
-
-// The book stays, the chapter falls back to 1.
-void ChapterStore::ChangeVersion(const std::string& name, const std::string& folder) {
-  reader_.LBLVR.Caption = name;
-  reader_.Dir3.Path = reader_.Dir1.Path + folder;
-  reader_.lblc.Caption = "";
-  reader_.lblc.Caption = "1";
 }
 
 }  // namespace lectern::reader

@@ -7,14 +7,13 @@ void ErrorReport::ReportError(const base::RunTimeError& error) {
   base::Platform& platform = reader_.form.Platform();
   if (error.Is(base::ErrorNumber::kFileNotFound)) {
     // ODDITY(concordance-missing): every missing file is told as the concordance's; it is meant.
-    platform.Message("CONCORD.DAT missing from " + reader_.Dir1.Path);
+    platform.Message(std::string(kVersions[0].concordance) + " missing from " + reader_.Dir1.Path);
   } else {
     platform.Message(
         "An error (" + std::to_string(error.number()) +
         " ) has occured during proccessing your request. Click HELP, for information on possible "
         "sources causing the error. ");
   }
-  stop_word_ = "STOP";
   platform.Beep();
 }
 

@@ -1,8 +1,6 @@
 // The general error report of the main window, at the end of error paths all over it.
 #pragma once
 
-#include <string>
-
 #include "base/run_time_error.h"
 #include "reader/reader.h"
 
@@ -16,7 +14,6 @@ class ErrorReport {
 
  private:
   Reader& reader_;
-  std::string stop_word_;  // reserved; nothing reads it
 };
 
 }  // namespace lectern::reader

@@ -22,8 +22,8 @@ void Exits::Command1_Click() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
   if (menus_.oo12.Checked) {
-    ignore([&] { reader_.form.Files().DeleteKeepingBackup(reader_.Dir1.Path + "\\CODEX.CFG"); });
-    ignore([&] { slots.OpenForAppending(kSettings, reader_.Dir1.Path + "\\codex.cfg"); });
+    ignore([&] { reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("CODEX.CFG")); });
+    ignore([&] { slots.OpenForAppending(kSettings, reader_.DataFile("codex.cfg")); });
     ignore([&] {
       slots.WriteRecord(kSettings, settings_.Combo1.Text(), settings_.Combo2.Text(), settings_.Combo3.Text());
     });
@@ -34,8 +34,8 @@ void Exits::Command1_Click() {
 
 void Exits::xx_Click() {
   if (menus_.oo12.Checked) {
-    reader_.form.Files().DeleteKeepingBackup(reader_.Dir1.Path + "\\CODEX.CFG");
-    reader_.form.Slots().OpenForAppending(kSettings, reader_.Dir1.Path + "\\codex.cfg");
+    reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("CODEX.CFG"));
+    reader_.form.Slots().OpenForAppending(kSettings, reader_.DataFile("codex.cfg"));
     // ODDITY(menu-exit-loses-settings): the first field of the record is a colour of something that does
     // not exist, so that the write fails and the settings file stays behind empty; it is meant.
     throw base::RunTimeError(base::ErrorNumber::kObjectRequired);

@@ -1,5 +1,14 @@
 #include "reader/reader.h"
 
+#include <algorithm>
+
+#include "base/error_modes.h"
+#include "base/text/characters.h"
+#include "base/text/letter_case.h"
+#include "base/text/numbers.h"
+#include "reader/canon.h"
+#include "reader/chapter_counts.h"
+
 namespace lectern::reader {
 
 Reader::Reader(forms::Window& window, Panels& panels)
@@ -28,19 +37,161 @@ Reader::Reader(forms::Window& window, Panels& panels)
       List1(form, "List1"),
       LBLMRK(panels.Picture1, "LBLMRK", {{.caption = "NAME"}, {.caption = "BOOK"}, {.caption = "CHAPTER"}}),
       tmrpic(form, "tmrpic", {.enabled = false, .interval = 5000}),
-      ExtractBookPictures([] {}),
-      FillPictureLists([] {}),
-      SeekChapterPicture([] {}) {}
-
-std::string Reader::BookFile(std::string_view stem) const {
-  return Dir3.Path + (optk.Value ? "\\" : "\\N") + std::string(stem) + ".txt";
+      BookChanged([] {}),
+      ChapterShown([] {}),
+      search_panel_(panels.frms),
+      chapter_store_(*this) {
+  lblc.Change = [this] { lblc_Change(); };
+  lblbk.Change = [this] { lblbk_Change(); };
+  lst.Click = [this] { lst_Click(); };
+  scr.Change = [this] { scr_Change(); };
+  optk.Click = [this] { ChangeVersion(kVersions[0]); };
+  optn.Click = [this] { ChangeVersion(kVersions[1]); };
+  List1.DblClick = [this] { List1_DblClick(); };
+  List1.KeyDown = [this](int code) {
+    if (code == forms::kEnterKey) List1_DblClick();
+  };
 }
 
-void Reader::Show(const std::string& stem, const std::string& name, const std::string& chapter) {
-  lblc.Caption = "";
-  lblbook.Caption = stem;
+std::string Reader::DataFile(std::string_view name) const { return (Dir1.Path + "\\").append(name); }
+
+std::string Reader::BookFile(std::string_view stem) const {
+  return (Dir3.Path + "\\").append(CurrentVersion().prefix).append(stem).append(".txt");
+}
+
+// Only the first option is ever read.
+const Version& Reader::CurrentVersion() const { return kVersions[optk.Value ? 0 : 1]; }
+
+// The book stays, the chapter falls back to 1.
+void Reader::ChangeVersion(const Version& version) {
+  LBLVR.Caption = std::string(version.name);
+  Dir3.Path = DataFile(version.folder);
+  Reload("1");
+}
+
+void Reader::lblc_Change() {
+  tmrpic.Enabled = false;  // on the early return too
+  if (Chapter().empty() || Stem().empty()) return;
+  chapter_store_.Load();
+  LBLMRK(2).Caption = lblc.Caption;
+  const base::Ignoring ignore;
+  ignore([&] { scr.Value = text::IntegerValue(Chapter()); });
+  ChapterShown();
+}
+
+void Reader::lblbk_Change() {
+  if (Book().empty() || Chapter().empty() || Chapter() == "00") return;
+  lblbk.Visible = true;
+  const base::Ignoring ignore;
+  ignore([&] {
+    if (!search_panel_.Visible) scr.Value = 1;
+  });
+  LoadChapterRange();
+  BookChanged();
+}
+
+void Reader::LoadChapterRange() {
+  if (const auto count = ChapterCount(form, DataFile("bookschap.txt"), Book())) scr.Max = *count;
+  const base::Ignoring ignore;
+  ignore([&] { scr.Value = text::IntegerValue(Chapter()); });
+}
+
+void Reader::scr_Change() { GoToChapter(std::to_string(scr.Value)); }
+
+void Reader::lst_Click() {
+  form.MousePointer = forms::kPointerHourglass;
+  if (const int selected = lst.SelectedIndex(); selected >= 0) {
+    OpenBook(lst.List(selected));
+  } else {
+    Reload("1");
+  }
+  form.MousePointer = forms::kPointerArrow;
+}
+
+// Goes to the chapter that the selected line names: "Chapter 12".
+void Reader::List1_DblClick() {
+  const std::string& line = List1.List(List1.SelectedIndex());
+  if (text::Lower(text::Left(line, 7)) != "chapter") return;
+  const std::string chapter(text::Mid(line, 9));
+  if (text::IsNumeric(chapter)) GoToChapter(chapter);
+}
+
+void Reader::OpenBook(const std::string& name) {
+  lblbook.Caption = "";  // chapter 1, to which the name sends the bar, does not load in the old book
   lblbk.Caption = name;
+  lblbook.Caption = name;
+  Reload("1");
+}
+
+void Reader::Reload(const std::string& chapter) {
+  lblc.Caption = "";
   lblc.Caption = chapter;
+}
+
+void Reader::GoToChapter(const std::string& chapter) { lblc.Caption = chapter; }
+
+void Reader::ShowPassage(const std::string& book, const std::string& chapter) {
+  lblc.Caption = "";
+  lblbook.Caption = book;
+  lblbk.Caption = book;
+  lblc.Caption = chapter;
+}
+
+// ODDITY(blank-behind-the-book): the name gets its trailing blank, so that the catalogue does not know the
+// book and the chapter bar keeps the range of the one before; it is meant.
+void Reader::ShowFoundPassage(const std::string& name_with_blank, const std::string& chapter) {
+  const std::size_t length = text::Length(name_with_blank);
+  ShowPassage(std::string(text::Left(name_with_blank, length - 1)), chapter);
+  lblbk.Caption = "";
+  lblbk.Caption = name_with_blank;
+}
+
+void Reader::ShowChapterThenBook(const std::string& book, const std::string& chapter) {
+  Reload(chapter);
+  lblbook.Caption = book;
+  lblbk.Caption = book;
+}
+
+void Reader::RestoreBookmark() {
+  const std::string book = LBLMRK(1).Caption;
+  const std::string chapter = LBLMRK(2).Caption;  // the load of chapter 1 changes the label
+  // With lblbook empty the first write of the chapter loads nothing, but the name finds it not empty.
+  lblbook.Caption = "";
+  lblc.Caption = "";
+  lblbk.Caption = "";
+  lblc.Caption = chapter;
+  lblbook.Caption = book;
+  lblbk.Caption = book;
+  Reload(chapter);
+}
+
+void Reader::ReturnToChapter1() {
+  lblc.Caption = "";
+  lblbk.Visible = true;
+  List1.Visible = true;
+  lblc.Caption = "1";
+  const std::string stem = Stem();
+  lblbook.Caption = "";
+  lblbook.Caption = stem;
+}
+
+void Reader::StepToNextChapter() { GoToChapter(text::NumberText(text::NumberValue(Chapter()) + 1)); }
+
+void Reader::NameBook(const std::string& name) { lblbk.Caption = name; }
+
+void Reader::ClearPosition() {
+  lblc.Caption = "";
+  lblbk.Caption = "";
+  lblbook.Caption = "";
+}
+
+void Reader::ShowGenesis() {
+  lblbk.Caption = "Genesis";
+  lblbook.Caption = "Genesis";
+  const base::Ignoring ignore;
+  ignore([&] { Reload("1"); });
+  LoadChapterRange();
+  BookChanged();
 }
 
 }  // namespace lectern::reader

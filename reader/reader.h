@@ -1,15 +1,22 @@
-// Where the reader is, and the controls that show it. These few labels are all that the program knows of
-// its position, and every feature that moves the reader writes them:
+// Where the reader is, and the way from there to the text on the screen.
 //
-//   lblc = ""; lblbook = stem; lblbk = name; lblc = chapter
+// Three labels hold the position: lblbook, the stem of the book's file, lblbk, the name as it is shown, and
+// lblc, the chapter. Writing another value runs the label's Change handler before the write returns:
 //
-// The first write makes the last one a change also where the chapter is the same, and the last one loads
-// the chapter (ChapterStore). While lblc is "" the other two are mere notes. Whoever wants the chapter
-// bar and the picture lists to follow writes lblbk while lblc is not empty, with lblbook blank meanwhile,
-// so that nothing of the old book is loaded (Navigation does).
+//   lblc     loads the chapter of lblbook's file, and moves what follows the chapter; with lblc or lblbook
+//            empty it loads nothing
+//   lblbk    while lblc is not empty: sends the chapter bar to 1, and with it lblc, sets the bar's range, and
+//            fills the picture lists; while lblc is empty it does nothing
+//   lblbook  does nothing
+//
+// So the order of the writes decides what follows and what stays as it was. Each order that the features want
+// is one of the functions below. Nobody else writes the three labels.
 #pragma once
 
+#include <deque>
 #include <functional>
+#include <string>
+#include <string_view>
 
 #include "forms/buttons.h"
 #include "forms/folder_lists.h"
@@ -19,19 +26,71 @@
 #include "forms/scroll_bar.h"
 #include "forms/timer.h"
 #include "forms/window.h"
+#include "reader/chapter_store.h"
 #include "reader/panels.h"
+#include "reader/versions.h"
 
 namespace lectern::reader {
 
 class Reader {
  public:
-  Reader(forms::Window& form, Panels& panels);
+  Reader(forms::Window& window, Panels& panels);
 
-  // The file of a book in the version that is set: "…\KJV\Exodus.txt", "…\NEW\NExodus.txt".
+  // The position. A jump that is under way leaves the chapter empty for a moment.
+  const std::string& Stem() const { return lblbook.Caption; }
+  const std::string& Book() const { return lblbk.Caption; }
+  const std::string& Chapter() const { return lblc.Caption; }
+
+  // What the pane shows, which differs from the position where a load failed.
+  const ShownChapter& Shown() const { return chapter_store_.Shown(); }
+
+  // Opens chapter 1 of a book of the list. Everything follows: the chapter bar and its range, the picture
+  // lists, the text. The open search panel keeps the bar where it is.
+  void OpenBook(const std::string& name);
+
+  // Loads a chapter of the open book, also the one that is shown.
+  void Reload(const std::string& chapter);
+
+  // Moves to a chapter of the open book; where it is shown already, nothing happens.
+  void GoToChapter(const std::string& chapter);
+
+  // Shows a chapter of any book. The range of the chapter bar and the picture lists stay those of the book
+  // before; the bar moves where its range allows it.
+  void ShowPassage(const std::string& book, const std::string& chapter);
+
+  // The same for an entry of a search, whose name ends in the blank that stands in front of its chapter. The
+  // name keeps the blank, so that no chapter count is found and the bar keeps its range, but the picture
+  // lists are filled anew. The open search panel keeps the bar from going back to chapter 1.
+  void ShowFoundPassage(const std::string& name_with_blank, const std::string& chapter);
+
+  // Goes to a book with its chapter written first. The chapter loads in the book before, and the name that
+  // follows goes back to chapter 1; only with the search panel open does that text stay.
+  void ShowChapterThenBook(const std::string& book, const std::string& chapter);
+
+  // Goes to the place of the bookmark in hand. Everything follows; chapter 1 of the book loads on the way.
+  void RestoreBookmark();
+
+  // Goes back to chapter 1 of the open book and reloads it, as the search and the concordance do when they
+  // close; what they may have hidden is shown again.
+  void ReturnToChapter1();
+
+  // Moves one chapter on. Nothing stops it behind the last one.
+  void StepToNextChapter();
+
+  // Writes the book's name alone: the bar, its range and the picture lists follow the name, and the text is
+  // chapter 1 of the book before.
+  void NameBook(const std::string& name);
+
+  // For the start: no position, and then Genesis 1.
+  void ClearPosition();
+  void ShowGenesis();
+
+  // The version that is set.
+  const Version& CurrentVersion() const;
+
+  // A file of the data folder, and one of the version that is set: "…\KJV\Exodus.txt", "…\NEW\NExodus.txt".
+  std::string DataFile(std::string_view name) const;
   std::string BookFile(std::string_view stem) const;
-
-  // Shows a chapter of the version that is set by the four writes above, and no more.
-  void Show(const std::string& stem, const std::string& name, const std::string& chapter);
 
   forms::Window& form;
 
@@ -59,10 +118,23 @@ class Reader {
   forms::ControlArray<forms::Label> LBLMRK;  // the bookmark in hand: name, book, chapter
   forms::Timer tmrpic;                       // slide show of the book's pictures
 
-  // What the rooms above hang in: the picture catalogue's routines.
-  std::function<void()> ExtractBookPictures;
-  std::function<void()> FillPictureLists;
-  std::function<void()> SeekChapterPicture;
+  // Joined by the window: the picture lists for the book that lblbk names, and the picture of a chapter that
+  // was loaded. Neither raises an error.
+  std::function<void()> BookChanged;
+  std::function<void()> ChapterShown;
+
+ private:
+  void lblc_Change();
+  void lblbk_Change();
+  void lst_Click();
+  void scr_Change();
+  void List1_DblClick();
+
+  void LoadChapterRange();
+  void ChangeVersion(const Version& version);
+
+  forms::Frame& search_panel_;
+  ChapterStore chapter_store_;
 };
 
 }  // namespace lectern::reader

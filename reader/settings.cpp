@@ -62,7 +62,7 @@ Settings::Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pa
 
 void Settings::ReadSettings() {
   files::FileSlots& slots = reader_.form.Slots();
-  slots.OpenForReading(kSettings, reader_.Dir1.Path + "\\codex.cfg");
+  slots.OpenForReading(kSettings, reader_.DataFile("codex.cfg"));
   // ODDITY(default-settings-misread): the record that start-up writes into an empty file is of an older
   // layout, colour, colour, font and size, and it is read as font, size and style; it is meant.
   const std::string font(slots.ReadField(kSettings));
@@ -112,7 +112,7 @@ void Settings::oo11_Click() { panels_.Picture23.Visible = true; }
 
 void Settings::Command36_Click() {
   files::FileSlots& slots = reader_.form.Slots();
-  const std::string path = reader_.Dir1.Path + "\\codex.cfg";
+  const std::string path = reader_.DataFile("codex.cfg");
   reader_.form.Files().DeleteKeepingBackup(path);
   slots.OpenForAppending(kSettings, path);
   slots.WriteRecord(kSettings, Combo1.Text(), Combo2.Text(), Combo3.Text());

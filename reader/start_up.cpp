@@ -13,13 +13,8 @@ constexpr int kSettings = 1;  // slot
 
 }  // namespace
 
-StartUp::StartUp(Reader& the_reader, Panels& the_panels, Catalogue& the_catalogue,
-                 StartUpControls the_controls)
-    : ReadSettings([] {}),
-      reader_(the_reader),
-      panels_(the_panels),
-      catalogue_(the_catalogue),
-      controls_(the_controls) {}
+StartUp::StartUp(Reader& the_reader, Panels& the_panels, StartUpControls the_controls)
+    : ReadSettings([] {}), reader_(the_reader), panels_(the_panels), controls_(the_controls) {}
 
 void StartUp::Form_Load() {
   PlaceWindow();
@@ -33,7 +28,7 @@ void StartUp::Form_Load() {
   FillLists();
   PlacePanels();
   PlaceWindow();
-  ShowGenesis();
+  reader_.ShowGenesis();
 }
 
 void StartUp::PlaceWindow() {
@@ -53,8 +48,8 @@ void StartUp::FindFolders() {
     // A start in the folder of the data's first keeper, and there alone, reads the data from another.
     if (reader_.Dir1.Path == "C:\\a\\ide\\ID98") reader_.Dir1.Path = "C:\\CODEX";
   });
-  ignore([&] { controls_.Dirpics.Path = reader_.Dir1.Path + "\\pics"; });
-  ignore([&] { reader_.Dir3.Path = reader_.Dir1.Path + "\\KJV"; });
+  ignore([&] { controls_.Dirpics.Path = reader_.DataFile("pics"); });
+  ignore([&] { reader_.Dir3.Path = reader_.DataFile(kVersions[0].folder); });
   ignore([&] { controls_.File1.Path = reader_.Dir1.Path; });
 }
 
@@ -63,7 +58,7 @@ void StartUp::FindFolders() {
 void StartUp::LoadSettings() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
-  const std::string path = reader_.Dir1.Path + "\\codex.cfg";
+  const std::string path = reader_.DataFile("codex.cfg");
   ignore([&] { slots.OpenForAppending(kSettings, path); });
   ignore([&] {
     constexpr std::uint64_t kShortest = 3;
@@ -79,10 +74,7 @@ void StartUp::FillLists() {
   const base::Ignoring ignore;
   for (const std::string_view book : kCanon) reader_.lst.AddItem(std::string(book));
   ignore([&] { reader_.form.Slots().Close(kSettings); });
-  // With lblc empty the Change handlers of the other labels return at once.
-  for (forms::Label* label : {&reader_.lblc, &reader_.lblbk, &reader_.lblbook}) {
-    ignore([&] { label->Caption = ""; });
-  }
+  reader_.ClearPosition();
   ignore([&] { controls_.Text2.Text = ""; });
   for (int i = 0; i < reader_.LBLMRK.Count(); ++i) reader_.LBLMRK(i).Caption = "";
 
@@ -106,17 +98,6 @@ void StartUp::PlacePanels() {
     place.panel.Left = place.left;
     place.panel.Top = place.top;
   }
-}
-
-void StartUp::ShowGenesis() {
-  const base::Ignoring ignore;
-  ignore([&] { reader_.lblbk.Caption = "Genesis"; });
-  ignore([&] { reader_.lblbook.Caption = "Genesis"; });
-  ignore([&] { reader_.lblc.Caption = ""; });
-  ignore([&] { reader_.lblc.Caption = "1"; });
-  ignore([&] { catalogue_.LoadChapterRange(); });
-  ignore([&] { reader_.ExtractBookPictures(); });
-  ignore([&] { reader_.FillPictureLists(); });
 }
 
 }  // namespace lectern::reader

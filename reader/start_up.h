@@ -8,7 +8,6 @@
 #include "forms/combo_box.h"
 #include "forms/folder_lists.h"
 #include "forms/text_box.h"
-#include "reader/catalogue.h"
 #include "reader/panels.h"
 #include "reader/reader.h"
 
@@ -28,7 +27,7 @@ struct StartUpControls {
 
 class StartUp {
  public:
-  StartUp(Reader& the_reader, Panels& the_panels, Catalogue& the_catalogue, StartUpControls the_controls);
+  StartUp(Reader& the_reader, Panels& the_panels, StartUpControls the_controls);
 
   void Form_Load();
 
@@ -41,11 +40,9 @@ class StartUp {
   void LoadSettings();
   void FillLists();
   void PlacePanels();
-  void ShowGenesis();
 
   Reader& reader_;
   Panels& panels_;
-  Catalogue& catalogue_;
   StartUpControls controls_;
 };
 

@@ -1,20 +1,12 @@
 #include "reader/stories.h"
 
-#include <array>
-#include <functional>
-#include <string>
-
 #include "base/error_modes.h"
 
 namespace lectern::reader {
 
 namespace {
 
-enum class Order {
-  kStemFirst,
-  kNameFirst,
-  kChapterFirst,  // the chapter before the book
-};
+enum class Order { kBookFirst, kChapterFirst };
 
 enum class Failures { kLeave, kIgnore };
 
@@ -37,14 +29,14 @@ struct Story {
   const char* control;
   const char* book;  // for both labels
   const char* chapter;
-  Order order = Order::kStemFirst;
+  Order order = Order::kBookFirst;
   Failures failures = Failures::kLeave;
 };
 
 namespace {
 
 constexpr Story kStories[] = {
-    {"dd2", "Adam and Eve", "ss3", "Genesis", "2", Order::kNameFirst},
+    {"dd2", "Adam and Eve", "ss3", "Genesis", "2"},
     {"dd2", "Cain and Abel", "sss4", "Genesis", "4"},
     {"dd2", "The Tower of Babel", "ss4", "Genesis", "11"},
 
@@ -52,7 +44,7 @@ constexpr Story kStories[] = {
     {"dd3", "Three Visitors", "ss5", "Genesis", "18"},
     {"dd3", "Tested", "ss6", "Genesis", "22"},
 
-    {"dd4", "The Flood", "ss7", "Genesis", "6", Order::kNameFirst},
+    {"dd4", "The Flood", "ss7", "Genesis", "6"},
     {"dd4", "Noah's Ark", "sss8", "Genesis", "6"},
     {"dd4", "God's Covenent", "ss2", "Genesis", "9"},
 
@@ -61,15 +53,15 @@ constexpr Story kStories[] = {
     {"ddd8", "Crossing the Sea", "ss9", "Exodus", "13"},
     {"ddd8", "At Sinia", "sss1", "Exodus", "19"},
 
-    {"dd5", "And Samuel", "aaa3", "1-Samuel", "16", Order::kStemFirst, Failures::kIgnore},
+    {"dd5", "And Samuel", "aaa3", "1-Samuel", "16", Order::kBookFirst, Failures::kIgnore},
     {"dd5", "And Goliath", "sss3", "1-Samuel", "17"},
-    {"dd5", "And Saul", "aaa4", "1-Samuel", "19", Order::kStemFirst, Failures::kIgnore},
-    {"dd5", "Becomes a King", "aaa5", "2-Samuel", "5", Order::kStemFirst, Failures::kIgnore},
+    {"dd5", "And Saul", "aaa4", "1-Samuel", "19", Order::kBookFirst, Failures::kIgnore},
+    {"dd5", "Becomes a King", "aaa5", "2-Samuel", "5", Order::kBookFirst, Failures::kIgnore},
 
     // ODDITY(peter-at-samuel): this entry goes where "And Samuel" goes; it is meant.
     {"dd6", "Disowns Jesus", "ddd1", "1-Samuel", "16"},
-    {"dd6", "Reinstated", "aaa9", "John", "21", Order::kStemFirst, Failures::kIgnore},
-    {"dd6", "Heals a Beggar", "aaa8", "Acts", "3", Order::kStemFirst, Failures::kIgnore},
+    {"dd6", "Reinstated", "aaa9", "John", "21", Order::kBookFirst, Failures::kIgnore},
+    {"dd6", "Heals a Beggar", "aaa8", "Acts", "3", Order::kBookFirst, Failures::kIgnore},
     {"dd6", "Escaping from Prison", "sss7", "Acts", "12"},
 
     {"dd7", "First Journey", "dddd5", "Acts", "13"},
@@ -104,26 +96,22 @@ Stories::Stories(Reader& the_reader, Menus& menus) : reader_(the_reader) {
   }
 }
 
-// ODDITY(story-keeps-range): the book is named while lblc is empty, so that the chapter bar keeps the range
-// of the book before; it is meant.
+// ODDITY(story-keeps-range): the chapter bar keeps the range of the book before; it is meant.
 void Stories::Entry_Click(const Story& story) {
-  const auto blank = [&] { reader_.lblc.Caption = ""; };
-  const auto stem = [&] { reader_.lblbook.Caption = story.book; };
-  const auto name = [&] { reader_.lblbk.Caption = story.book; };
-  const auto chapter = [&] { reader_.lblc.Caption = story.chapter; };
-  using Steps = std::array<std::function<void()>, 4>;
-  Steps steps{blank, stem, name, chapter};
-  if (story.order == Order::kNameFirst) steps = Steps{blank, name, stem, chapter};
-  // ODDITY(story-first-chapter): with the chapter first, it loads in the book before, and the name that comes
-  // behind it goes back to chapter 1, whatever chapter the entry is for; it is meant.
-  if (story.order == Order::kChapterFirst) steps = Steps{blank, chapter, stem, name};
-  const base::Ignoring ignore;
-  for (const std::function<void()>& step : steps) {
-    if (story.failures == Failures::kIgnore) {
-      ignore(step);
+  const auto show = [&] {
+    if (story.order == Order::kBookFirst) {
+      reader_.ShowPassage(story.book, story.chapter);
     } else {
-      step();
+      // ODDITY(story-first-chapter): the name goes back to chapter 1, whatever chapter the entry is for; it
+      // is meant.
+      reader_.ShowChapterThenBook(story.book, story.chapter);
     }
+  };
+  const base::Ignoring ignore;
+  if (story.failures == Failures::kIgnore) {
+    ignore(show);
+  } else {
+    show();
   }
 }
 

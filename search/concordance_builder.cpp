@@ -81,7 +81,7 @@ void ConcordanceBuilder::Timer2_Timer() {
 
 void ConcordanceBuilder::LoadWords() {
   files::FileSlots& slots = reader_.form.Slots();
-  slots.OpenForReading(kWords, reader_.Dir1.Path + "\\conc.txt");
+  slots.OpenForReading(kWords, reader_.DataFile("conc.txt"));
   while (!slots.EndOfFile(kWords)) List2.AddItem(std::string(slots.ReadLine(kWords)));
   slots.Close(kWords);
 }
@@ -103,7 +103,7 @@ void ConcordanceBuilder::List2_Click() {
   if (selected >= 0) Text2.Text = List2.List(selected);
   files::FileSlots& slots = reader_.form.Slots();
   std::string fields[3];
-  slots.OpenForReading(kBookmarks, reader_.Dir1.Path + "\\BKMK.DAT");
+  slots.OpenForReading(kBookmarks, reader_.DataFile("BKMK.DAT"));
   while (!slots.EndOfFile(kBookmarks)) {
     for (std::string& field : fields) field = slots.ReadField(kBookmarks);
     if (Text2.Text != fields[0]) continue;
@@ -111,7 +111,7 @@ void ConcordanceBuilder::List2_Click() {
     break;
   }
   slots.Close(kBookmarks);
-  reader_.lblbk.Caption = fields[1];
+  reader_.NameBook(fields[1]);
 }
 
 }  // namespace lectern::search

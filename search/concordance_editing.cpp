@@ -57,7 +57,7 @@ void ConcordanceEditing::AddEntry(const std::string& text) {
 
 void ConcordanceEditing::Command21_Click() {
   const std::string path = ConcordanceFile(reader_);
-  const std::string work_file = reader_.Dir1.Path + "\\concord1.dat";
+  const std::string work_file = reader_.DataFile("concord1.dat");
   files::FileSlots& slots = reader_.form.Slots();
   const int selected = viewer_.lstc.SelectedIndex();
   if (selected >= 0) results_.LBLCC.Caption = viewer_.lstc.List(selected);
@@ -99,8 +99,8 @@ void ConcordanceEditing::CopyOtherWords(const std::string& word) {
 void ConcordanceEditing::Command18_Click() {
   constexpr int kStop = 5;
   files::FileSlots& slots = reader_.form.Slots();
-  slots.OpenForReading(kConcordance, reader_.Dir1.Path + "\\CONCORD2.DAT");
-  slots.OpenForAppending(kWorkFile, reader_.Dir1.Path + "\\CONCORD22.DAT");
+  slots.OpenForReading(kConcordance, reader_.DataFile(reader::kVersions[1].concordance));
+  slots.OpenForAppending(kWorkFile, reader_.DataFile("CONCORD22.DAT"));
   while (!slots.EndOfFile(kConcordance) && search_.SearchBookIndex != kStop) {
     const std::string word(slots.ReadField(kConcordance));
     const std::string_view reference = slots.ReadField(kConcordance);

@@ -5,7 +5,7 @@
 namespace lectern::search {
 
 std::string ConcordanceFile(const reader::Reader& reader) {
-  return reader.Dir1.Path + (reader.optk.Value ? "\\CONCORD.DAT" : "\\CONCORD2.DAT");
+  return reader.DataFile(reader.CurrentVersion().concordance);
 }
 
 // ODDITY(concordance-limit): the words behind the limit are not shown, without a word about it; being counted

@@ -108,21 +108,14 @@ void ConcordanceViewer::lstc_Click() {
 void ConcordanceViewer::lstc2_Click() {
   const std::optional<Passage> passage = ParseReference(lstc2.List(lstc2.SelectedIndex()));
   if (!passage) return;
-  reader_.Show(passage->book, passage->book, passage->chapter);
+  reader_.ShowPassage(passage->book, passage->chapter);
   HighlightText(reader_.rtxt, lblw.Caption(), kMarkColour);
 }
 
 void ConcordanceViewer::Command9_Click() {
   lstc.Clear();
-  reader_.lblc.Caption = "";
-  reader_.lblbk.Visible = true;
-  reader_.List1.Visible = true;
-  // As with the search, closing lands on chapter 1.
-  reader_.lblc.Caption = "1";
+  reader_.ReturnToChapter1();
   panels_.frmc.Visible = false;
-  const std::string stem = reader_.lblbook.Caption;
-  reader_.lblbook.Caption = "";
-  reader_.lblbook.Caption = stem;
   tools_.Enable();
 }
 

@@ -37,7 +37,7 @@ Dictionary::Dictionary(reader::Reader& the_reader, reader::Panels& the_panels, r
   Command19.Click = [this] { Command19_Click(); };
 }
 
-std::string Dictionary::DataFile() const { return reader_.Dir1.Path + "\\cdxdic.dat"; }
+std::string Dictionary::DataFile() const { return reader_.DataFile("cdxdic.dat"); }
 
 // ODDITY(dictionary-grows): the list is not cleared first, so that each opening adds all words once more; it
 // is meant.

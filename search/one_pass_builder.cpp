@@ -3,6 +3,7 @@
 #include "base/text/characters.h"
 #include "base/text/letter_case.h"
 #include "base/text/numbers.h"
+#include "reader/canon.h"
 #include "search/text_scan.h"
 
 namespace lectern::search {
@@ -29,14 +30,15 @@ OnePassBuilder::OnePassBuilder(reader::Reader& the_reader, reader::Panels& panel
 void OnePassBuilder::Command13_Click() {
   files::FileSlots& slots = reader_.form.Slots();
   builder_.List2.Clear();
-  slots.OpenForReading(kBook, reader_.Dir1.Path + "\\conc.txt");
+  slots.OpenForReading(kBook, reader_.DataFile("conc.txt"));
   while (!slots.EndOfFile(kBook)) builder_.List2.AddItem(std::string(slots.ReadLine(kBook)));
   slots.Close(kBook);
   builder_.pbar2.Max = builder_.List2.ListCount();
   builder_.pbar2.Value = 0;
   // Whatever version is set.
-  reader_.form.Files().DeleteKeepingBackup(reader_.Dir1.Path + "\\concord.dat");
-  slots.OpenForAppending(kTarget, reader_.Dir1.Path + "\\concord.dat");
+  const std::string target = reader_.DataFile(text::Lower(reader::kVersions[0].concordance));
+  reader_.form.Files().DeleteKeepingBackup(target);
+  slots.OpenForAppending(kTarget, target);
   char32_t next = 0;  // lives through the whole click
   for (int i = 0; i < builder_.List2.ListCount(); ++i) {
     builder_.pbar2.Value = builder_.pbar2.Value + 1;
@@ -62,9 +64,8 @@ void OnePassBuilder::LookUp(const std::string& word, char32_t& next) {
     // Set to whether it stands at 1, so that it never leaves 0; it is meant.
     pbar3.Value = pbar3.Value == 1 ? kTruth : 0;
     search_.text7.Caption = reader_.lst.List(search_.SearchBookIndex + 1);
-    constexpr std::size_t kShortName = 8;
-    const std::string name(text::Left(book, kShortName));
-    slots.OpenForReading(kBook, reader_.Dir1.Path + "\\" + name + ".txt");
+    const std::string name = reader::ShortStem(book);
+    slots.OpenForReading(kBook, reader_.DataFile(name + ".txt"));
     const LineRules rules{ScanKind::kOnePass, text::Length(search_.wrd.Caption())};
     TakeFindings(word, book, ScanText(slots.ReadRest(kBook), terms, name, rules, next));
     slots.Close(kBook);

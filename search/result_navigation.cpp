@@ -18,14 +18,7 @@ void ResultNavigation::lsts_Click() {
   reader_.List1.Clear();
   const std::optional<Entry> entry = ParseEntry(LBLCC.Caption());
   if (!entry) return;
-  reader_.lblc.Caption = "";  // the next two writes load nothing yet
-  reader_.lblbook.Caption = entry->book;
-  reader_.lblbk.Caption = entry->book;
-  reader_.lblc.Caption = entry->chapter;
-  // ODDITY(blank-behind-the-book): the name gets its trailing blank, so that the catalogue does not know the
-  // book and the chapter bar keeps the range of the one before; it is meant.
-  reader_.lblbk.Caption = "";
-  reader_.lblbk.Caption = entry->book_with_blank;
+  reader_.ShowFoundPassage(entry->book_with_blank, entry->chapter);
   search_.lsts.MousePointer = forms::kPointerDefault;
   HighlightText(reader_.rtxt, search_.txts.Text(), kMarkColour);
   if (search_.txts2.Text != "") HighlightText(reader_.rtxt, search_.txts2.Text(), kMarkColour);

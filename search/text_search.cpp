@@ -104,7 +104,7 @@ void TextSearch::Command22_Click() {
 
 void TextSearch::ScanOpenBook() {
   files::FileSlots& slots = reader_.form.Slots();
-  const std::string& book = reader_.lblbook.Caption;
+  const std::string& book = reader_.Stem();
   slots.OpenForReading(kBook, reader_.BookFile(book));
   const ScanFindings findings =
       ScanText(slots.ReadRest(kBook), Terms(txts.Text(), txts2.Text()), book, {ScanKind::kBook, 0});
@@ -163,18 +163,11 @@ void TextSearch::Command15_Click() {
 // is meant.
 void TextSearch::Command20_Click() {
   tmrb.Enabled = false;
-  reader_.lblc.Caption = "";
-  reader_.lblbk.Visible = true;
   lsts.Clear();
-  reader_.List1.Visible = true;
-  reader_.lblc.Caption = "";
-  reader_.lblc.Caption = "1";
+  reader_.ReturnToChapter1();
   panels_.frms.Visible = false;
   panels_.frmscale.Visible = false;
   Command22.MousePointer = kPointerDefault;
-  const std::string stem = reader_.lblbook.Caption;
-  reader_.lblbook.Caption = "";
-  reader_.lblbook.Caption = stem;
   tools_.Enable();
 }
 

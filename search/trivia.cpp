@@ -30,7 +30,7 @@ Trivia::Trivia(reader::Reader& the_reader, reader::Panels& the_panels, reader::T
   Command28.Click = [this] { Command28_Click(); };
 }
 
-std::string Trivia::DataFile() const { return reader_.Dir1.Path + "\\codex.trv"; }
+std::string Trivia::DataFile() const { return reader_.DataFile("codex.trv"); }
 
 void Trivia::ReadRecord(Record& record) {
   files::FileSlots& slots = reader_.form.Slots();

@@ -14,9 +14,7 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
       second_pane_(panels_),
       settings_(reader_, panels_, second_pane_, menus_, tools_),
       error_report_(reader_),
-      chapter_store_(reader_),
-      catalogue_(reader_),
-      navigation_(reader_, panels_, catalogue_),
+      chapter_counts_(reader_),
       stories_(reader_, menus_),
       text_search_(reader_, panels_, tools_, menus_),
       result_navigation_(reader_, panels_, text_search_),
@@ -38,7 +36,7 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
       old_catalogue_(pictures_, viewer_),
       older_list_(pictures_, panels_),
       book_converter_(panels_),
-      start_up_(reader_, panels_, catalogue_,
+      start_up_(reader_, panels_,
                 {pictures_.Dirpics, bookmarks_.File1, maintenance_.Command26, page_printing_.Command30,
                  concordance_builder_.Text2, settings_.Combo1, settings_.Combo2, settings_.Combo3}),
       exits_(reader_, menus_, tools_, {settings_.Combo1, settings_.Combo2, settings_.Combo3}) {
@@ -47,10 +45,9 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
   text_search_.ShowHelpNote = [this](const std::string& text) { help_.ShowNote(text); };
   viewer_.OpenPaint = [this, open_paint = others.OpenPaint] { open_paint(viewer_.pick.Picture); };
   maintenance_.HelpChangingBook = [this] { help_.HelpChangingBook(); };
-  reader_.ExtractBookPictures = [this] { pictures_.ExtractBookPictures(); };
-  reader_.FillPictureLists = [this] { pictures_.FillPictureLists(); };
-  reader_.SeekChapterPicture = [this] { pictures_.SeekChapterPicture(); };
-  reader_.rtxt.Quote = [this] { return QuotationFrom(reader_.rtxt, chapter_store_.Shown()); };
+  reader_.BookChanged = [this] { pictures_.ListBookPictures(); };
+  reader_.ChapterShown = [this] { pictures_.SeekChapterPicture(); };
+  reader_.rtxt.Quote = [this] { return QuotationFrom(reader_.rtxt, reader_.Shown()); };
   routines["ConvertPicsDat"] = [this](const std::string&) { old_catalogue_.ConvertPicsDat(); };
   routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue_.ShowPicsDatPicture(); };
   routines["ListChapterPictures"] = [this](const std::string&) { older_list_.ListChapterPictures(); };

@@ -15,12 +15,10 @@
 #include "gallery/older_list.h"
 #include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"
-#include "reader/catalogue.h"
-#include "reader/chapter_store.h"
+#include "reader/chapter_counts.h"
 #include "reader/error_report.h"
 #include "reader/exits.h"
 #include "reader/menus.h"
-#include "reader/navigation.h"
 #include "reader/panels.h"
 #include "reader/reader.h"
 #include "reader/second_pane.h"
@@ -66,9 +64,7 @@ class Form1 : public forms::Window {
   reader::SecondPane second_pane_;
   reader::Settings settings_;
   reader::ErrorReport error_report_;
-  reader::ChapterStore chapter_store_;
-  reader::Catalogue catalogue_;
-  reader::Navigation navigation_;
+  reader::ChapterCounts chapter_counts_;
   reader::Stories stories_;
   search::TextSearch text_search_;
   search::ResultNavigation result_navigation_;

@@ -1,0 +1,56 @@
+#include "reader/chapter_counts.h"
+
+#include "base/error_modes.h"
+#include "base/text/letter_case.h"
+#include "base/text/numbers.h"
+#include "reader/canon.h"
+#include "reader/reader.h"
+
+namespace lectern::reader {
+
+namespace {
+
+constexpr int kRead = 1;  // slots
+constexpr int kWrite = 2;
+
+}  // namespace
+
+std::optional<int> ChapterCount(forms::Window& form, std::string_view path, std::string_view book) {
+  const base::Ignoring ignore;
+  files::FileSlots& slots = form.Slots();
+  std::optional<int> found;
+  ignore([&] { slots.OpenForReading(kRead, path); });
+  while (slots.IsOpen(kRead) && !slots.EndOfFile(kRead)) {
+    ignore([&] {
+      const std::string name(slots.ReadField(kRead));
+      const std::string_view count = slots.ReadField(kRead);
+      if (text::EqualFolded(name, book)) found = text::IntegerValue(count);
+    });
+  }
+  ignore([&] { slots.Close(kRead); });
+  return found;
+}
+
+ChapterCounts::ChapterCounts(Reader& the_reader)
+    : reader_(the_reader), Command12(reader_.form, "Command12", {.caption = "make baokschap.txt"}) {
+  Command12.Click = [this] { Command12_Click(); };
+}
+
+// Reads from the data folder itself and by names cut to eight characters, unlike every other reader.
+void ChapterCounts::Command12_Click() {
+  files::FileSlots& slots = reader_.form.Slots();
+  for (int i = 0; i < reader_.lst.ListCount(); ++i) {
+    const std::string& name = reader_.lst.List(i);
+    int count = 0;
+    slots.OpenForReading(kRead, reader_.DataFile(ShortStem(name) + ".txt"));
+    while (!slots.EndOfFile(kRead)) {
+      if (slots.ReadLine(kRead).starts_with("Chap")) ++count;
+    }
+    slots.Close(kRead);
+    slots.OpenForAppending(kWrite, reader_.DataFile("bookschap.txt"));
+    slots.WriteRecord(kWrite, name, count);
+    slots.Close(kWrite);
+  }
+}
+
+}  // namespace lectern::reader

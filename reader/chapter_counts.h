@@ -1,0 +1,30 @@
+// How many chapters each book has: the file `bookschap.txt`, with a record for each book, its name in quotes
+// and the count.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "forms/buttons.h"
+#include "forms/window.h"
+
+namespace lectern::reader {
+
+class Reader;
+
+class ChapterCounts {
+ public:
+  explicit ChapterCounts(Reader& the_reader);
+
+ private:
+  void Command12_Click();
+
+  Reader& reader_;
+  forms::CommandButton Command12;  // makes the file, for preparing the data
+};
+
+// The number of chapters of a book, whose name is compared without regard to case; nothing where the file has
+// no record of it or cannot be read. Of several records the last one that holds a number counts.
+std::optional<int> ChapterCount(forms::Window& form, std::string_view path, std::string_view book);
+
+}  // namespace lectern::reader
