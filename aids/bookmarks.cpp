@@ -44,7 +44,7 @@ Bookmarks::Bookmarks(reader::Reader& the_reader, reader::Panels& the_panels, rea
                      reader::Menus& menus)
     : Label19_3(the_panels.Picture1, "Label19", {.caption = "BOOK MARKER"}),
       C_4(the_panels.Picture1, "C", {.caption = "Chapter"}),
-      File1(the_panels.Picture1, "File1", {.pattern = "*.bkm", .name = "Bookmarks"}),
+      File1(the_panels.Picture1, "File1", {.name = "Bookmarks", .pattern = "*.bkm"}),
       Command5(the_panels.Picture1, "Command5", {.caption = "Open", .is_default = true}),
       Command6(the_panels.Picture1, "Command6", {.caption = "Update"}),
       Command10(the_panels.Picture1, "Command10", {.caption = "New"}),

@@ -31,7 +31,7 @@ Help::Help(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolB
              {.caption = "Dictionary", .fore_color = kLink},
              {.caption = "Trivia", .fore_color = kLink},
              {.caption = "Paint", .fore_color = kLink}}),
-      txthelp(the_panels.frmhelp, "txthelp", {.read_only = true, .name = "Help text"}),
+      txthelp(the_panels.frmhelp, "txthelp", {.name = "Help text", .read_only = true}),
       Command4(the_panels.frmhelp, "Command4", {.caption = "Close", .is_cancel = true}),
       Command44(the_panels.frmhelp, "Command44",
                 {.caption = "Close", .name = "Close, and unlock the tool buttons"}),

@@ -5,8 +5,7 @@
 namespace lectern::forms {
 
 Option::Option(Container& parent, Kind kind, std::string name, const Design& design)
-    : Button(parent, kind, std::move(name), design),
-      Value(*this, "Value", design.value != 0, {.change = [this] {
+    : Button(parent, kind, std::move(name), design), Value(*this, "Value", design.checked, {.change = [this] {
         if (!Value) return;
         for (Control* sibling : Parent().Children()) {
           if (auto* other = dynamic_cast<Option*>(sibling); other != nullptr && other != this) {

@@ -7,9 +7,26 @@
 
 namespace lectern::forms {
 
+struct ButtonDesign {
+  std::string_view caption{};
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+  bool is_default = false;
+  bool is_cancel = false;
+};
+
+struct OptionDesign {
+  std::string_view caption{};
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+  bool checked = false;
+};
+
 class Button : public TextControl {
  public:
-  Button(Container& parent, Kind kind, std::string name, const Design& design)
+  Button(Container& parent, Kind kind, std::string name, const CommonDesign& design)
       : TextControl(parent, kind, std::move(name), design),
         Caption(*this, "Caption", std::string(design.caption)) {}
 
@@ -18,6 +35,8 @@ class Button : public TextControl {
 
 class CommandButton : public Button {
  public:
+  using Design = ButtonDesign;
+
   CommandButton(Container& parent, std::string name, const Design& design = {})
       : Button(parent, Kind::kCommandButton, std::move(name), design) {}
 };
@@ -25,6 +44,8 @@ class CommandButton : public Button {
 // The three-dimensional button; a person's press is all that matters of it.
 class SSCommand : public Button {
  public:
+  using Design = ButtonDesign;
+
   SSCommand(Container& parent, std::string name, const Design& design = {})
       : Button(parent, Kind::kSSCommand, std::move(name), design), Picture(*this, "Picture") {}
 
@@ -34,6 +55,8 @@ class SSCommand : public Button {
 // Setting one clears the others of its panel. A person's click sets it and counts even where it is set.
 class Option : public Button {
  public:
+  using Design = OptionDesign;
+
   Option(Container& parent, Kind kind, std::string name, const Design& design);
 
   void PersonClicks() override;

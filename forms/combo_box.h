@@ -8,11 +8,20 @@
 
 namespace lectern::forms {
 
+struct ComboBoxDesign {
+  std::string_view text{};
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+};
+
 class ComboBox : public TextControl {
  public:
+  using Design = ComboBoxDesign;
+
   ComboBox(Container& parent, std::string name, const Design& design = {})
       : TextControl(parent, Kind::kComboBox, std::move(name), design),
-        Text(*this, "Text", std::string(design.caption)) {
+        Text(*this, "Text", std::string(design.text)) {
     BackColor = kWindowBackground;
     ForeColor = kWindowText;
   }

@@ -66,7 +66,7 @@ std::string Spoken(std::string_view caption) {
 
 }  // namespace
 
-Control::Control(Container& parent, Kind kind, std::string name, const Design& design)
+Control::Control(Container& parent, Kind kind, std::string name, const CommonDesign& design)
     : Enabled(*this, "Enabled", design.enabled),
       Visible(*this, "Visible", design.visible,
               {.change =
@@ -134,7 +134,7 @@ void Control::PersonKeys(int code) {
   if (code == kEscapeKey) HostWindow().PressCancelOfFrontPanel();
 }
 
-PlacedControl::PlacedControl(Container& parent, Kind kind, std::string name, const Design& design)
+PlacedControl::PlacedControl(Container& parent, Kind kind, std::string name, const CommonDesign& design)
     : Control(parent, kind, std::move(name), design),
       Left(*this, "Left"),
       Top(*this, "Top"),
@@ -146,7 +146,7 @@ PlacedControl::PlacedControl(Container& parent, Kind kind, std::string name, con
 
 void PlacedControl::SetFocus() { HostWindow().GiveFocus(*this); }
 
-TextControl::TextControl(Container& parent, Kind kind, std::string name, const Design& design)
+TextControl::TextControl(Container& parent, Kind kind, std::string name, const CommonDesign& design)
     : PlacedControl(parent, kind, std::move(name), design),
       FontName(*this, "FontName"),
       FontSize(*this, "FontSize", 0,

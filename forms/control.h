@@ -55,29 +55,39 @@ enum class Kind {
 
 const char* KindName(Kind kind);
 
-// The state a control is made with, before any handler runs; what a kind has no use for is passed over.
-struct Design {
+// The state that a control is made with, before any handler runs, is an aggregate of its kind's own, such as
+// LabelDesign or TimerDesign. This is the part of it that the kinds have in common.
+struct CommonDesign {
+  template <class KindsDesign>
+  CommonDesign(const KindsDesign& design) {  // NOLINT: a kind hands its own design on
+    if constexpr (requires { design.caption; }) caption = design.caption;
+    if constexpr (requires { design.text; }) caption = design.text;
+    if constexpr (requires { design.visible; }) visible = design.visible;
+    if constexpr (requires { design.enabled; }) enabled = design.enabled;
+    if constexpr (requires { design.name; }) name = design.name;
+    if constexpr (requires { design.is_echo; }) is_echo = design.is_echo;
+    if constexpr (requires { design.is_default; }) is_default = design.is_default;
+    if constexpr (requires { design.is_cancel; }) is_cancel = design.is_cancel;
+    if constexpr (requires { design.back_color; }) back_color = design.back_color;
+    if constexpr (requires { design.fore_color; }) fore_color = design.fore_color;
+  }
+
   std::string_view caption{};  // or the text of a box
   bool visible = true;
   bool enabled = true;
-  bool sorted = false;      // a list that keeps itself in order
-  bool multi_line = false;  // a text box of several lines
-  bool read_only = false;   // a person may select and copy, not edit
-  int value = 0;            // of a scroll bar, a progress bar, an option (0 or 1)
-  int min = 0;
-  int max = 0;
-  int large_step = 1;  // how far a click into a scroll bar's trough goes
-  int interval = 0;    // of a timer, milliseconds
-  std::string_view pattern = "*";
-  std::string_view shortcut{};  // of a menu entry, such as "Ctrl+S"
-  std::string_view key_back{};  // steps a scroll bar back, wherever the focus is, such as "Ctrl+PgUp"
-  std::string_view key_on{};    // the same for a step on
-  std::string_view name{};      // what a screen reader says; the caption where empty
-  bool is_echo = false;         // shows what another control says already, and is not read out
-  bool is_default = false;      // the button that Enter presses in its panel
-  bool is_cancel = false;       // the button that Escape presses in its panel
+  std::string_view name{};  // what a screen reader says; the caption where empty
+  bool is_echo = false;     // repeats what another control says, and is not read out
+  bool is_default = false;  // the button that Enter presses in its panel
+  bool is_cancel = false;   // the button that Escape presses in its panel
   Colour back_color = kButtonFace;
   Colour fore_color = kButtonText;
+};
+
+// The design of kinds that add nothing to the common part.
+struct PlainDesign {
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
 };
 
 // A press or a movement of the mouse over a control, in the control's own scale.
@@ -113,7 +123,7 @@ class Container {
 
 class Control : public PropertyOwner {
  public:
-  Control(Container& parent, Kind kind, std::string name, const Design& design);
+  Control(Container& parent, Kind kind, std::string name, const CommonDesign& design);
   ~Control() override;
 
   Kind GetKind() const { return kind_; }
@@ -179,7 +189,7 @@ class Control : public PropertyOwner {
 // A control that has a place on the window; menus and timers have none.
 class PlacedControl : public Control {
  public:
-  PlacedControl(Container& parent, Kind kind, std::string name, const Design& design);
+  PlacedControl(Container& parent, Kind kind, std::string name, const CommonDesign& design);
 
   void SetFocus();
 
@@ -199,7 +209,7 @@ class PlacedControl : public Control {
 // have; any name is taken, and the system shows the nearest font it has.
 class TextControl : public PlacedControl {
  public:
-  TextControl(Container& parent, Kind kind, std::string name, const Design& design);
+  TextControl(Container& parent, Kind kind, std::string name, const CommonDesign& design);
 
   Property<std::string> FontName;
   RuledProperty<double> FontSize;  // points
@@ -211,9 +221,10 @@ class TextControl : public PlacedControl {
 template <class Kind>
 class ControlArray {
  public:
-  template <class... Arguments>
-  ControlArray(Container& parent, const char* name, int count, const Arguments&... arguments) {
-    for (int i = 0; i < count; ++i) Add(parent, name, Design{}, arguments...);
+  using Design = typename Kind::Design;
+
+  ControlArray(Container& parent, const char* name, int count) {
+    for (int i = 0; i < count; ++i) Add(parent, name, {});
   }
   // One control for each design, in order.
   ControlArray(Container& parent, const char* name, std::initializer_list<Design> designs) {

@@ -12,6 +12,8 @@ namespace lectern::forms {
 // Writing a Path that is no folder is refused (error 76).
 class DirListBox : public TextControl {
  public:
+  using Design = PlainDesign;
+
   DirListBox(Container& parent, std::string name, const Design& design = {});
 
   // What the list shows: the folders from the root down to Path, then those inside it.
@@ -32,6 +34,8 @@ class DirListBox : public TextControl {
 // Lists one drive, the root of the file system, on systems without drive letters.
 class DriveListBox : public TextControl {
  public:
+  using Design = PlainDesign;
+
   DriveListBox(Container& parent, std::string name, const Design& design = {});
 
   std::vector<std::string> Drives() const { return {"/"}; }
@@ -42,10 +46,19 @@ class DriveListBox : public TextControl {
   Event<> Change;
 };
 
+struct FileListBoxDesign {
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+  std::string_view pattern = "*";
+};
+
 // The files of a folder whose names fit the pattern, in order of name. Writing Path or Pattern reads the
 // folder anew, as Refresh does; the selection goes with the old list.
 class FileListBox : public ItemList {
  public:
+  using Design = FileListBoxDesign;
+
   FileListBox(Container& parent, std::string name, const Design& design = {});
 
   void Refresh();

@@ -5,8 +5,17 @@
 
 namespace lectern::forms {
 
+struct FrameDesign {
+  std::string_view caption{};
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+};
+
 class Frame : public TextControl, public Container {
  public:
+  using Design = FrameDesign;
+
   Frame(Container& parent, std::string name, const Design& design = {})
       : TextControl(parent, Kind::kFrame, std::move(name), design),
         Caption(*this, "Caption", std::string(design.caption)) {}

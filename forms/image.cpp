@@ -9,7 +9,7 @@ namespace lectern::forms {
 Image::Image(Container& parent, std::string name, const Design& design)
     : PlacedControl(parent, Kind::kImage, std::move(name), design),
       Picture(*this, "Picture", {}, {.change = [this] { TakePictureSize(); }, .counts_when_equal = true}),
-      Stretch(*this, "Stretch", design.value != 0, {.change = [this] { TakePictureSize(); }}),
+      Stretch(*this, "Stretch", design.stretch, {.change = [this] { TakePictureSize(); }}),
       BorderStyle(*this, "BorderStyle") {}
 
 void Image::TakePictureSize() {

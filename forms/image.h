@@ -7,8 +7,17 @@
 
 namespace lectern::forms {
 
+struct ImageDesign {
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+  bool stretch = false;
+};
+
 class Image : public PlacedControl {
  public:
+  using Design = ImageDesign;
+
   Image(Container& parent, std::string name, const Design& design = {});
 
   RuledProperty<forms::Picture> Picture;

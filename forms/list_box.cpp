@@ -8,7 +8,7 @@
 
 namespace lectern::forms {
 
-ItemList::ItemList(Container& parent, Kind kind, std::string name, const Design& design)
+ItemList::ItemList(Container& parent, Kind kind, std::string name, const CommonDesign& design)
     : TextControl(parent, kind, std::move(name), design) {
   BackColor = kWindowBackground;
   ForeColor = kWindowText;

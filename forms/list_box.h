@@ -14,7 +14,7 @@ namespace lectern::forms {
 // The items and the selection: what list boxes and file lists have in common.
 class ItemList : public TextControl {
  public:
-  ItemList(Container& parent, Kind kind, std::string name, const Design& design);
+  ItemList(Container& parent, Kind kind, std::string name, const CommonDesign& design);
 
   int ListCount() const { return static_cast<int>(items_.Count()); }
   std::string List(int index) const;
@@ -45,8 +45,17 @@ class ItemList : public TextControl {
   unsigned generation_ = 0;
 };
 
+struct ListBoxDesign {
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+  bool sorted = false;  // keeps itself in order
+};
+
 class ListBox : public ItemList {
  public:
+  using Design = ListBoxDesign;
+
   ListBox(Container& parent, std::string name, const Design& design = {});
 
   void AddItem(std::string_view item);

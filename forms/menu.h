@@ -6,12 +6,22 @@
 
 namespace lectern::forms {
 
+struct MenuDesign {
+  std::string_view caption{};
+  bool visible = true;
+  bool enabled = true;
+  bool checked = false;
+  std::string_view shortcut{};  // such as "Ctrl+S"
+};
+
 class Menu : public Control, public Container {
  public:
+  using Design = MenuDesign;
+
   Menu(Container& parent, std::string name, const Design& design = {})
       : Control(parent, Kind::kMenu, std::move(name), design),
         Caption(*this, "Caption", std::string(design.caption)),
-        Checked(*this, "Checked", design.value != 0),
+        Checked(*this, "Checked", design.checked),
         shortcut_(design.shortcut) {}
 
   const std::string& Shortcut() const { return shortcut_; }  // such as "Ctrl+S"; "" for none

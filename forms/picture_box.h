@@ -19,8 +19,18 @@ namespace lectern::forms {
 inline constexpr int kScaleTwips = 1;
 inline constexpr int kScalePixels = 3;
 
+struct PictureBoxDesign {
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+  Colour back_color = kButtonFace;
+  Colour fore_color = kButtonText;
+};
+
 class PictureBox : public TextControl, public Container {
  public:
+  using Design = PictureBoxDesign;
+
   PictureBox(Container& parent, std::string name, const Design& design = {});
 
   // A snapshot of the persistent bitmap: a picture of its own at each call.

@@ -31,7 +31,7 @@ bool StandsAt(std::string_view text, std::size_t byte, std::string_view sought) 
 
 RichTextBox::RichTextBox(Container& parent, std::string name, const Design& design)
     : TextControl(parent, Kind::kRichTextBox, std::move(name), design),
-      Text(*this, "Text", std::string(design.caption), {.change = [this] { TextWritten(); }}),
+      Text(*this, "Text", std::string(design.text), {.change = [this] { TextWritten(); }}),
       SelStart(*this, "SelStart", 0,
                {.refuse = RefuseNegative,
                 .change =

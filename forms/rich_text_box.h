@@ -19,8 +19,18 @@ inline constexpr int kFindWholeWord = 2;
 inline constexpr int kFindMatchCase = 4;
 inline constexpr int kFindNoHighlight = 8;
 
+struct RichTextBoxDesign {
+  std::string_view text{};
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+  bool read_only = false;
+};
+
 class RichTextBox : public TextControl {
  public:
+  using Design = RichTextBoxDesign;
+
   RichTextBox(Container& parent, std::string name, const Design& design = {});
 
   bool ReadOnly() const { return read_only_; }

@@ -6,8 +6,22 @@
 
 namespace lectern::forms {
 
+struct HScrollBarDesign {
+  int value = 0;
+  int min = 0;
+  int max = 0;
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+  int large_step = 1;           // how far a click into the trough goes
+  std::string_view key_back{};  // steps back, wherever the focus is, such as "Ctrl+PgUp"
+  std::string_view key_on{};    // the same for a step on
+};
+
 class HScrollBar : public PlacedControl {
  public:
+  using Design = HScrollBarDesign;
+
   HScrollBar(Container& parent, std::string name, const Design& design = {})
       : PlacedControl(parent, Kind::kHScrollBar, std::move(name), design),
         Min(*this, "Min", design.min),

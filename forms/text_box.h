@@ -5,11 +5,22 @@
 
 namespace lectern::forms {
 
+struct TextBoxDesign {
+  std::string_view text{};
+  bool visible = true;
+  bool enabled = true;
+  std::string_view name{};
+  bool multi_line = false;
+  bool read_only = false;  // a person may select and copy, not edit
+};
+
 class TextBox : public TextControl {
  public:
+  using Design = TextBoxDesign;
+
   TextBox(Container& parent, std::string name, const Design& design = {})
       : TextControl(parent, Kind::kTextBox, std::move(name), design),
-        Text(*this, "Text", std::string(design.caption), {.change = [this] { Change(); }}),
+        Text(*this, "Text", std::string(design.text), {.change = [this] { Change(); }}),
         multi_line_(design.multi_line),
         read_only_(design.read_only) {
     BackColor = kWindowBackground;

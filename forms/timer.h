@@ -7,8 +7,15 @@
 
 namespace lectern::forms {
 
+struct TimerDesign {
+  bool enabled = true;
+  int interval = 0;  // milliseconds
+};
+
 class Timer : public Control {
  public:
+  using Design = TimerDesign;
+
   Timer(Container& parent, std::string name, const Design& design = {})
       : Control(parent, Kind::kTimer, std::move(name), design),
         Interval(*this, "Interval", design.interval) {}

@@ -12,7 +12,7 @@ namespace {
 constexpr int kFirstPage = 4;  // the index of its last slot
 constexpr const char* kPastTheList = "end";
 
-forms::Design Slot(std::string_view name) { return {.value = 1, .name = name}; }
+forms::ImageDesign Slot(std::string_view name) { return {.name = name, .stretch = true}; }
 
 }  // namespace
 

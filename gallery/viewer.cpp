@@ -8,7 +8,7 @@ Viewer::Viewer(PictureCatalogue& the_catalogue, reader::Panels& the_panels)
     : OpenPaint([] {}),
       LBLPICP(the_panels.picp, "LBLPICP"),
       lblvs(the_panels.picp, "lblvs"),
-      pick(the_panels.picp, "pick", {.value = 1, .name = "The picture"}),
+      pick(the_panels.picp, "pick", {.name = "The picture", .stretch = true}),
       Command32(the_panels.picp, "Command32", {.caption = "Paint"}),
       Command37(the_panels.picp, "Command37", {.caption = "Close Pictures", .is_cancel = true}),
       tmrpb(the_panels.picp, "tmrpb", {.enabled = false, .interval = 3000}),

@@ -40,7 +40,7 @@ Palette::Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
       scr1(Frame3, "scr1",
            {{.max = 25, .name = "Red"}, {.max = 25, .name = "Green"}, {.max = 25, .name = "Blue"}}),
       Label2(Frame3, "Label2", {{.caption = "Red"}, {.caption = "Blue"}, {.caption = "Green"}}),
-      Text3(Frame3, "Text3", {.caption = "Text3", .name = "Pen value"}),
+      Text3(Frame3, "Text3", {.text = "Text3", .name = "Pen value"}),
       Clear(Frame3, "Clear", {.caption = "Hide Color Bars", .is_cancel = true}),
       form_(the_form),
       gallery_(the_gallery),

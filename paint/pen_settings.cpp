@@ -8,9 +8,8 @@ namespace lectern::paint {
 PenSettings::PenSettings(forms::Window& form)
     : Frame2(form, "Frame2", {.caption = "needs", .visible = false}),
       Frame1(Frame2, "Frame1"),
-      mde(Frame1, "mde",
-          {{.caption = "15"}, {.caption = "1"}, {.caption = "1"}, {.caption = "3"}, {.caption = "7"}}),
-      Text2(Frame2, "Text2", {.caption = "3"}),
+      mde(Frame1, "mde", {{.text = "15"}, {.text = "1"}, {.text = "1"}, {.text = "3"}, {.text = "7"}}),
+      Text2(Frame2, "Text2", {.text = "3"}),
       xpos(Frame1, "xpos", {.caption = "Label2"}),
       ypos(Frame1, "ypos", {.caption = "Label2"}),
       Label1(Frame1, "Label1",

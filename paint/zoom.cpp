@@ -18,7 +18,7 @@ Zoom::Zoom(forms::Window& form, Canvas& the_canvas)
     : cmdm(form, "cmdm",
            {{.caption = "      +", .name = "Zoom in"},
             {.caption = "      -", .enabled = false, .name = "Zoom out"}}),
-      txt5(form, "txt5", {.caption = "0", .name = "Zoom level"}),
+      txt5(form, "txt5", {.text = "0", .name = "Zoom level"}),
       picbox2(form, "picbox2", {.visible = false}),
       canvas_(the_canvas) {
   cmdm.ForEach([this](int index, forms::SSCommand& button) {

@@ -30,12 +30,12 @@ constexpr Swatch kSwatches[] = {
 
 DesktopColour::DesktopColour(Panels& the_panels)
     : panels_(the_panels),
-      Option2(panels_.Picture23, "Option2", {.caption = "Front Color", .value = 1}),
+      Option2(panels_.Picture23, "Option2", {.caption = "Front Color", .checked = true}),
       Option3(panels_.Picture23, "Option3", {.caption = "Back Color"}),
       Picture24(panels_.Picture23, "Picture24", {.name = "Colours"}) {
   for (const Swatch& swatch : kSwatches) {
     forms::PictureBox& box = swatches_.emplace_back(
-        Picture24, swatch.control, forms::Design{.name = swatch.name, .back_color = swatch.colour});
+        Picture24, swatch.control, forms::PictureBoxDesign{.name = swatch.name, .back_color = swatch.colour});
     box.Click = [this, &box] { Swatch_Click(box); };
   }
 }

@@ -16,7 +16,7 @@ Menus::Menus(forms::Window& form)
       dd1(form, "dd1", {.caption = "Codex &Stories"}),
       oo(form, "oo", {.caption = "O&ptions"}),
       oo11(oo, "oo11", {.caption = "Fonts/Desktop"}),
-      oo12(oo, "oo12", {.caption = "Save settings on exit", .value = 1}),
+      oo12(oo, "oo12", {.caption = "Save settings on exit", .checked = true}),
       webb(form, "webb", {.caption = "Internet"}),
       webb1(webb, "webb1", {.caption = "Lectern"}),
       webb2(webb, "webb2", {.caption = "My Main Page"}),

@@ -86,11 +86,11 @@ constexpr Story kStories[] = {
 Stories::Stories(Reader& the_reader, Menus& menus) : reader_(the_reader) {
   for (const Submenu& submenu : kSubmenus) {
     forms::Menu& list =
-        submenus_.emplace_back(menus.dd1, submenu.control, forms::Design{.caption = submenu.caption});
+        submenus_.emplace_back(menus.dd1, submenu.control, forms::MenuDesign{.caption = submenu.caption});
     for (const Story& story : kStories) {
       if (list.Name() != story.submenu) continue;
       forms::Menu& entry =
-          entries_.emplace_back(list, story.control, forms::Design{.caption = story.caption});
+          entries_.emplace_back(list, story.control, forms::MenuDesign{.caption = story.caption});
       entry.Click = [this, &story] { Entry_Click(story); };
     }
   }

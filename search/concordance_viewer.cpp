@@ -39,7 +39,7 @@ ConcordanceViewer::ConcordanceViewer(reader::Reader& the_reader, reader::Panels&
                                      reader::ToolButtons& the_tools, reader::Menus& menus,
                                      TextSearch& the_search)
     : lblwords(the_panels.frmc, "lblwords", {.caption = "Words"}),
-      lstc(the_panels.frmc, "lstc", {.sorted = true, .name = "Words of the concordance"}),
+      lstc(the_panels.frmc, "lstc", {.name = "Words of the concordance", .sorted = true}),
       lblw(the_panels.frmc, "lblw", {.caption = "click on word"}),
       lblmatches2(the_panels.frmc, "lblmatches2", {.caption = "Matches "}),
       text6(the_panels.frmc, "text6", {.caption = "00"}),

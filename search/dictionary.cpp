@@ -6,7 +6,7 @@ namespace {
 
 constexpr int kWords = 1;  // slot
 
-constexpr forms::Design Shadow(const char* caption) {
+constexpr forms::LabelDesign Shadow(const char* caption) {
   return {.caption = caption, .is_echo = true, .fore_color = forms::kButtonShadow};
 }
 

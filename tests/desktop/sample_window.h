@@ -80,7 +80,7 @@ class SampleWindow : public forms::Window {
   forms::Menu file{*this, "file", {.caption = "&File"}};
   forms::Menu open{file, "open", {.caption = "&Open", .shortcut = "Ctrl+O"}};
   forms::Menu gap{file, "gap", {.caption = "-"}};
-  forms::Menu mark{file, "mark", {.caption = "&Mark", .value = 1}};
+  forms::Menu mark{file, "mark", {.caption = "&Mark", .checked = true}};
   forms::Menu stories{*this, "stories", {.caption = "Codex &Stories"}};
   forms::Menu flood{stories, "flood", {.caption = "Flood"}};
   forms::Menu fall{stories, "fall", {.caption = "Fall"}};
@@ -91,36 +91,36 @@ class SampleWindow : public forms::Window {
   forms::CommandButton cancel{panel, "cancel", {.caption = "Close", .is_cancel = true}};
 
   forms::Label label{*this, "label", {.caption = "A label"}};
-  forms::TextBox line_box{*this, "line_box", {.caption = "one line", .name = "Line"}};
-  forms::TextBox page_box{*this, "page_box", {.caption = "two\r\nlines", .multi_line = true, .name = "Page"}};
+  forms::TextBox line_box{*this, "line_box", {.text = "one line", .name = "Line"}};
+  forms::TextBox page_box{*this, "page_box", {.text = "two\r\nlines", .name = "Page", .multi_line = true}};
   forms::CommandButton command{*this, "command", {.caption = "&Press", .is_default = true}};
   forms::CommandButton search{*this, "search", {.caption = "&Search with a long text"}};
   forms::OptionButton option{*this, "option", {.caption = "Option"}};
   forms::OptionButton bare_option{*this, "bare_option", {.name = "Bare"}};
   forms::Label option_text{*this, "option_text", {.caption = "its text"}};
-  forms::ComboBox combo{*this, "combo", {.caption = "10", .name = "Size"}};
+  forms::ComboBox combo{*this, "combo", {.text = "10", .name = "Size"}};
   forms::HScrollBar bar{
       *this,
       "bar",
-      {.value = 1, .min = 1, .max = 50, .key_back = "Ctrl+PgUp", .key_on = "Ctrl+PgDown", .name = "Chapter"}};
+      {.value = 1, .min = 1, .max = 50, .name = "Chapter", .key_back = "Ctrl+PgUp", .key_on = "Ctrl+PgDown"}};
   forms::ProgressBar progress{*this, "progress", {.value = 40, .name = "Progress"}};
   forms::ListBox list{*this, "list", {.name = "Books"}};
-  forms::FileListBox files{*this, "files", {.pattern = "*.txt", .name = "Files"}};
+  forms::FileListBox files{*this, "files", {.name = "Files", .pattern = "*.txt"}};
   forms::DirListBox folders{*this, "folders", {.name = "Folders"}};
   forms::DriveListBox drives{*this, "drives", {.name = "Drives"}};
-  forms::Image image{*this, "image", {.value = 1}};
-  forms::Image clickable_image{*this, "clickable_image", {.value = 1, .name = "Picture to press"}};
-  forms::Shape shape{*this, "shape", {.value = forms::kShapeCircle, .back_color = forms::Rgb(255, 128, 0)}};
+  forms::Image image{*this, "image", {.stretch = true}};
+  forms::Image clickable_image{*this, "clickable_image", {.name = "Picture to press", .stretch = true}};
+  forms::Shape shape{*this, "shape", {.figure = forms::kShapeCircle, .back_color = forms::Rgb(255, 128, 0)}};
   forms::Label swatch_label{*this, "swatch_label", {.caption = "x", .name = "Orange"}};
   forms::Line line{*this, "line"};
   forms::Frame frame{*this, "frame", {.caption = "Frame"}};
   forms::Label in_frame{frame, "in_frame", {.caption = "a text that is longer than its place allows"}};
-  forms::SSOption ss_option{frame, "ss_option", {.caption = "Book", .value = 1}};
+  forms::SSOption ss_option{frame, "ss_option", {.caption = "Book", .checked = true}};
   forms::SSOption ss_option2{frame, "ss_option2", {.caption = "Codex"}};
   forms::SSCommand ss_command{frame, "ss_command", {.caption = ">", .name = "Go deeper"}};
   forms::PictureBox canvas{*this, "canvas", {.name = "Canvas"}};
-  forms::RichTextBox page{*this, "page", {.read_only = true, .name = "Text"}};
-  forms::RichTextBox sheet{*this, "sheet", {.caption = "Note", .name = "Note"}};
+  forms::RichTextBox page{*this, "page", {.name = "Text", .read_only = true}};
+  forms::RichTextBox sheet{*this, "sheet", {.text = "Note", .name = "Note"}};
   forms::Label far_away{*this, "far_away", {.caption = "storage"}};
   forms::Timer timer{*this, "timer", {.enabled = false, .interval = 1}};
 

@@ -81,9 +81,9 @@ TEST(ListBox, SortsByCharacterCodeOrKeepsTheOrderAndForgetsTheSelectionWithItsIt
 TEST(OptionButton, ClearsItsNeighboursAndCountsEveryClick) {
   TestWindow test;
   Frame frame(test.form, "frame");
-  OptionButton first(test.form, "optk", {.value = 1});
+  OptionButton first(test.form, "optk", {.checked = true});
   OptionButton second(test.form, "optn");
-  OptionButton elsewhere(frame, "op1", {.value = 1});
+  OptionButton elsewhere(frame, "op1", {.checked = true});
   int clicks = 0;
   second.Click = [&] { ++clicks; };
   second.PersonClicks();
