@@ -47,8 +47,8 @@ class WindowManager:
 def mark_a_place(reader, folder):
     reader.reads("KJV Genesis 1", "1")
     reader.click("list item", "Exodus")
-    reader.click("push button", "Book Mark")
-    reader.click("push button", "New")
+    reader.click("button", "Book Mark")
+    reader.click("button", "New")
     reader.types("Exodus 1", below="Enter a name for bookmark")
     reader.key("Return")
     wait_for("the bookmark", lambda: contents(folder, "Exodus 1.bkm") == '"Exodus 1","Exodus","1"\r\n')
@@ -64,7 +64,7 @@ def mark_a_place(reader, folder):
     reader.click("list item", "Exodus 1.bkm")
     reader.key("Return")
     reader.reads("KJV Exodus 1", "1")
-    reader.click("push button", "Exit")
+    reader.click("button", "Exit")
     reader.sees_it_end(0)
 
 
@@ -72,11 +72,11 @@ def keep_a_note(reader, folder):
     reader.reads("KJV Genesis 1", "1")
     reader.click("text", "Text of the chapter")
     reader.key("ctrl+a", "ctrl+c")
-    reader.click("push button", "Notes")
+    reader.click("button", "Notes")
     reader.screen.find_ready("label", "Open file to add to, or create new file")
     reader.key("Return")
     reader.screen.find_ready("frame", "Notes")
-    reader.click("push button", "Create New File")
+    reader.click("button", "Create New File")
     reader.types("Sunday", below="Enter a name for file")
     reader.key("Return")
     reader.screen.find_ready("frame", "Sunday - Notes")
@@ -112,7 +112,7 @@ def keep_a_note(reader, folder):
     reader.key("alt+y")
     wait_for("the note saved once more", lambda: "!" in (contents(folder, "Sunday.not") or ""))
     expect("the version before is kept", contents(folder, "backup/Sunday.not") == saved)
-    reader.click("push button", "Exit")
+    reader.click("button", "Exit")
     reader.sees_it_end(0)
 
 
@@ -141,14 +141,14 @@ class Paper:
 
 def print_a_page(reader, _folder):
     reader.reads("KJV Genesis 1", "1")
-    reader.click("push button", "Book Mark")
-    reader.click("push button", "Print Page")
+    reader.click("button", "Book Mark")
+    reader.click("button", "Print Page")
     reader.click("text", "Page")
     reader.key("ctrl+a")
     type_in("For Sunday")
     reader.key(*["Return"] * 30)
     type_in("the thirty-first line, which the window does not show")
-    reader.click("push button", "Print")
+    reader.click("button", "Print")
     page = wait_for("a printed page", printed)
 
     # The window's whole client area, as it is while it is printed: longer, and without its buttons.
@@ -159,9 +159,9 @@ def print_a_page(reader, _folder):
     expect("the first line is on it", paper.darkest(left + 28, top + 18, left + 120, top + 40) < 100)
     expect("the last line is on it", paper.darkest(left + 28, top + 430, left + 300, top + 480) < 100)
     expect("the buttons are not", paper.darkest(left + 400, top + 404, left + 588, top + 440) > 200)
-    wait_for("the buttons again", lambda: reader.screen.find("push button", "Cancel"))
-    reader.click("push button", "Cancel")
-    reader.click("push button", "Exit")
+    wait_for("the buttons again", lambda: reader.screen.find("button", "Cancel"))
+    reader.click("button", "Cancel")
+    reader.click("button", "Exit")
     reader.sees_it_end(0)
 
 

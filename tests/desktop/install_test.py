@@ -79,7 +79,7 @@ def end_of(program):
 
 
 def press(screen, button):
-    x, y, width, height = screen.place_of(screen.find("push button", button))
+    x, y, width, height = screen.place_of(screen.find("button", button))
     subprocess.run(["xdotool", "mousemove", str(x + width // 2), str(y + height // 2), "click", "1"], check=True)
 
 
