@@ -23,7 +23,7 @@ class PlainRead {
 
   void One(const std::string& path) const {
     const int file = ::open(path.c_str(), O_RDONLY);
-    struct stat status {};
+    struct stat status = {};
     ::fstat(file, &status);
     benchmark::DoNotOptimize(::read(file, room_.data(), static_cast<std::size_t>(status.st_size)));
     benchmark::ClobberMemory();

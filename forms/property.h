@@ -80,6 +80,10 @@ class PropertyBase {
   const char* name_;
 };
 
+// Anything that is not a property itself.
+template <class T>
+concept PlainValue = !std::is_base_of_v<PropertyBase, T>;
+
 template <class T>
 class Property : public PropertyBase {
  public:
@@ -101,8 +105,8 @@ class Property : public PropertyBase {
   }
 
   friend bool operator==(const Property& a, const Property& b) { return a.value_ == b.value_; }
-  template <class U>
-  requires(!std::is_base_of_v<PropertyBase, U>) friend bool operator==(const Property& a, const U& b) {
+  template <PlainValue U>
+  friend bool operator==(const Property& a, const U& b) {
     return a.value_ == b;
   }
   friend std::string operator+(const Property& a, std::string_view b) {

@@ -90,7 +90,7 @@ bool FileSystem::FolderExists(std::string_view name) const {
 
 std::uint64_t FileSystem::Length(std::string_view name) const {
   const std::string path = HostPath(name);
-  struct stat status {};
+  struct stat status = {};
   if (::stat(path.c_str(), &status) != 0) FailWith(errno);
   return static_cast<std::uint64_t>(status.st_size);
 }

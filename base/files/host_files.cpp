@@ -48,13 +48,13 @@ void FailWith(int host_error) {
 }
 
 Standing At(const std::string& path) {
-  struct stat status {};
+  struct stat status = {};
   if (::stat(path.c_str(), &status) != 0) return {};
   return {true, S_ISDIR(status.st_mode), S_ISREG(status.st_mode)};
 }
 
 std::uint64_t LengthAt(const std::string& path) {
-  struct stat status {};
+  struct stat status = {};
   const bool is_file = ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
   return is_file ? static_cast<std::uint64_t>(status.st_size) : 0;
 }
@@ -71,7 +71,7 @@ OpenFile OpenRegular(const std::string& path, int flags) {
   constexpr mode_t kMode = 0666;
   Descriptor file(::open(path.c_str(), flags | O_NONBLOCK | O_CLOEXEC, kMode));
   if (!file.IsOpen()) return {Descriptor(-1)};
-  struct stat status {};
+  struct stat status = {};
   if (::fstat(file.Number(), &status) != 0 || !S_ISREG(status.st_mode)) {
     errno = EISDIR;
     return {Descriptor(-1)};

@@ -17,10 +17,9 @@ void TextList::Add(const TextList& others) {
   erased_ += others.erased_;
   const std::size_t old_count = places_.size();
   places_.resize(old_count + others.places_.size());
+  const auto shifted = [shift](Place place) { return Place{place.begin + shift, place.length}; };
   std::transform(others.places_.begin(), others.places_.end(),
-                 places_.begin() + static_cast<std::ptrdiff_t>(old_count), [shift](Place place) {
-                   return Place{place.begin + shift, place.length};
-                 });
+                 places_.begin() + static_cast<std::ptrdiff_t>(old_count), shifted);
 }
 
 void TextList::Insert(std::size_t index, std::string_view text) {
