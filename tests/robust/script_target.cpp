@@ -24,7 +24,7 @@ std::vector<std::string> Pieces() {
   std::set<std::string> lines;
   std::set<std::string> words = {"=", "\"", "\\x",   "(",   ")",   ",",
                                  ".", "-1", "1e300", "nan", "inf", "99999999999"};
-  for (const auto& script : std::filesystem::directory_iterator(LECTERN_SCENARIOS)) {
+  for (const auto& script : std::filesystem::directory_iterator(LECTERN_STORIES)) {
     std::ifstream file(script.path());
     for (std::string line; std::getline(file, line);) {
       if (line.empty() || line[0] == '|' || line[0] == '@' || line[0] == '#') continue;

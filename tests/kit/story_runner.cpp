@@ -11,7 +11,7 @@
 //   @restart                     starts the program anew in the same folder
 //   @status N                    the exit status that the driver would end with
 //
-// usage: scenario-runner TESTS_FOLDER REAL_DATA_FOLDER SCRIPT [record]
+// usage: story-runner TESTS_FOLDER REAL_DATA_FOLDER SCRIPT [record]
 //
 // With `record` it writes the script with what each step prints now, for whoever writes one; what it wrote
 // is to be read against what the program should do, line by line.
