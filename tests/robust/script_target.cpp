@@ -1,4 +1,4 @@
-// The driver's language takes any bytes: the lines of all scenarios, torn apart, put together by chance and
+// The driver's language takes any bytes: the lines of all stories, torn apart, put together by chance and
 // damaged. Whatever is not understood is told as an error, and the program neither crashes nor hangs.
 #include <algorithm>
 #include <cstdint>
@@ -24,13 +24,17 @@ std::vector<std::string> Pieces() {
   std::set<std::string> lines;
   std::set<std::string> words = {"=", "\"", "\\x",   "(",   ")",   ",",
                                  ".", "-1", "1e300", "nan", "inf", "99999999999"};
-  for (const auto& script : std::filesystem::directory_iterator(LECTERN_STORIES)) {
-    std::ifstream file(script.path());
+  for (const auto& story : std::filesystem::directory_iterator(LECTERN_STORIES)) {
+    std::ifstream file(story.path());
     for (std::string line; std::getline(file, line);) {
-      if (line.empty() || line[0] == '|' || line[0] == '@' || line[0] == '#') continue;
+      if (line.empty() || line[0] == '@' || line[0] == '#') continue;
       std::istringstream parts(line);
       for (std::string word; parts >> word;) words.insert(word + " ");
-      lines.insert(line + "\n");
+      if (line[0] != ' ') {
+        lines.insert(line.substr(0, line.find(" | ")) + "\n");
+      } else if (line.find('|') == std::string::npos) {  // a check, for which `get` is used
+        lines.insert("get Form1." + line.substr(2, line.find(' ', 2) - 2) + "\n");
+      }
     }
   }
   std::vector<std::string> pieces(lines.begin(), lines.end());

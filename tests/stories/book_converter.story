@@ -1,102 +1,62 @@
 @data gallery
 # A book's text from elsewhere is turned into a book file.
 set Form1.RTB1.Text = "too short"
-click! Form1.Command33
-| message "SELECT OPTION" "Lectern 2"
-@files KJV
-| 1 John.txt
-| Exodus.txt
-| Genesis.txt
-| John.txt
-| Jude.txt
-| Psalms.txt
+click! Form1.Command33 | message "SELECT OPTION" "Lectern 2"
+@files KJV | 1 John.txt | Exodus.txt | Genesis.txt | John.txt | Jude.txt | Psalms.txt
 set Form1.RTB1.Text = "Some words of the sender's\r\nCodex, King James Version\r\n\r\nRuth\r\n[1]In the days of the judges\r\n[2]the name of the man\r\n[3]\r\nthe rest of it\r\nan odd line\r\n\r\n[1]And Naomi had a kinsman\r\n[12]\r\nthat stayed"
 set Form1.Dir2.Path = "KJV"
-get Form1.File2.Path
-| Form1.File2.Path = "KJV"
+  File2.Path "KJV"
 click! Form1.Command33
-get Form1.NME.Caption
-| Form1.NME.Caption = "Ruth"
+  NME "Ruth"
 @show KJV/Ruth.TXT
-| Ruth
-| Chapter 1
-| 1.In the days of the judges
-| 2.the name of the man
-| 3.the rest of it
-| Chapter 2
-| 1.And Naomi had a kinsman
-| 12.that stayed
-get Form1.RTB1.Text
-| Form1.RTB1.Text = ""
-get Form1.RTB2.Text
-| Form1.RTB2.Text = "Ruth\r\nChapter 1\r\n1.In the days of the judges\r\n2.the name of the man\r\n3.the rest of it\r\nChapter 2\r\n1.And Naomi had a kinsman\r\n12.that stayed\r\n"
-items Form1.File2
-| Form1.File2: 7 items
-|   "1 John.txt"
-|   "Exodus.txt"
-|   "Genesis.txt"
-|   "John.txt"
-|   "Jude.txt"
-|   "Psalms.txt"
-|   "Ruth.TXT"
-@files KJV
-| 1 John.txt
-| Exodus.txt
-| Genesis.txt
-| John.txt
-| Jude.txt
-| Psalms.txt
-| Ruth.TXT
+  | Ruth
+  | Chapter 1
+  | 1.In the days of the judges
+  | 2.the name of the man
+  | 3.the rest of it
+  | Chapter 2
+  | 1.And Naomi had a kinsman
+  | 12.that stayed
+  RTB1 ""
+  RTB2: "Ruth", "Chapter 1", "1.In the days of the judges", "2.the name of the man", "3.the rest of it", "Chapter 2",
+    "1.And Naomi had a kinsman", "12.that stayed"
+  File2: "1 John.txt", "Exodus.txt", "Genesis.txt", "John.txt", "Jude.txt", "Psalms.txt", "Ruth.TXT"
+@files KJV | 1 John.txt | Exodus.txt | Genesis.txt | John.txt | Jude.txt | Psalms.txt | Ruth.TXT
 
 # The reader reads it.
 click Form1.lst "Ruth"
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1.In the days of the judges\r\n2.the name of the man\r\n3.the rest of it\r\nChapter 2\r\n"
+  rtxt "1.In the days of the judges\r\n2.the name of the man\r\n3.the rest of it\r\nChapter 2\r\n"
 scroll Form1.scr 2
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1.And Naomi had a kinsman\r\n12.that stayed\r\n"
+  rtxt "1.And Naomi had a kinsman\r\n12.that stayed\r\n"
 
 # ODDITY(converted-twice-doubles): a second time it goes behind the first.
 set Form1.RTB1.Text = "\r\n\r\nRuth\r\n[1]In the days of the judges\r\n"
 click! Form1.Command33
 @show KJV/Ruth.TXT
-| Ruth
-| Chapter 1
-| 1.In the days of the judges
-| 2.the name of the man
-| 3.the rest of it
-| Chapter 2
-| 1.And Naomi had a kinsman
-| 12.that stayed
-| Ruth
-| Chapter 1
-| 1.In the days of the judges
+  | Ruth
+  | Chapter 1
+  | 1.In the days of the judges
+  | 2.the name of the man
+  | 3.the rest of it
+  | Chapter 2
+  | 1.And Naomi had a kinsman
+  | 12.that stayed
+  | Ruth
+  | Chapter 1
+  | 1.In the days of the judges
 
 # ODDITY(dash-counts-a-chapter): a rule between chapters counts as a chapter.
 set Form1.RTB1.Text = "\r\n\r\nJoel\r\n[1]The word of the Lord\r\n------\r\n[1]Blow the trumpet\r\n[2.1]and sound\r\n"
 click! Form1.Command33
-@show KJV/Joel.TXT
-| Joel
-| Chapter 1
-| 1.The word of the Lord
-| Chapter 3
-| 1.Blow the trumpet
-| 2.1.and sound
-@show KJV/TEMP.TXT
-| missing
+@show KJV/Joel.TXT | Joel | Chapter 1 | 1.The word of the Lord | Chapter 3 | 1.Blow the trumpet | 2.1.and sound
+@show KJV/TEMP.TXT | missing
 
 # What must not be given to it ends the program: a verse without a bracket, and a source without a blank line.
 set Form1.RTB1.Text = "\r\n\r\nAmos\r\n[1 The words of Amos, who was\r\n"
-click! Form1.Command33
-| run-time error 5 "Invalid procedure call or argument"
-| end
+click! Form1.Command33 | run-time error 5 "Invalid procedure call or argument" | end
 @delete TEMP.TXT
 @delete KJV/TEMP.TXT
 @restart
 set Form1.RTB1.Text = "Codex, King James Version and no blank line\r\nAmos"
-click! Form1.Command33
-| run-time error 62 "Input past end of file"
-| end
-@show TEMP.TXT
-| Codex, King James Version and no blank line
-| Amos
+click! Form1.Command33 | run-time error 62 "Input past end of file" | end
+@show TEMP.TXT | Codex, King James Version and no blank line | Amos

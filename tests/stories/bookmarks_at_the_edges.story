@@ -1,122 +1,86 @@
 # Names and files of bookmarks that are odd, and what becomes of the program where nothing traps a failure.
 click Form1.xb
 date 2026-11-16
-answer "a\"b/c\\d"
-click Form1.Command10
-| input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "a\"b/c\\d"
-answer "רות ונעמי"
-click Form1.Command10
-| input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "רות ונעמי"
-answer "Ῥούθ, ά"
-click Form1.Command10
-| input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "Ῥούθ, ά"
-items Form1.File1
-| Form1.File1: 3 items
-|   "a''b'c'd.bkm"
-|   "רות ונעמי.bkm"
-|   "Ῥούθ, ά.bkm"
-@show "a''b'c'd.bkm"
-| "a''b'c'd","Genesis","1"
-@show "רות ונעמי.bkm"
-| "רות ונעמי","Genesis","1"
+click Form1.Command10 | input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "a\"b/c\\d"
+click Form1.Command10 | input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "רות ונעמי"
+click Form1.Command10 | input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "Ῥούθ, ά"
+  File1: "a''b'c'd.bkm", "רות ונעמי.bkm", "Ῥούθ, ά.bkm"
+@show "a''b'c'd.bkm" | "a''b'c'd","Genesis","1"
+@show "רות ונעמי.bkm" | "רות ונעמי","Genesis","1"
 click Form1.File1 "Ῥούθ, ά.bkm"
-get Form1.LBLMRK(0).Caption
-| Form1.LBLMRK(0).Caption = "Ῥούθ, ά"
+  LBLMRK(0) "Ῥούθ, ά"
 
 # A comma inside quotes is text; fields may stand unquoted, or on lines of their own; what lies behind the
 # third is nothing.
-@write "odd.bkm" "\"Ruth, and Naomi\",Ruth,1\r\n\"second\",\"Jude\",\"1\"\r\n3\r\n4\r\n5\r\n6\r\n7\r\n8\r\n9\r\n10\r\n"
+@write "odd.bkm" | "Ruth, and Naomi",Ruth,1 | "second","Jude","1" | 3 | 4 | 5 | 6 | 7 | 8 | 9 | 10
 @write "lines.bkm" "three\nExodus\n2"
 @restart
 click Form1.xb
 click Form1.File1 "odd.bkm"
-get Form1.LBLMRK(0).Caption
-| Form1.LBLMRK(0).Caption = "Ruth, and Naomi"
-get Form1.LBLMRK(1).Caption
-| Form1.LBLMRK(1).Caption = "Ruth"
-get Form1.LBLMRK(2).Caption
-| Form1.LBLMRK(2).Caption = "1"
+  LBLMRK(0) "Ruth, and Naomi", LBLMRK(1) "Ruth", LBLMRK(2) "1"
 click Form1.File1 "lines.bkm"
 click Form1.Command5
-get Form1.lblbk.Caption
-| Form1.lblbk.Caption = "Exodus"
-get Form1.lblc.Caption
-| Form1.lblc.Caption = "2"
+  lblbk "Exodus", lblc "2"
 
 # A chapter that is no number, and a book that is not there: Open goes on with what it is given.
-@write "lost.bkm" "lost,Nowhere,seven\r\n"
+@write "lost.bkm" | lost,Nowhere,seven
 @restart
 click Form1.xb
 click Form1.File1 "lost.bkm"
 click Form1.Command5
-get Form1.lblbk.Caption
-| Form1.lblbk.Caption = "Nowhere"
-get Form1.lblc.Caption
-| Form1.lblc.Caption = "seven"
-get Form1.Picture1.Visible
-| Form1.Picture1.Visible = False
+  lblbk "Nowhere", lblc "seven", Picture1 hidden
 
 # Too few fields, a file that went away, and a character that no file system takes end the program.
-@write "short.bkm" "\"only a name\"\r\n"
+@write "short.bkm" | "only a name"
 @restart
 click Form1.xb
-click Form1.File1 "short.bkm"
-| run-time error 62 "Input past end of file"
-| end
+click Form1.File1 "short.bkm" | run-time error 62 "Input past end of file" | end
 @restart
 click Form1.xb
 @delete short.bkm
-click Form1.File1 "short.bkm"
-| run-time error 53 "File not found"
-| end
+click Form1.File1 "short.bkm" | run-time error 53 "File not found" | end
 @restart
 click Form1.xb
 click Form1.File1 "odd.bkm"
 @delete odd.bkm
-click Form1.Command11
-| run-time error 53 "File not found"
-| end
+click Form1.Command11 | run-time error 53 "File not found" | end
 @restart
 click Form1.xb
 date 2026-11-16
-answer "when: now"
 click Form1.Command10
-| input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "when: now"
-| run-time error 52 "Bad file name or number"
-| end
+  | input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "when: now"
+  | run-time error 52 "Bad file name or number"
+  | end
 @files .
-| a''b'c'd.bkm
-| bookschap.txt
-| codex.cfg
-| lines.bkm
-| lost.bkm
-| tmppics2.dat
-| רות ונעמי.bkm
-| Ῥούθ, ά.bkm
+  | a''b'c'd.bkm
+  | bookschap.txt
+  | codex.cfg
+  | lines.bkm
+  | lost.bkm
+  | tmppics2.dat
+  | רות ונעמי.bkm
+  | Ῥούθ, ά.bkm
 
 # Update under such a name does nothing at all.
 @restart
 click Form1.xb
 set Form1.LBLMRK(0).Caption = "when: now"
 click Form1.Command6
-get Form1.Picture1.Visible
-| Form1.Picture1.Visible = True
+  Picture1 shown
 
 # A name may have 251 bytes before its ending, whatever the script, and none more.
 date 2026-11-16
-answer "רותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרות12345"
 click Form1.Command10
-| input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "רותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרות12345"
+  | input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "רותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרות12345"
 click Form1.File1 "רותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרות12345.bkm"
 click Form1.Command6
 click Form1.Command11
 @files backup
-| רותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרות12345.bkm
-answer "רותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרות123456"
+  | רותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרות12345.bkm
 click Form1.Command10
-| input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "רותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרות123456"
-| run-time error 52 "Bad file name or number"
-| end
+  | input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "רותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרותרות123456"
+  | run-time error 52 "Bad file name or number"
+  | end
 
 # A data folder that is gone: Update does nothing, New ends the program.
 @restart
@@ -124,8 +88,7 @@ click Form1.xb
 @delete
 click Form1.Command6
 date 2026-11-16
-answer "x"
 click Form1.Command10
-| input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "x"
-| run-time error 76 "Path not found"
-| end
+  | input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "x"
+  | run-time error 76 "Path not found"
+  | end

@@ -2,85 +2,54 @@
 @write bookmark.txt "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\b Book marks\\b0\\par Named places.}"
 @write paint.txt "Plain text will do."
 click Form1.xh2
-get Form1.txthelp.Text
-| Form1.txthelp.Text = "Lectern 2, by the makers of Lectern, 2026. It is free to use and to pass on. If you would like to give a donation, or pictures for the gallery, please see us on the web by clicking ''Internet'', at the top menu bar."
-get Form1.txthelp.FontBold
-| Form1.txthelp.FontBold = True
-get Form1.txthelp.FontSize
-| Form1.txthelp.FontSize = 12
+  txthelp "Lectern 2, by the makers of Lectern, 2026. It is free to use and to pass on. If you would like to give a donation, or pictures for the gallery, please see us on the web by clicking ''Internet'', at the top menu bar."
+  txthelp.FontBold True, txthelp.FontSize 12
 click Form1.lblhp(0)
-get Form1.txthelp.FontBold
-| Form1.txthelp.FontBold = False
-get Form1.txthelp.Text
-| Form1.txthelp.Text = "Book marks\r\nNamed places."
+  txthelp.FontBold False, txthelp "Book marks\r\nNamed places."
 click Form1.Command4
-get Form1.frmhelp.Visible
-| Form1.frmhelp.Visible = False
+  frmhelp hidden
 click Form1.xh2
-get Form1.txthelp.Text
-| Form1.txthelp.Text = "Book marks\r\nNamed places."
+  txthelp "Book marks\r\nNamed places."
 click Form1.lblhp(7)
-get Form1.txthelp.Text
-| Form1.txthelp.Text = "Plain text will do."
+  txthelp "Plain text will do."
 type Form1.txthelp "It is only read."
-get Form1.txthelp.Text
-| Form1.txthelp.Text = "Plain text will do."
+  txthelp "Plain text will do."
 
 # ODDITY(help-close-unlocks): one Close leaves the lock of another panel alone, the other opens it.
 click Form1.Command3
 click Form1.Command4
-get Form1.Command16.Enabled
-| Form1.Command16.Enabled = False
+  Command16 disabled
 click Form1.xh2
 click Form1.Command44
-get Form1.frmhelp.Visible
-| Form1.frmhelp.Visible = False
-get Form1.Picture1.Visible
-| Form1.Picture1.Visible = True
-get Form1.Command16.Enabled
-| Form1.Command16.Enabled = True
+  frmhelp hidden, Picture1 shown, Command16 enabled
 
 # About, and the pages.
 click Form1.aboutlt
-| message "Lectern 2, by the makers of Lectern, 2026. It is free to use and to pass on. If you would like to give a donation, or pictures for the gallery, please see us on the web by clicking ''Internet'', at the top menu bar." "Lectern 2"
-click Form1.webb1
-| browse "http://www.example.org/lectern/"
-click Form1.webb2
-| browse "http://www.example.org/"
-call OpenWebPage "HTTP://EXAMPLE.ORG/a"
-| browse "HTTP://EXAMPLE.ORG/a"
-call OpenWebPage "httpd"
-| browse "httpd"
+  | message "Lectern 2, by the makers of Lectern, 2026. It is free to use and to pass on. If you would like to give a donation, or pictures for the gallery, please see us on the web by clicking ''Internet'', at the top menu bar." "Lectern 2"
+click Form1.webb1 | browse "http://www.example.org/lectern/"
+click Form1.webb2 | browse "http://www.example.org/"
+call OpenWebPage "HTTP://EXAMPLE.ORG/a" | browse "HTTP://EXAMPLE.ORG/a"
+call OpenWebPage "httpd" | browse "httpd"
 # ODDITY(bare-address-replaced)
-call OpenWebPage "example.org/pages"
-| browse "http://www.example.org"
-call OpenWebPage ""
-| browse "http://www.example.org"
+call OpenWebPage "example.org/pages" | browse "http://www.example.org"
+call OpenWebPage "" | browse "http://www.example.org"
 
 # The stored notes replace the text of the pane, shown or not.
 call HelpFontSize
-get Form1.txthelp.Text
-| Form1.txthelp.Text = "To change the size of the font click OPTIONS, at the top of the sceen. Click appropriate number under font size."
+  txthelp "To change the size of the font click OPTIONS, at the top of the sceen. Click appropriate number under font size."
 call HelpChangingBook
-get Form1.txthelp.Text
-| Form1.txthelp.Text = "To change the book, close the Text search and the Concordance, and click on desired book from list box, on the right side of the screen. The program will show the first 10 chapters."
-get Form1.frmhelp.Visible
-| Form1.frmhelp.Visible = False
+  txthelp "To change the book, close the Text search and the Concordance, and click on desired book from list box, on the right side of the screen. The program will show the first 10 chapters."
+  frmhelp hidden
 call HelpContact
-get Form1.txthelp.Text
-| Form1.txthelp.Text = "To reach the makers of Lectern, please see us on the web by clicking ''Internet'', at the top menu bar."
+  txthelp "To reach the makers of Lectern, please see us on the web by clicking ''Internet'', at the top menu bar."
 
 # The search tells here how long it takes, over its own panel.
 click Form1.Command16
 click Form1.Command15
-get Form1.txthelp.Text
-| Form1.txthelp.Text = "Tested on a: Pent2/266 - book < minute, codex < minute --- 586/75 - book = < 1 minute, codex = < 3.5 minutes  ---  486/66 - book = < 1 minute, codex = < 5 minutes  ---  386/15 - book = < 5 minute, codex = < 35 minutes --- Patience is a virtue."
-get Form1.frms.Visible
-| Form1.frms.Visible = True
+  txthelp "Tested on a: Pent2/266 - book < minute, codex < minute --- 586/75 - book = < 1 minute, codex = < 3.5 minutes  ---  486/66 - book = < 1 minute, codex = < 5 minutes  ---  386/15 - book = < 5 minute, codex = < 35 minutes --- Patience is a virtue."
+  frms shown
 click Form1.Command4
 
 # A topic that is missing ends the program.
 click Form1.xh2
-click Form1.lblhp(1)
-| run-time error 53 "File not found"
-| end
+click Form1.lblhp(1) | run-time error 53 "File not found" | end

@@ -1,171 +1,119 @@
 @data gallery
 # A painting goes into the gallery under a name of its own, and over another.
 @copy picend.jpg cdx2.ico
-@write colors.dat "\"16776960\",255\r\n"
+@write colors.dat | "16776960",255
 click Form1.imgp(1)
-get Form1.LBLPICP.Caption
-| Form1.LBLPICP.Caption = "flock"
-get Form1.selfile(1).Text
-| Form1.selfile(1).Text = "Genesis 1: 2"
+  LBLPICP "flock", selfile(1) "Genesis 1: 2"
 click Form1.Command32
 mousedown Form4.clrboxs(0) 1 0 5 5
 mousedown Form4.picbox 1 0 1 0
-answer cancel
-click Form4.Command2
-| input "Save Picture as" "Save Picture" "flock" -> ""
-get Form4.MousePointer
-| Form4.MousePointer = 1
-answer "painted"
-click Form4.Command2
-| input "Save Picture as" "Save Picture" "flock" -> "painted"
+click Form4.Command2 | input "Save Picture as" "Save Picture" "flock" -> ""
+  Form4.MousePointer 1
+click Form4.Command2 | input "Save Picture as" "Save Picture" "flock" -> "painted"
 @show pics2.dat
-| "river","Genesis 1: 1","PICTURES BY: A. Painter"
-| "ark    ","Genesis 3: 2","PICTURES BY: B. Carver"
-| "flock","Genesis 1: 2","PICTURES BY: A. Painter"
-| "cloud","Exodus 1: 1","PICTURES BY: A. Painter"
-| "birds","Exodus 1: 1","PICTURES BY: B. Carver"
-| "river","Exodus 2: 1","PICTURES BY: A. Painter"
-| "tent","Genesis 2: 1","PICTURES BY: B. Carver"
-| "olive","Genesis 2: 3","PICTURES BY: A. Painter"
-| "dawn","Genesis 1: 1","PICTURES BY: B. Carver"
-| "road","Genesis 3: 1","PICTURES BY: A. Painter"
-| "staff","Exodus 2: 1","PICTURES BY: B. Carver"
-| "well","Exodus 2: 1","PICTURES BY: A. Painter"
-| "harp","Psalms 2: 1, and all of it","PICTURES BY: B. Carver"
-| "painted","Genesis 1: 2","PICTURES BY: A. Painter"
+  | "river","Genesis 1: 1","PICTURES BY: A. Painter"
+  | "ark    ","Genesis 3: 2","PICTURES BY: B. Carver"
+  | "flock","Genesis 1: 2","PICTURES BY: A. Painter"
+  | "cloud","Exodus 1: 1","PICTURES BY: A. Painter"
+  | "birds","Exodus 1: 1","PICTURES BY: B. Carver"
+  | "river","Exodus 2: 1","PICTURES BY: A. Painter"
+  | "tent","Genesis 2: 1","PICTURES BY: B. Carver"
+  | "olive","Genesis 2: 3","PICTURES BY: A. Painter"
+  | "dawn","Genesis 1: 1","PICTURES BY: B. Carver"
+  | "road","Genesis 3: 1","PICTURES BY: A. Painter"
+  | "staff","Exodus 2: 1","PICTURES BY: B. Carver"
+  | "well","Exodus 2: 1","PICTURES BY: A. Painter"
+  | "harp","Psalms 2: 1, and all of it","PICTURES BY: B. Carver"
+  | "painted","Genesis 1: 2","PICTURES BY: A. Painter"
 @files pics
-| ark.jpg
-| birds.jpg
-| cloud.jpg
-| dawn.jpg
-| flock.jpg
-| harp.jpg
-| olive.jpg
-| painted.JPG
-| River.JPG
-| road.jpg
-| staff.jpg
-| tent.jpg
-| well.jpg
-get Form1.LBLPICP.Caption
-| Form1.LBLPICP.Caption = "flock"
+  | ark.jpg
+  | birds.jpg
+  | cloud.jpg
+  | dawn.jpg
+  | flock.jpg
+  | harp.jpg
+  | olive.jpg
+  | painted.JPG
+  | River.JPG
+  | road.jpg
+  | staff.jpg
+  | tent.jpg
+  | well.jpg
+  LBLPICP "flock"
 # ODDITY(name-for-a-place)
-get Form1.lblvs.Caption
-| Form1.lblvs.Caption = "painted"
-items Form1.lstmc(0)
-| Form1.lstmc(0): 8 items
-|   "river"
-|   "flock"
-|   "dawn"
-|   "painted"
-|   "tent"
-|   "olive"
-|   "ark"
-|   "road"
+  lblvs "painted"
+  lstmc(0): "river", "flock", "dawn", "painted", "tent", "olive", "ark", "road"
 # It is opened again with the pixels that were painted.
-get Form4.picbox.Point(2,0)
-| Form4.picbox.Point(2,0) = 20
+  Form4.picbox.Point(2,0) 20
 click Form1.imgp(3)
-get Form1.LBLPICP.Caption
-| Form1.LBLPICP.Caption = "painted"
-get Form1.pick.Picture
-| Form1.pick.Picture = picture 3x1
+  LBLPICP "painted", pick picture 3x1
 click Form1.Command32
-get Form4.picbox.Point(2,0)
-| Form4.picbox.Point(2,0) = 20
+  Form4.picbox.Point(2,0) 20
 
 # A name that is there: asked about, and no record is added. The old picture stays under backup.
-answer "painted"
-answer no
 click Form4.Command2
-| input "Save Picture as" "Save Picture" "painted" -> "painted"
-| question "Picture: painted already exists. Would you like to replace the picture?" "File Found" -> no
-get Form4.MousePointer
-| Form4.MousePointer = 1
-answer "painted"
-answer yes
+  | input "Save Picture as" "Save Picture" "painted" -> "painted"
+  | question "Picture: painted already exists. Would you like to replace the picture?" "File Found" -> no
+  Form4.MousePointer 1
 click Form4.Command2
-| input "Save Picture as" "Save Picture" "painted" -> "painted"
-| question "Picture: painted already exists. Would you like to replace the picture?" "File Found" -> yes
-@files backup/pics
-| painted.JPG
-items Form1.lstmc(0)
-| Form1.lstmc(0): 8 items
-|   "river"
-|   "flock"
-|   "dawn"
-|   "painted"
-|   "tent"
-|   "olive"
-|   "ark"
-|   "road"
+  | input "Save Picture as" "Save Picture" "painted" -> "painted"
+  | question "Picture: painted already exists. Would you like to replace the picture?" "File Found" -> yes
+@files backup/pics | painted.JPG
+  lstmc(0): "river", "flock", "dawn", "painted", "tent", "olive", "ark", "road"
 # Another case is another name in the catalogue, and the same file.
-answer "PAINTED"
-click Form4.Command2
-| input "Save Picture as" "Save Picture" "painted" -> "PAINTED"
+click Form4.Command2 | input "Save Picture as" "Save Picture" "painted" -> "PAINTED"
 @files pics
-| ark.jpg
-| birds.jpg
-| cloud.jpg
-| dawn.jpg
-| flock.jpg
-| harp.jpg
-| olive.jpg
-| painted.JPG
-| River.JPG
-| road.jpg
-| staff.jpg
-| tent.jpg
-| well.jpg
-items Form1.lstmc(0)
-| Form1.lstmc(0): 9 items
-|   "river"
-|   "flock"
-|   "dawn"
-|   "painted"
-|   "PAINTED"
-|   "tent"
-|   "olive"
-|   "ark"
-|   "road"
+  | ark.jpg
+  | birds.jpg
+  | cloud.jpg
+  | dawn.jpg
+  | flock.jpg
+  | harp.jpg
+  | olive.jpg
+  | painted.JPG
+  | River.JPG
+  | road.jpg
+  | staff.jpg
+  | tent.jpg
+  | well.jpg
+  lstmc(0): "river", "flock", "dawn", "painted", "PAINTED", "tent", "olive", "ark", "road"
 
 # A name that the file system refuses: the record is written, the picture is not.
-answer "a:b"
 click Form4.Command2
-| input "Save Picture as" "Save Picture" "painted" -> "a:b"
-| run-time error 52 "Bad file name or number"
-| end
+  | input "Save Picture as" "Save Picture" "painted" -> "a:b"
+  | run-time error 52 "Bad file name or number"
+  | end
 @show pics2.dat
-| "river","Genesis 1: 1","PICTURES BY: A. Painter"
-| "ark    ","Genesis 3: 2","PICTURES BY: B. Carver"
-| "flock","Genesis 1: 2","PICTURES BY: A. Painter"
-| "cloud","Exodus 1: 1","PICTURES BY: A. Painter"
-| "birds","Exodus 1: 1","PICTURES BY: B. Carver"
-| "river","Exodus 2: 1","PICTURES BY: A. Painter"
-| "tent","Genesis 2: 1","PICTURES BY: B. Carver"
-| "olive","Genesis 2: 3","PICTURES BY: A. Painter"
-| "dawn","Genesis 1: 1","PICTURES BY: B. Carver"
-| "road","Genesis 3: 1","PICTURES BY: A. Painter"
-| "staff","Exodus 2: 1","PICTURES BY: B. Carver"
-| "well","Exodus 2: 1","PICTURES BY: A. Painter"
-| "harp","Psalms 2: 1, and all of it","PICTURES BY: B. Carver"
-| "painted","Genesis 1: 2","PICTURES BY: A. Painter"
-| "PAINTED","Genesis 1: 2","PICTURES BY: A. Painter"
-| "a:b","Genesis 1: 2","PICTURES BY: A. Painter"
+  | "river","Genesis 1: 1","PICTURES BY: A. Painter"
+  | "ark    ","Genesis 3: 2","PICTURES BY: B. Carver"
+  | "flock","Genesis 1: 2","PICTURES BY: A. Painter"
+  | "cloud","Exodus 1: 1","PICTURES BY: A. Painter"
+  | "birds","Exodus 1: 1","PICTURES BY: B. Carver"
+  | "river","Exodus 2: 1","PICTURES BY: A. Painter"
+  | "tent","Genesis 2: 1","PICTURES BY: B. Carver"
+  | "olive","Genesis 2: 3","PICTURES BY: A. Painter"
+  | "dawn","Genesis 1: 1","PICTURES BY: B. Carver"
+  | "road","Genesis 3: 1","PICTURES BY: A. Painter"
+  | "staff","Exodus 2: 1","PICTURES BY: B. Carver"
+  | "well","Exodus 2: 1","PICTURES BY: A. Painter"
+  | "harp","Psalms 2: 1, and all of it","PICTURES BY: B. Carver"
+  | "painted","Genesis 1: 2","PICTURES BY: A. Painter"
+  | "PAINTED","Genesis 1: 2","PICTURES BY: A. Painter"
+  | "a:b","Genesis 1: 2","PICTURES BY: A. Painter"
 @files pics
-| ark.jpg
-| birds.jpg
-| cloud.jpg
-| dawn.jpg
-| flock.jpg
-| harp.jpg
-| olive.jpg
-| painted.JPG
-| River.JPG
-| road.jpg
-| staff.jpg
-| tent.jpg
-| well.jpg
+  | ark.jpg
+  | birds.jpg
+  | cloud.jpg
+  | dawn.jpg
+  | flock.jpg
+  | harp.jpg
+  | olive.jpg
+  | painted.JPG
+  | River.JPG
+  | road.jpg
+  | staff.jpg
+  | tent.jpg
+  | well.jpg
 
 # No catalogue: nothing traps it, and the hourglass stays.
 @data gallery
@@ -173,11 +121,10 @@ click Form4.Command2
 click Form1.imgp(0)
 click Form1.Command32
 @delete pics2.dat
-answer "painted"
 click Form4.Command2
-| input "Save Picture as" "Save Picture" "river" -> "painted"
-| run-time error 53 "File not found"
-| end
+  | input "Save Picture as" "Save Picture" "river" -> "painted"
+  | run-time error 53 "File not found"
+  | end
 
 # No folder for the pictures.
 @data gallery
@@ -185,33 +132,20 @@ click Form4.Command2
 click Form1.imgp(0)
 click Form1.Command32
 @delete pics
-answer "painted"
 click Form4.Command2
-| input "Save Picture as" "Save Picture" "river" -> "painted"
-| run-time error 76 "Path not found"
-| end
+  | input "Save Picture as" "Save Picture" "river" -> "painted"
+  | run-time error 76 "Path not found"
+  | end
 
 # Paint without a picture: a white page of the design size. Nothing to begin on is missing, but the pointer.
 @data small
 @copy bookschap.txt cdx2.ico
-click! Form1.Command32
-| run-time error 481 "Invalid picture"
-| end
-get Form1.lblc.Caption
-| ended
+click! Form1.Command32 | run-time error 481 "Invalid picture" | end
+get Form1.lblc.Caption | ended
 @data gallery
 @delete pics2.dat
 @copy picend.jpg cdx2.ico
 click! Form1.Command32
-get Form4.picbox.Width
-| Form4.picbox.Width = 7995
-get Form4.picbox.Height
-| Form4.picbox.Height = 5445
-get Form4.picbox.Point(5,5)
-| Form4.picbox.Point(5,5) = 16777215
-get Form4.IMGSPB(0).Picture
-| Form4.IMGSPB(0).Picture = picture 533x363
+  Form4.picbox.Width 7995, picbox.Height 5445, picbox.Point(5,5) 16777215, IMGSPB(0) picture 533x363
 # No palette to be written anew.
-click Form4.Command3
-| run-time error 53 "File not found"
-| end
+click Form4.Command3 | run-time error 53 "File not found" | end

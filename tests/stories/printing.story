@@ -4,66 +4,37 @@ printer on
 click Form1.Command3
 # ODDITY(print-page-empty): with no bookmark in hand the note is NAME.NOT, and it is left as it is.
 click Form1.Command30
-@show NAME.NOT
-get Form2.Visible
-| Form2.Visible = True
-get Form2.Text1.Text
-| Form2.Text1.Text = "Text1"
-@write NAME.NOT "kept, as it is\r\n"
+@show NAME.NOT | empty
+  Form2 shown, Text1 "Text1"
+@write NAME.NOT | kept, as it is
 type Form2.Text1 "For Sunday:\r\nRuth 1"
-click Form2.Command1
-| print Form2 618x906
-get Form2.Height
-| Form2.Height = 7050
-get Form2.Text1.Height
-| Form2.Text1.Height = 5775
-get Form2.Command1.Visible
-| Form2.Command1.Visible = True
-get Form2.Command2.Visible
-| Form2.Command2.Visible = True
+click Form2.Command1 | print Form2 618x906
+  Form2.Height 7050, Text1.Height 5775, Command1 shown, Command2 shown
 click Form2.Command2
-get Form2.Visible
-| Form2.Visible = False
+  Form2 hidden
 click Form1.Command30
-get Form2.Text1.Text
-| Form2.Text1.Text = "For Sunday:\r\nRuth 1"
-@show NAME.NOT
-| kept, as it is
+  Form2.Text1 "For Sunday:\r\nRuth 1"
+@show NAME.NOT | kept, as it is
 
 # The window comes back at its own height whatever it was before.
 set Form2.Height = 9000
-click Form2.Command1
-| print Form2 618x906
-get Form2.Height
-| Form2.Height = 7050
+click Form2.Command1 | print Form2 618x906
+  Form2.Height 7050
 
 # ODDITY(no-printer-untold)
 printer off
 click Form2.Command1
-get Form2.Command1.Visible
-| Form2.Command1.Visible = True
-get Form2.Text1.Height
-| Form2.Text1.Height = 5775
+  Form2.Command1 shown, Text1.Height 5775
 close Form2
-get Form2.Text1.Text
-| Form2.Text1.Text = "Text1"
+  Form2.Text1 "Text1"
 
 # The note has the bookmark's name; one that the file system refuses makes none, and the page opens all the
 # same.
-answer "Ruth"
-click Form1.Command10
-| input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "Ruth"
+click Form1.Command10 | input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "Ruth"
 click Form1.Command30
-@show Ruth.NOT
+@show Ruth.NOT | empty
 set Form1.LBLMRK(0).Caption = "when: now"
 click Form2.Command2
 click Form1.Command30
-get Form2.Visible
-| Form2.Visible = True
-@files .
-| bookschap.txt
-| codex.cfg
-| NAME.NOT
-| Ruth.bkm
-| Ruth.NOT
-| tmppics2.dat
+  Form2 shown
+@files . | bookschap.txt | codex.cfg | NAME.NOT | Ruth.bkm | Ruth.NOT | tmppics2.dat

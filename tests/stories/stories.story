@@ -1,142 +1,106 @@
 # An evening with children: stories from the menu, and where they lead.
-@write KJV/Luke.txt "Chapter 1\r\n1   Two old people by the river.\r\n2   They wait.\r\nChapter 2\r\n1   A child in the night.\r\n"
-@write KJV/John.txt "Chapter 1\r\n1   A man by the road.\r\nChapter 2\r\n1   A feast on the third day.\r\n"
-@append bookschap.txt "\"Luke\",2\r\n\"1-Samuel\",2\r\n"
+@write KJV/Luke.txt
+  | Chapter 1
+  | 1   Two old people by the river.
+  | 2   They wait.
+  | Chapter 2
+  | 1   A child in the night.
+@write KJV/John.txt | Chapter 1 | 1   A man by the road. | Chapter 2 | 1   A feast on the third day.
+@append bookschap.txt | "Luke",2 | "1-Samuel",2
 
 # The whole menu.  ODDITY(kept-spelling)
 menu
-| …
-| "Codex &Stories" dd1
-|   "The Beginning" dd2
-|     "Adam and Eve" ss3
-|     "Cain and Abel" sss4
-|     "The Tower of Babel" ss4
-|   "Abraham" dd3
-|     "God's Covenent" ss1
-|     "Three Visitors" ss5
-|     "Tested" ss6
-|   "Noah" dd4
-|     "The Flood" ss7
-|     "Noah's Ark" sss8
-|     "God's Covenent" ss2
-|   "Moses" ddd8
-|     "The Ten Commandments" jj8
-|     "The Burning Bush" ss8
-|     "Crossing the Sea" ss9
-|     "At Sinia" sss1
-|   "David" dd5
-|     "And Samuel" aaa3
-|     "And Goliath" sss3
-|     "And Saul" aaa4
-|     "Becomes a King" aaa5
-|   "Peter" dd6
-|     "Disowns Jesus" ddd1
-|     "Reinstated" aaa9
-|     "Heals a Beggar" aaa8
-|     "Escaping from Prison" sss7
-|   "Paul" dd7
-|     "First Journey" dddd5
-|     "In Prison" ddd4
-|     "Shiprecked" ddd3
-|     "Preaches in Rome" ddd2
-|   "Jesus" dd8
-|     "His Birth" gg5
-|     "Changing Water to Wine" gg1
-|     "Healing the Sick" ff9
-|     "Walking on Water" ff8
-|     "At the Temple" ff6
-|     "The Last Supper" ff5
-|     "On Trial" ff4
-|     "Crusifiction" ff3
-|     "After his Death" ff2
-|     "Return to Heaven" ff1
-| "O&ptions" oo
-| …
+  | …
+  | "Codex &Stories" dd1
+  |   "The Beginning" dd2
+  |     "Adam and Eve" ss3
+  |     "Cain and Abel" sss4
+  |     "The Tower of Babel" ss4
+  |   "Abraham" dd3
+  |     "God's Covenent" ss1
+  |     "Three Visitors" ss5
+  |     "Tested" ss6
+  |   "Noah" dd4
+  |     "The Flood" ss7
+  |     "Noah's Ark" sss8
+  |     "God's Covenent" ss2
+  |   "Moses" ddd8
+  |     "The Ten Commandments" jj8
+  |     "The Burning Bush" ss8
+  |     "Crossing the Sea" ss9
+  |     "At Sinia" sss1
+  |   "David" dd5
+  |     "And Samuel" aaa3
+  |     "And Goliath" sss3
+  |     "And Saul" aaa4
+  |     "Becomes a King" aaa5
+  |   "Peter" dd6
+  |     "Disowns Jesus" ddd1
+  |     "Reinstated" aaa9
+  |     "Heals a Beggar" aaa8
+  |     "Escaping from Prison" sss7
+  |   "Paul" dd7
+  |     "First Journey" dddd5
+  |     "In Prison" ddd4
+  |     "Shiprecked" ddd3
+  |     "Preaches in Rome" ddd2
+  |   "Jesus" dd8
+  |     "His Birth" gg5
+  |     "Changing Water to Wine" gg1
+  |     "Healing the Sick" ff9
+  |     "Walking on Water" ff8
+  |     "At the Temple" ff6
+  |     "The Last Supper" ff5
+  |     "On Trial" ff4
+  |     "Crusifiction" ff3
+  |     "After his Death" ff2
+  |     "Return to Heaven" ff1
+  | "O&ptions" oo
+  | …
 
 # ODDITY(story-keeps-range): the chapter loads, the bar keeps to the book before.
 click Form1.lst "Jude"
 click Form1.ss3
-get Form1.lblbk.Caption
-| Form1.lblbk.Caption = "Genesis"
-get Form1.lblbook.Caption
-| Form1.lblbook.Caption = "Genesis"
-get Form1.lblc.Caption
-| Form1.lblc.Caption = "2"
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1   A stranger came by the road at noon.       \r\n2   He asked for water, and it was given him.       \r\nChapter 3\r\n"
-get Form1.scr.Max
-| Form1.scr.Max = 1
-get Form1.scr.Value
-| Form1.scr.Value = 1
+  lblbk "Genesis", lblbook "Genesis", lblc "2"
+  rtxt: "1   A stranger came by the road at noon.       ", "2   He asked for water, and it was given him.       ",
+    "Chapter 3"
+  scr.Max 1, scr 1
 
 # The same story once more reads the book once more.
-@write KJV/Genesis.txt "Chapter 1\r\n1   One.\r\nChapter 2\r\n1   Told again.\r\n"
+@write KJV/Genesis.txt | Chapter 1 | 1   One. | Chapter 2 | 1   Told again.
 click Form1.ss3
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1   Told again.\r\n"
+  rtxt "1   Told again.\r\n"
 
 # David, in either version; the file bears the hyphen. A chapter that the file does not have ends on its last
 # line.
 click Form1.aaa3
-get Form1.lblbk.Caption
-| Form1.lblbk.Caption = "1-Samuel"
-get Form1.lblc.Caption
-| Form1.lblc.Caption = "16"
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1   He rose and said, Here am I.       \r\n"
+  lblbk "1-Samuel", lblc "16", rtxt "1   He rose and said, Here am I.       \r\n"
 click Form1.optn
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1   A boy slept by the lamp.       \r\nChapter 2 (Other Text)\r\n"
+  rtxt "1   A boy slept by the lamp.       \r\nChapter 2 (Other Text)\r\n"
 click Form1.sss3
-get Form1.lblbook.Caption
-| Form1.lblbook.Caption = "1-Samuel"
-get Form1.lblc.Caption
-| Form1.lblc.Caption = "17"
-get Form1.LBLVR.Caption
-| Form1.LBLVR.Caption = "Revised Standard Version"
+  lblbook "1-Samuel", lblc "17", LBLVR "Revised Standard Version"
 click Form1.optk
 
 # ODDITY(peter-at-samuel)
 click Form1.ddd1
-get Form1.lblbk.Caption
-| Form1.lblbk.Caption = "1-Samuel"
-get Form1.lblc.Caption
-| Form1.lblc.Caption = "16"
+  lblbk "1-Samuel", lblc "16"
 
 # ODDITY(story-first-chapter): the birth of a child is looked for, and chapter 1 comes up; the bar follows.
 click Form1.lst "Exodus"
 click Form1.gg5
-get Form1.lblbk.Caption
-| Form1.lblbk.Caption = "Luke"
-get Form1.lblc.Caption
-| Form1.lblc.Caption = "1"
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1   Two old people by the river.\r\n2   They wait.\r\nChapter 2\r\n"
-get Form1.scr.Max
-| Form1.scr.Max = 2
+  lblbk "Luke", lblc "1", rtxt "1   Two old people by the river.\r\n2   They wait.\r\nChapter 2\r\n", scr.Max 2
 click Form1.gg1
-get Form1.lblbk.Caption
-| Form1.lblbk.Caption = "John"
-get Form1.lblc.Caption
-| Form1.lblc.Caption = "1"
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1   A man by the road.\r\nChapter 2\r\n"
+  lblbk "John", lblc "1", rtxt "1   A man by the road.\r\nChapter 2\r\n"
 
 # With the search open the bar is not taken back: the old book's chapter 2 stays under the new name.
 click Form1.lst "Exodus"
 set Form1.frms.Visible = True
 click Form1.gg5
-get Form1.lblbk.Caption
-| Form1.lblbk.Caption = "Luke"
-get Form1.lblc.Caption
-| Form1.lblc.Caption = "2"
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1   A cloud stood over the road.       \r\n2   The graceful birds went before them.       \r\n"
+  lblbk "Luke", lblc "2"
+  rtxt "1   A cloud stood over the road.       \r\n2   The graceful birds went before them.       \r\n"
 set Form1.frms.Visible = False
 
 # A book that is missing leaves the text; nothing is said.
 click Form1.aaa5
-get Form1.lblbk.Caption
-| Form1.lblbk.Caption = "2-Samuel"
-get Form1.rtxt.Text
-| Form1.rtxt.Text = "1   A cloud stood over the road.       \r\n2   The graceful birds went before them.       \r\n"
+  lblbk "2-Samuel"
+  rtxt "1   A cloud stood over the road.       \r\n2   The graceful birds went before them.       \r\n"
