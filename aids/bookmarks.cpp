@@ -42,17 +42,7 @@ forms::Picture Arrows() {
 
 Bookmarks::Bookmarks(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
                      reader::Menus& menus)
-    : Label19_3(the_panels.Picture1, "Label19", {.caption = "BOOK MARKER"}),
-      C_4(the_panels.Picture1, "C", {.caption = "Chapter"}),
-      File1(the_panels.Picture1, "File1", {.name = "Bookmarks", .pattern = "*.bkm"}),
-      Command5(the_panels.Picture1, "Command5", {.caption = "Open", .is_default = true}),
-      Command6(the_panels.Picture1, "Command6", {.caption = "Update"}),
-      Command10(the_panels.Picture1, "Command10", {.caption = "New"}),
-      Command11(the_panels.Picture1, "Command11", {.caption = "Delete"}),
-      Command7(the_panels.Picture1, "Command7", {.caption = "Close", .is_cancel = true}),
-      reader_(the_reader),
-      panels_(the_panels),
-      tools_(the_tools) {
+    : reader_(the_reader), panels_(the_panels), tools_(the_tools) {
   Label19_3.PutInArray(3);
   C_4.PutInArray(4);
   panels_.Picture2.Picture = Arrows();

@@ -14,18 +14,29 @@
 namespace lectern::aids {
 
 class Bookmarks {
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ToolButtons& tools_;
+
  public:
   Bookmarks(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
             reader::Menus& menus);
 
-  forms::Label Label19_3;  // Label19(3), the heading
-  forms::Label C_4;        // C(4), before the chapter
-  forms::FileListBox File1;
-  forms::CommandButton Command5;
-  forms::CommandButton Command6;
-  forms::CommandButton Command10;
-  forms::CommandButton Command11;
-  forms::CommandButton Command7;
+  // Label19(3), the heading.
+  forms::Label Label19_3{panels_.Picture1, "Label19", {.caption = "BOOK MARKER"}};
+  forms::Label C_4{panels_.Picture1, "C", {.caption = "Chapter"}};  // C(4), stands before the chapter
+  // The stored bookmarks.
+  forms::FileListBox File1{panels_.Picture1, "File1", {.name = "Bookmarks", .pattern = "*.bkm"}};
+  // Opens the chosen bookmark.
+  forms::CommandButton Command5{panels_.Picture1, "Command5", {.caption = "Open", .is_default = true}};
+  // Stores the place under the bookmark's name.
+  forms::CommandButton Command6{panels_.Picture1, "Command6", {.caption = "Update"}};
+  // Stores the place under a new name.
+  forms::CommandButton Command10{panels_.Picture1, "Command10", {.caption = "New"}};
+  // Deletes the chosen bookmark.
+  forms::CommandButton Command11{panels_.Picture1, "Command11", {.caption = "Delete"}};
+  // Closes the panel.
+  forms::CommandButton Command7{panels_.Picture1, "Command7", {.caption = "Close", .is_cancel = true}};
 
  private:
   void Command3_Click();
@@ -41,10 +52,6 @@ class Bookmarks {
   std::string PathOf(const std::string& name) const;
   void AppendPlace(const std::string& name);
   void Leave();
-
-  reader::Reader& reader_;
-  reader::Panels& panels_;
-  reader::ToolButtons& tools_;
 };
 
 }  // namespace lectern::aids

@@ -13,32 +13,13 @@ namespace {
 constexpr std::array kTopicFiles = {"bookmark.txt",    "search.txt",     "notes.txt",  "pictures.txt",
                                     "concordance.txt", "dictionary.txt", "trivia.txt", "paint.txt"};
 
-constexpr forms::Colour kLink = forms::Rgb(28, 84, 150);
-
 constexpr std::string_view kDefaultHost = "www.example.org";
 
 }  // namespace
 
 Help::Help(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
            reader::Menus& menus)
-    : Label19_4(the_panels.frmhelp, "Label19", {.caption = "HELP"}),
-      lblhp(the_panels.frmhelp, "lblhp",
-            {{.caption = "Book Mark", .fore_color = kLink},
-             {.caption = "Search", .fore_color = kLink},
-             {.caption = "Notes", .fore_color = kLink},
-             {.caption = "Pictures", .fore_color = kLink},
-             {.caption = "Concordance", .fore_color = kLink},
-             {.caption = "Dictionary", .fore_color = kLink},
-             {.caption = "Trivia", .fore_color = kLink},
-             {.caption = "Paint", .fore_color = kLink}}),
-      txthelp(the_panels.frmhelp, "txthelp", {.name = "Help text", .read_only = true}),
-      Command4(the_panels.frmhelp, "Command4", {.caption = "Close", .is_cancel = true}),
-      Command44(the_panels.frmhelp, "Command44",
-                {.caption = "Close", .name = "Close, and unlock the tool buttons"}),
-      Timer1(the_reader.form, "Timer1"),
-      reader_(the_reader),
-      panels_(the_panels),
-      tools_(the_tools) {
+    : reader_(the_reader), panels_(the_panels), tools_(the_tools) {
   Label19_4.PutInArray(4);
   menus.xh2.Click = [this] { xh2_Click(); };
   menus.aboutlt.Click = [this] { aboutlt_Click(); };

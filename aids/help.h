@@ -17,6 +17,11 @@
 namespace lectern::aids {
 
 class Help {
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ToolButtons& tools_;
+  static constexpr forms::Colour kLink = forms::Rgb(28, 84, 150);
+
  public:
   Help(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
        reader::Menus& menus);
@@ -31,12 +36,26 @@ class Help {
   // The stored note on changing the book, in the pane, whether or not the panel is open.
   void HelpChangingBook();
 
-  forms::Label Label19_4;  // Label19(4), the heading
-  forms::ControlArray<forms::Label> lblhp;
-  forms::RichTextBox txthelp;
-  forms::CommandButton Command4;
-  forms::CommandButton Command44;
-  forms::Timer Timer1;  // never ticks
+  forms::Label Label19_4{panels_.frmhelp, "Label19", {.caption = "HELP"}};  // Label19(4), the heading
+  // The topics.
+  forms::ControlArray<forms::Label> lblhp{panels_.frmhelp,
+                                          "lblhp",
+                                          {{.caption = "Book Mark", .fore_color = kLink},
+                                           {.caption = "Search", .fore_color = kLink},
+                                           {.caption = "Notes", .fore_color = kLink},
+                                           {.caption = "Pictures", .fore_color = kLink},
+                                           {.caption = "Concordance", .fore_color = kLink},
+                                           {.caption = "Dictionary", .fore_color = kLink},
+                                           {.caption = "Trivia", .fore_color = kLink},
+                                           {.caption = "Paint", .fore_color = kLink}}};
+  // Text of the topic.
+  forms::RichTextBox txthelp{panels_.frmhelp, "txthelp", {.name = "Help text", .read_only = true}};
+  // Closes the panel.
+  forms::CommandButton Command4{panels_.frmhelp, "Command4", {.caption = "Close", .is_cancel = true}};
+  // Closes the panel and unlocks the tool buttons.
+  forms::CommandButton Command44{
+      panels_.frmhelp, "Command44", {.caption = "Close", .name = "Close, and unlock the tool buttons"}};
+  forms::Timer Timer1{reader_.form, "Timer1"};  // never ticks
 
  private:
   void xh2_Click();
@@ -49,10 +68,6 @@ class Help {
   void ShowAbout();
   void LeaveAbout();
   void ShowText(const std::string& text);
-
-  reader::Reader& reader_;
-  reader::Panels& panels_;
-  reader::ToolButtons& tools_;
 };
 
 }  // namespace lectern::aids

@@ -13,7 +13,6 @@ namespace {
 
 constexpr int kNote = 1;  // slot
 
-constexpr std::string_view kNoNote = "NAME";
 constexpr std::string_view kAltered = "c";
 
 // The chooser's ground: a sheet of ruled paper.
@@ -32,33 +31,7 @@ forms::Picture RuledPaper() {
 
 }  // namespace
 
-Notes::Notes(forms::Window& window)
-    : form(window),
-      f1(form, "f1", {.caption = "File"}),
-      f2(f1, "f2", {.caption = "&Open", .shortcut = "Ctrl+O"}),
-      f3(f1, "f3", {.caption = "&Save", .shortcut = "Ctrl+S"}),
-      f4(f1, "f4", {.caption = "Delete"}),
-      f5(f1, "f5", {.caption = "-"}),
-      f6(f1, "f6", {.caption = "Print"}),
-      f7(f1, "f7", {.caption = "-"}),
-      f8(f1, "f8", {.caption = "E&xit"}),
-      lblname(form, "lblname", {.caption = kNoNote}),
-      lblc(form, "lblc", {.caption = "Label1", .visible = false}),
-      txthelp(form, "txthelp", {.text = "RichTextBox1\r\n", .name = "Text of the note"}),
-      Command1(form, "Command1", {.caption = "Open"}),
-      Command13(form, "Command13", {.caption = "Save"}),
-      Command12(form, "Command12", {.caption = "Close", .is_cancel = true}),
-      FRMNOTE(form, "FRMNOTE", {.visible = false}),
-      Label17(FRMNOTE, "Label17", {.caption = "Notes"}),
-      Text42(FRMNOTE, "Text42", {.name = "Notes"}),
-      picopen(form, "picopen", {.visible = false, .name = "Open a note"}),
-      Drive1(picopen, "Drive1", {.name = "Drive"}),
-      Dir1(picopen, "Dir1", {.name = "Folder of the notes"}),
-      File1(picopen, "File1", {.name = "Notes in the folder", .pattern = "*.not"}),
-      Label2(picopen, "Label2",
-             {.caption = "Click file above to open or Create New File", .fore_color = forms::kBlack}),
-      Command2(picopen, "Command2", {.caption = "Create New File"}),
-      Command3(picopen, "Command3", {.caption = "Close", .is_cancel = true}) {
+Notes::Notes(forms::Window& window) : form(window) {
   txthelp.FontName = "MS Sans Serif";
   txthelp.FontSize = 8.5;
   picopen.Picture = RuledPaper();

@@ -18,6 +18,8 @@
 namespace lectern::aids {
 
 class Notes {
+  static constexpr std::string_view kNoNote = "NAME";
+
  public:
   explicit Notes(forms::Window& window);
 
@@ -29,33 +31,44 @@ class Notes {
 
   forms::Window& form;
 
-  forms::Menu f1;  // File
-  forms::Menu f2;
-  forms::Menu f3;
-  forms::Menu f4;
-  forms::Menu f5;
-  forms::Menu f6;
-  forms::Menu f7;
-  forms::Menu f8;
+  forms::Menu f1{form, "f1", {.caption = "File"}};                       // File
+  forms::Menu f2{f1, "f2", {.caption = "&Open", .shortcut = "Ctrl+O"}};  // opens the chooser
+  forms::Menu f3{f1, "f3", {.caption = "&Save", .shortcut = "Ctrl+S"}};  // saves the note
+  forms::Menu f4{f1, "f4", {.caption = "Delete"}};                       // deletes the note
+  forms::Menu f5{f1, "f5", {.caption = "-"}};                            // line
+  forms::Menu f6{f1, "f6", {.caption = "Print"}};                        // prints the window
+  forms::Menu f7{f1, "f7", {.caption = "-"}};                            // line
+  forms::Menu f8{f1, "f8", {.caption = "E&xit"}};                        // closes the window
 
-  forms::Label lblname;  // the note's name; "NAME" until one is opened
-  forms::Label lblc;     // "c" where the text was changed since it was loaded or saved
-  forms::RichTextBox txthelp;
-  forms::CommandButton Command1;
-  forms::CommandButton Command13;
-  forms::CommandButton Command12;
+  // The note's name; "NAME" until one is opened.
+  forms::Label lblname{form, "lblname", {.caption = kNoNote}};
+  // "c" where the text was changed since it was loaded or saved.
+  forms::Label lblc{form, "lblc", {.caption = "Label1", .visible = false}};
+  // Text of the note.
+  forms::RichTextBox txthelp{form, "txthelp", {.text = "RichTextBox1\r\n", .name = "Text of the note"}};
+  forms::CommandButton Command1{form, "Command1", {.caption = "Open"}};    // opens the chooser
+  forms::CommandButton Command13{form, "Command13", {.caption = "Save"}};  // saves the note
+  // Closes the window.
+  forms::CommandButton Command12{form, "Command12", {.caption = "Close", .is_cancel = true}};
 
-  forms::Frame FRMNOTE;  // nothing reads or writes these three
-  forms::Label Label17;
-  forms::TextBox Text42;
+  // Nothing reads or writes this frame and what it holds.
+  forms::Frame FRMNOTE{form, "FRMNOTE", {.visible = false}};
+  forms::Label Label17{FRMNOTE, "Label17", {.caption = "Notes"}};  // heading of FRMNOTE
+  forms::TextBox Text42{FRMNOTE, "Text42", {.name = "Notes"}};     // in FRMNOTE
 
-  forms::PictureBox picopen;  // the chooser
-  forms::DriveListBox Drive1;
-  forms::DirListBox Dir1;
-  forms::FileListBox File1;
-  forms::Label Label2;
-  forms::CommandButton Command2;
-  forms::CommandButton Command3;
+  forms::PictureBox picopen{form, "picopen", {.visible = false, .name = "Open a note"}};  // the chooser
+  forms::DriveListBox Drive1{picopen, "Drive1", {.name = "Drive"}};          // drive of the notes
+  forms::DirListBox Dir1{picopen, "Dir1", {.name = "Folder of the notes"}};  // folder of the notes
+  // The notes in the folder.
+  forms::FileListBox File1{picopen, "File1", {.name = "Notes in the folder", .pattern = "*.not"}};
+  // Says what to do.
+  forms::Label Label2{
+      picopen,
+      "Label2",
+      {.caption = "Click file above to open or Create New File", .fore_color = forms::kBlack}};
+  forms::CommandButton Command2{picopen, "Command2", {.caption = "Create New File"}};  // creates a note
+  // Closes the chooser.
+  forms::CommandButton Command3{picopen, "Command3", {.caption = "Close", .is_cancel = true}};
 
  private:
   void File1_Click();

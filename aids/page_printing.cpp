@@ -14,9 +14,7 @@ constexpr int kNote = 1;  // slot
 
 PagePrinting::PagePrinting(reader::Reader& the_reader, reader::Panels& panels,
                            std::function<forms::Window&()> page)
-    : Command30(panels.Picture1, "Command30", {.caption = "Print Page"}),
-      reader_(the_reader),
-      page_(std::move(page)) {
+    : panels_(panels), reader_(the_reader), page_(std::move(page)) {
   Command30.Click = [this] { Command30_Click(); };
 }
 

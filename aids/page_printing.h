@@ -10,16 +10,19 @@
 namespace lectern::aids {
 
 class PagePrinting {
+  reader::Panels& panels_;
+  reader::Reader& reader_;
+
  public:
   // `page` makes the window of the page where there is none yet.
   PagePrinting(reader::Reader& the_reader, reader::Panels& panels, std::function<forms::Window&()> page);
 
-  forms::CommandButton Command30;
+  // Opens the page to print.
+  forms::CommandButton Command30{panels_.Picture1, "Command30", {.caption = "Print Page"}};
 
  private:
   void Command30_Click();
 
-  reader::Reader& reader_;
   std::function<forms::Window&()> page_;
 };
 

@@ -4,11 +4,7 @@
 
 namespace lectern::aids {
 
-PrintedPage::PrintedPage(forms::Window& window)
-    : form(window),
-      Text1(form, "Text1", {.text = "Text1", .name = "Page", .multi_line = true}),
-      Command1(form, "Command1", {.caption = "Print"}),
-      Command2(form, "Command2", {.caption = "Cancel", .is_cancel = true}) {
+PrintedPage::PrintedPage(forms::Window& window) : form(window) {
   Command1.Click = [this] { Command1_Click(); };
   Command2.Click = [this] { form.Visible = false; };
 }

@@ -15,9 +15,10 @@ class PrintedPage {
   void Form_Load();
 
   forms::Window& form;
-  forms::TextBox Text1;
-  forms::CommandButton Command1;
-  forms::CommandButton Command2;
+  forms::TextBox Text1{form, "Text1", {.text = "Text1", .name = "Page", .multi_line = true}};  // the page
+  forms::CommandButton Command1{form, "Command1", {.caption = "Print"}};                       // prints
+  // Hides the window.
+  forms::CommandButton Command2{form, "Command2", {.caption = "Cancel", .is_cancel = true}};
 
  private:
   void Command1_Click();

@@ -4,8 +4,7 @@
 
 namespace lectern::aids {
 
-PrintedPicture::PrintedPicture(forms::Window& window)
-    : form(window), Image1(form, "Image1"), Command1(form, "Command1", {.caption = "Print"}) {
+PrintedPicture::PrintedPicture(forms::Window& window) : form(window) {
   Command1.Click = [this] { Command1_Click(); };
 }
 

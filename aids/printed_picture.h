@@ -17,8 +17,8 @@ class PrintedPicture {
   void PrintPaintPicture(const forms::Picture& picture);
 
   forms::Window& form;
-  forms::Image Image1;
-  forms::CommandButton Command1;
+  forms::Image Image1{form, "Image1"};                                    // the picture
+  forms::CommandButton Command1{form, "Command1", {.caption = "Print"}};  // prints
 
  private:
   void Command1_Click();

@@ -16,14 +16,7 @@ constexpr int kBook = 3;
 
 }  // namespace
 
-BookConverter::BookConverter(reader::Panels& panels)
-    : Dir2(panels.Frame5, "Dir2", {.name = "Folder for the book file"}),
-      File2(panels.Frame5, "File2", {.name = "Files of that folder"}),
-      RTB1(panels.Frame5, "RTB1", {.name = "Source of the book"}),
-      RTB2(panels.Frame5, "RTB2", {.name = "The book file"}),
-      NME(panels.Frame5, "NME", {.caption = "NME"}),
-      Command33(panels.Frame5, "Command33", {.caption = "CONVERT FILE"}),
-      form_(RTB1.HostWindow()) {
+BookConverter::BookConverter(reader::Panels& panels) : panels_(panels), form_(RTB1.HostWindow()) {
   Dir2.Change = [this] { File2.Path = Dir2.Path; };
   Command33.Click = [this] { Command33_Click(); };
 }

@@ -22,15 +22,19 @@
 namespace lectern::gallery {
 
 class BookConverter {
+  reader::Panels& panels_;
+
  public:
   explicit BookConverter(reader::Panels& panels);
 
-  forms::DirListBox Dir2;  // where the book file goes
-  forms::FileListBox File2;
-  forms::RichTextBox RTB1;  // the source
-  forms::RichTextBox RTB2;  // the result
-  forms::Label NME;         // the book's name
-  forms::CommandButton Command33;
+  // Where the book file goes.
+  forms::DirListBox Dir2{panels_.Frame5, "Dir2", {.name = "Folder for the book file"}};
+  forms::FileListBox File2{panels_.Frame5, "File2", {.name = "Files of that folder"}};  // the files there
+  forms::RichTextBox RTB1{panels_.Frame5, "RTB1", {.name = "Source of the book"}};      // the source
+  forms::RichTextBox RTB2{panels_.Frame5, "RTB2", {.name = "The book file"}};           // the result
+  forms::Label NME{panels_.Frame5, "NME", {.caption = "NME"}};                          // the book's name
+  // Converts the source.
+  forms::CommandButton Command33{panels_.Frame5, "Command33", {.caption = "CONVERT FILE"}};
 
  private:
   void Command33_Click();

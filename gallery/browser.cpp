@@ -12,21 +12,10 @@ namespace {
 constexpr int kFirstPage = 4;  // the index of its last slot
 constexpr const char* kPastTheList = "end";
 
-forms::ImageDesign Slot(std::string_view name) { return {.name = name, .stretch = true}; }
-
 }  // namespace
 
 Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, reader::Panels& the_panels)
-    : SSCommand4(the_panels.Picture5, "SSCommand4", {.caption = "‹", .name = "Pictures before these"}),
-      imgp(the_panels.Picture5, "imgp",
-           {Slot("First picture on the strip"), Slot("Second picture on the strip"),
-            Slot("Third picture on the strip"), Slot("Fourth picture on the strip"),
-            Slot("Fifth picture on the strip")}),
-      lblp(the_panels.Picture5, "lblp", 2 * kSlotsOnPage),
-      SSCommand3(the_panels.Picture5, "SSCommand3", {.caption = "›", .name = "Pictures after these"}),
-      catalogue_(the_catalogue),
-      viewer_(the_viewer),
-      panels_(the_panels) {
+    : catalogue_(the_catalogue), viewer_(the_viewer), panels_(the_panels) {
   catalogue_.lblendpic.Change = [this] { lblendpic_Change(); };
   imgp.ForEach([this](int slot, forms::Image& image) {
     image.BorderStyle = 1;

@@ -18,16 +18,32 @@ inline constexpr forms::Colour kPickedColour = forms::kRed;
 inline constexpr forms::Colour kUnpickedColour = forms::kButtonText;
 
 class Browser {
+  PictureCatalogue& catalogue_;
+  Viewer& viewer_;
+  reader::Panels& panels_;
+
  public:
   Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, reader::Panels& the_panels);
 
   // Takes the mark from whichever picture is picked.
   void ResetPictureLabels();
 
-  forms::SSCommand SSCommand4;             // to the page before
-  forms::ControlArray<forms::Image> imgp;  // the slots, left to right
-  forms::ControlArray<forms::Label> lblp;  // 0 to 4 below the slots, 5 to 9 above them
-  forms::SSCommand SSCommand3;             // to the next page
+  // To the page before.
+  forms::SSCommand SSCommand4{
+      panels_.Picture5, "SSCommand4", {.caption = "‹", .name = "Pictures before these"}};
+  // The slots, left to right.
+  forms::ControlArray<forms::Image> imgp{panels_.Picture5,
+                                         "imgp",
+                                         {{.name = "First picture on the strip", .stretch = true},
+                                          {.name = "Second picture on the strip", .stretch = true},
+                                          {.name = "Third picture on the strip", .stretch = true},
+                                          {.name = "Fourth picture on the strip", .stretch = true},
+                                          {.name = "Fifth picture on the strip", .stretch = true}}};
+  // 0 to 4 below the slots, 5 to 9 above them.
+  forms::ControlArray<forms::Label> lblp{panels_.Picture5, "lblp", 2 * kSlotsOnPage};
+  // To the next page.
+  forms::SSCommand SSCommand3{
+      panels_.Picture5, "SSCommand3", {.caption = "›", .name = "Pictures after these"}};
 
  private:
   void lblendpic_Change();
@@ -38,10 +54,6 @@ class Browser {
 
   forms::Label& Above(int slot) { return lblp(slot + kSlotsOnPage); }
   forms::Label& Below(int slot) { return lblp(slot); }
-
-  PictureCatalogue& catalogue_;
-  Viewer& viewer_;
-  reader::Panels& panels_;
 };
 
 }  // namespace lectern::gallery

@@ -15,23 +15,7 @@ constexpr int kRemoved = 3;
 }  // namespace
 
 Maintenance::Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, reader::Panels& the_panels)
-    : HelpChangingBook([] {}),
-      Command26(the_panels.Frame5, "Command26", {.caption = "pictures"}),
-      Label2(the_panels.Frame5, "Label2", {.caption = "pictures"}),
-      Label3(the_panels.Frame5, "Label3",
-             {{.caption = "Name"}, {.caption = "Book Chapter: Verce"}, {.caption = "Author"}}),
-      File3(the_panels.Frame6, "File3", {.name = "Files of the pictures"}),
-      SSCommand1(the_panels.Frame5, "SSCommand1", {.caption = "‹", .name = "Move towards the start"}),
-      SSCommand2(the_panels.Frame5, "SSCommand2", {.caption = "›", .name = "Move towards the end"}),
-      Command49(the_panels.Frame5, "Command49", {.caption = "Add 2 Picture File"}),
-      Command45(the_panels.Frame5, "Command45", {.caption = "Remove Duplicate"}),
-      Command47(the_panels.Frame5, "Command47", {.caption = "Remove All"}),
-      Command48(the_panels.Frame5, "Command48", {.name = "No action"}),
-      Command46(the_panels.Frame5, "Command46", {.caption = "Close", .is_cancel = true}),
-      catalogue_(the_catalogue),
-      browser_(the_browser),
-      panels_(the_panels),
-      reader_(catalogue_.reader) {
+    : catalogue_(the_catalogue), browser_(the_browser), panels_(the_panels), reader_(catalogue_.reader) {
   catalogue_.Dirpics.Change = [this] { File3.Path = catalogue_.Dirpics.Path; };
   Command26.Click = [this] { panels_.Frame5.Visible = true; };
   Command46.Click = [this] { panels_.Frame5.Visible = false; };

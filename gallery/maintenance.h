@@ -18,23 +18,41 @@
 namespace lectern::gallery {
 
 class Maintenance {
+  PictureCatalogue& catalogue_;
+  Browser& browser_;
+  reader::Panels& panels_;
+  reader::Reader& reader_;
+
  public:
   Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, reader::Panels& the_panels);
 
   // Writes the help's note on changing books into the help pane; the window that owns both joins it.
-  std::function<void()> HelpChangingBook;
+  std::function<void()> HelpChangingBook = [] {};
 
-  forms::CommandButton Command26;
-  forms::Label Label2;
-  forms::ControlArray<forms::Label> Label3;
-  forms::FileListBox File3;  // the files of the pictures
-  forms::SSCommand SSCommand1;
-  forms::SSCommand SSCommand2;
-  forms::CommandButton Command49;
-  forms::CommandButton Command45;
-  forms::CommandButton Command47;
-  forms::CommandButton Command48;
-  forms::CommandButton Command46;
+  forms::CommandButton Command26{panels_.Frame5, "Command26", {.caption = "pictures"}};  // shows the panel
+  // Shows the help on changing books.
+  forms::Label Label2{panels_.Frame5, "Label2", {.caption = "pictures"}};
+  // Before the boxes of the picked record.
+  forms::ControlArray<forms::Label> Label3{
+      panels_.Frame5,
+      "Label3",
+      {{.caption = "Name"}, {.caption = "Book Chapter: Verce"}, {.caption = "Author"}}};
+  // Files of the pictures.
+  forms::FileListBox File3{panels_.Frame6, "File3", {.name = "Files of the pictures"}};
+  // Moves the picked picture towards the start.
+  forms::SSCommand SSCommand1{
+      panels_.Frame5, "SSCommand1", {.caption = "‹", .name = "Move towards the start"}};
+  // Moves it towards the end.
+  forms::SSCommand SSCommand2{panels_.Frame5, "SSCommand2", {.caption = "›", .name = "Move towards the end"}};
+  // Adds a picture to the catalogue.
+  forms::CommandButton Command49{panels_.Frame5, "Command49", {.caption = "Add 2 Picture File"}};
+  // Removes a duplicate.
+  forms::CommandButton Command45{panels_.Frame5, "Command45", {.caption = "Remove Duplicate"}};
+  // Removes every record of the picture.
+  forms::CommandButton Command47{panels_.Frame5, "Command47", {.caption = "Remove All"}};
+  forms::CommandButton Command48{panels_.Frame5, "Command48", {.name = "No action"}};  // does nothing
+  // Closes the panel.
+  forms::CommandButton Command46{panels_.Frame5, "Command46", {.caption = "Close", .is_cancel = true}};
 
  private:
   void Command49_Click();
@@ -54,11 +72,6 @@ class Maintenance {
   void Keep(const PictureRecord& record);
   void ShowCatalogue(const std::string& page);
   void Move(const std::string& held_name, const std::string& trigger_name);
-
-  PictureCatalogue& catalogue_;
-  Browser& browser_;
-  reader::Panels& panels_;
-  reader::Reader& reader_;
 };
 
 }  // namespace lectern::gallery

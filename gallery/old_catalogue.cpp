@@ -18,11 +18,7 @@ constexpr int kNew = 2;
 }  // namespace
 
 OldCatalogue::OldCatalogue(PictureCatalogue& the_catalogue, Viewer& the_viewer)
-    : catalogue_(the_catalogue),
-      viewer_(the_viewer),
-      reader_(catalogue_.reader),
-      Command38(reader_.form, "Command38",
-                {.caption = "Command38", .name = "Show the chapter's picture of the old catalogue"}) {
+    : catalogue_(the_catalogue), viewer_(the_viewer), reader_(catalogue_.reader) {
   Command38.Click = [this] { Command38_Click(); };
 }
 

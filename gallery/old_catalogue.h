@@ -24,7 +24,11 @@ class OldCatalogue {
   PictureCatalogue& catalogue_;
   Viewer& viewer_;
   reader::Reader& reader_;
-  forms::CommandButton Command38;  // beyond the window's right edge
+  // Shows the chapter's picture of the old catalogue.
+  forms::CommandButton Command38{
+      reader_.form,
+      "Command38",
+      {.caption = "Command38", .name = "Show the chapter's picture of the old catalogue"}};
 };
 
 }  // namespace lectern::gallery

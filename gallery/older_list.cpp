@@ -13,11 +13,7 @@ constexpr int kEmpty = 2;  // slot
 }  // namespace
 
 OlderList::OlderList(PictureCatalogue& the_catalogue, reader::Panels& panels)
-    : Command40(panels.Frame5, "Command40", {.caption = "list?"}),
-      List4(panels.Frame6, "List4", {.name = "Older list of the book's pictures"}),
-      List5(panels.Frame6, "List5", {.name = "Older list of the chapter's pictures"}),
-      catalogue_(the_catalogue),
-      reader_(catalogue_.reader) {
+    : panels_(panels), catalogue_(the_catalogue), reader_(catalogue_.reader) {
   Command40.Click = [this] { Command40_Click(); };
 }
 

@@ -8,20 +8,23 @@
 namespace lectern::gallery {
 
 class OlderList {
+  reader::Panels& panels_;
+  PictureCatalogue& catalogue_;
+  reader::Reader& reader_;
+
  public:
   OlderList(PictureCatalogue& the_catalogue, reader::Panels& panels);
 
   void ListChapterPictures();
 
-  forms::CommandButton Command40;
-  forms::ListBox List4;  // the book's pictures
-  forms::ListBox List5;  // the chapter's
+  forms::CommandButton Command40{panels_.Frame5, "Command40", {.caption = "list?"}};  // fills the two lists
+  // The book's pictures.
+  forms::ListBox List4{panels_.Frame6, "List4", {.name = "Older list of the book's pictures"}};
+  // The chapter's pictures.
+  forms::ListBox List5{panels_.Frame6, "List5", {.name = "Older list of the chapter's pictures"}};
 
  private:
   void Command40_Click();
-
-  PictureCatalogue& catalogue_;
-  reader::Reader& reader_;
 };
 
 }  // namespace lectern::gallery

@@ -26,18 +26,6 @@ void ForEachRecord(files::FileSlots& slots, int slot, Take take) {
 
 }  // namespace
 
-PictureCatalogue::PictureCatalogue(reader::Reader& the_reader, reader::Panels& panels)
-    : reader(the_reader),
-      lstmc(panels.Frame6, "lstmc",
-            {{.name = "Names of the book's pictures"},
-             {.name = "Places of the book's pictures"},
-             {.name = "Authors of the book's pictures"}}),
-      lbltm(panels.Frame6, "lbltm"),
-      selfile(panels.Frame5, "selfile", {{.name = "Name"}, {.name = "Place"}, {.name = "Author"}}),
-      Dirpics(panels.Frame6, "Dirpics", {.name = "Folder of the pictures"}),
-      lblendpic(panels.Frame5, "lblendpic", {.caption = "lblendpic"}),
-      picnm(panels.picp, "picnm", {.name = "Picture of the book"}) {}
-
 std::string PictureCatalogue::PictureFile(std::string_view name) const {
   return (Dirpics.Path + "\\").append(name).append(".jpg");
 }

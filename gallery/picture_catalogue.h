@@ -24,8 +24,11 @@
 namespace lectern::gallery {
 
 class PictureCatalogue {
+  reader::Panels& panels_;
+
  public:
-  PictureCatalogue(reader::Reader& the_reader, reader::Panels& panels);
+  PictureCatalogue(reader::Reader& the_reader, reader::Panels& panels)
+      : panels_(panels), reader(the_reader) {}
 
   // Fills the lists with the pictures of the book that is open: to be called when the book or `pics2.dat` has
   // changed. The strip is then on its first page. Shows no failure.
@@ -54,12 +57,22 @@ class PictureCatalogue {
 
   reader::Reader& reader;
 
-  forms::ControlArray<forms::ListBox> lstmc;    // name, place and author, index by index
-  forms::Label lbltm;                           // the highest chapter with a picture
-  forms::ControlArray<forms::TextBox> selfile;  // the record picked last: name, place, author
-  forms::DirListBox Dirpics;                    // the folder of the pictures
-  forms::Label lblendpic;
-  forms::HScrollBar picnm;
+  // Name, place and author, index by index.
+  forms::ControlArray<forms::ListBox> lstmc{panels_.Frame6,
+                                            "lstmc",
+                                            {{.name = "Names of the book's pictures"},
+                                             {.name = "Places of the book's pictures"},
+                                             {.name = "Authors of the book's pictures"}}};
+  forms::Label lbltm{panels_.Frame6, "lbltm"};  // the highest chapter with a picture
+  // The record picked last: name, place, author.
+  forms::ControlArray<forms::TextBox> selfile{
+      panels_.Frame5, "selfile", {{.name = "Name"}, {.name = "Place"}, {.name = "Author"}}};
+  // The folder of the pictures.
+  forms::DirListBox Dirpics{panels_.Frame6, "Dirpics", {.name = "Folder of the pictures"}};
+  // Index of the last slot on the strip's page.
+  forms::Label lblendpic{panels_.Frame5, "lblendpic", {.caption = "lblendpic"}};
+  // Index of the viewer's picture.
+  forms::HScrollBar picnm{panels_.picp, "picnm", {.name = "Picture of the book"}};
 
  private:
   void ExtractBookPictures();

@@ -5,16 +5,7 @@
 namespace lectern::gallery {
 
 Viewer::Viewer(PictureCatalogue& the_catalogue, reader::Panels& the_panels)
-    : OpenPaint([] {}),
-      LBLPICP(the_panels.picp, "LBLPICP"),
-      lblvs(the_panels.picp, "lblvs"),
-      pick(the_panels.picp, "pick", {.name = "The picture", .stretch = true}),
-      Command32(the_panels.picp, "Command32", {.caption = "Paint"}),
-      Command37(the_panels.picp, "Command37", {.caption = "Close Pictures", .is_cancel = true}),
-      tmrpb(the_panels.picp, "tmrpb", {.enabled = false, .interval = 3000}),
-      catalogue_(the_catalogue),
-      reader_(catalogue_.reader),
-      panels_(the_panels) {
+    : catalogue_(the_catalogue), reader_(catalogue_.reader), panels_(the_panels) {
   pick.BorderStyle = 1;
   catalogue_.picnm.Change = [this] { picnm_Change(); };
   reader_.tmrpic.Tick = [this] { tmrpic_Timer(); };

@@ -14,28 +14,31 @@
 namespace lectern::gallery {
 
 class Viewer {
+  PictureCatalogue& catalogue_;
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+
  public:
   Viewer(PictureCatalogue& the_catalogue, reader::Panels& the_panels);
 
   // Opens the paint window on the picture that is shown; the window that owns both joins it.
-  std::function<void()> OpenPaint;
+  std::function<void()> OpenPaint = [] {};
 
-  forms::Label LBLPICP;  // the picture's name
-  forms::Label lblvs;    // its place
-  forms::Image pick;     // filled by the picture, whatever its proportions
-  forms::CommandButton Command32;
-  forms::CommandButton Command37;
-  forms::Timer tmrpb;
+  forms::Label LBLPICP{panels_.picp, "LBLPICP"};  // the picture's name
+  forms::Label lblvs{panels_.picp, "lblvs"};      // its place
+  // The picture, stretched whatever its proportions.
+  forms::Image pick{panels_.picp, "pick", {.name = "The picture", .stretch = true}};
+  // Opens the picture in paint.
+  forms::CommandButton Command32{panels_.picp, "Command32", {.caption = "Paint"}};
+  // Closes the panel.
+  forms::CommandButton Command37{panels_.picp, "Command37", {.caption = "Close Pictures", .is_cancel = true}};
+  forms::Timer tmrpb{panels_.picp, "tmrpb", {.enabled = false, .interval = 3000}};  // nothing enables it
 
  private:
   void picnm_Change();
   void tmrpic_Timer();
   void tmrpb_Timer();
   void Command37_Click();
-
-  PictureCatalogue& catalogue_;
-  reader::Reader& reader_;
-  reader::Panels& panels_;
 };
 
 }  // namespace lectern::gallery

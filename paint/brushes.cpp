@@ -16,19 +16,7 @@ constexpr int kDotWidths[] = {5, 10, 15, 20, 25, 15};
 
 Brushes::Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, Canvas& the_canvas,
                  PenSettings& the_pen, SaveSlots& the_slots)
-    : Frame5(the_form, "Frame5", {.caption = "Paint Brush Size"}),
-      picpbs(Frame5, "picpbs",
-             {{.name = "Brush 1, the thinnest"},
-              {.name = "Brush 2"},
-              {.name = "Brush 3"},
-              {.name = "Brush 4"},
-              {.name = "Brush 5, the thickest"},
-              {.name = "The chosen brush"}}),
-      form_(the_form),
-      gallery_(the_gallery),
-      canvas_(the_canvas),
-      pen_(the_pen),
-      slots_(the_slots) {
+    : form_(the_form), gallery_(the_gallery), canvas_(the_canvas), pen_(the_pen), slots_(the_slots) {
   picpbs.ForEach([this](int index, forms::PictureBox& box) {
     box.BorderStyle = 0;
     box.AutoSize = index == kChosen;

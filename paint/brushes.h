@@ -12,6 +12,12 @@
 namespace lectern::paint {
 
 class Brushes {
+  forms::Window& form_;
+  gallery::PictureCatalogue& gallery_;
+  Canvas& canvas_;
+  PenSettings& pen_;
+  SaveSlots& slots_;
+
  public:
   Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, Canvas& the_canvas,
           PenSettings& the_pen, SaveSlots& the_slots);
@@ -19,18 +25,20 @@ class Brushes {
   // The pointer of the second brush, which a newly opened picture begins with, whatever the width.
   void ShowFirstPointer();
 
-  forms::Frame Frame5;
-  forms::ControlArray<forms::PictureBox> picpbs;  // thin to thick, and the chosen one
+  forms::Frame Frame5{form_, "Frame5", {.caption = "Paint Brush Size"}};  // holds the brushes
+  // The brushes from thin to thick, and the chosen one.
+  forms::ControlArray<forms::PictureBox> picpbs{Frame5,
+                                                "picpbs",
+                                                {{.name = "Brush 1, the thinnest"},
+                                                 {.name = "Brush 2"},
+                                                 {.name = "Brush 3"},
+                                                 {.name = "Brush 4"},
+                                                 {.name = "Brush 5, the thickest"},
+                                                 {.name = "The chosen brush"}}};
 
  private:
   void picpbs_Click(int index);
   void ShowPointer(int brush);
-
-  forms::Window& form_;
-  gallery::PictureCatalogue& gallery_;
-  Canvas& canvas_;
-  PenSettings& pen_;
-  SaveSlots& slots_;
 };
 
 }  // namespace lectern::paint

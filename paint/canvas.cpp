@@ -14,17 +14,7 @@ constexpr int kPageHeight = 363;
 
 }  // namespace
 
-Canvas::Canvas(forms::Window& the_form, PenSettings& the_pen)
-    : Frame6(the_form, "Frame6"),
-      picbox(Frame6, "picbox", {.name = "Canvas", .back_color = forms::kWhite, .fore_color = forms::kBlack}),
-      imgs(the_form, "imgs",
-           {{.name = "Move the picture right"},
-            {.name = "Move the picture down"},
-            {.name = "Move the picture left"},
-            {.name = "Move the picture up"}}),
-      imgp(the_form, "imgp", {.visible = false}),
-      form_(the_form),
-      pen_(the_pen) {
+Canvas::Canvas(forms::Window& the_form, PenSettings& the_pen) : form_(the_form), pen_(the_pen) {
   picbox.ScaleMode = forms::kScalePixels;
   picbox.MousePointer = forms::kPointerCustom;
   picbox.BorderStyle = 0;

@@ -14,6 +14,9 @@
 namespace lectern::paint {
 
 class Canvas {
+  forms::Window& form_;
+  PenSettings& pen_;
+
  public:
   Canvas(forms::Window& the_form, PenSettings& the_pen);
 
@@ -26,18 +29,23 @@ class Canvas {
   // Gives the canvas the size of the picture that it shows, in the middle.
   void TakePictureSize();
 
-  forms::Frame Frame6;  // the viewport
-  forms::PictureBox picbox;
-  forms::ControlArray<forms::Image> imgs;  // move the canvas: left, up, right, down
-  forms::Image imgp;                       // measures a picture
+  forms::Frame Frame6{form_, "Frame6"};  // the viewport
+  // The canvas.
+  forms::PictureBox picbox{
+      Frame6, "picbox", {.name = "Canvas", .back_color = forms::kWhite, .fore_color = forms::kBlack}};
+  // Move the canvas: left, up, right, down.
+  forms::ControlArray<forms::Image> imgs{form_,
+                                         "imgs",
+                                         {{.name = "Move the picture right"},
+                                          {.name = "Move the picture down"},
+                                          {.name = "Move the picture left"},
+                                          {.name = "Move the picture up"}}};
+  forms::Image imgp{form_, "imgp", {.visible = false}};  // measures a picture
 
  private:
   void picbox_MouseDown(forms::MouseEvent mouse);
   void picbox_MouseMove(forms::MouseEvent mouse);
   void imgs_Click(int index);
-
-  forms::Window& form_;
-  PenSettings& pen_;
 };
 
 }  // namespace lectern::paint

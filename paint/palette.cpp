@@ -7,9 +7,7 @@ namespace lectern::paint {
 
 namespace {
 
-constexpr int kSwatches = 24;
 constexpr forms::Colour kOrange = 33023;
-constexpr forms::Colour kYellow = 65535;
 constexpr int kColours = 1;  // slot
 
 std::string ColourText(forms::Colour colour) { return std::to_string(colour); }
@@ -18,34 +16,7 @@ std::string ColourText(forms::Colour colour) { return std::to_string(colour); }
 
 Palette::Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, PenSettings& the_pen,
                  SaveSlots& the_slots)
-    : Picture1(the_form, "Picture1"),
-      clrbox(Picture1, "clrbox", kSwatches),
-      clrboxs(Picture1, "clrboxs",
-              {{.caption = "x", .name = "Colour 1"},  {.caption = " x", .name = "Colour 2"},
-               {.caption = "X", .name = "Colour 3"},  {.caption = "X", .name = "Colour 4"},
-               {.caption = "X", .name = "Colour 5"},  {.caption = "X", .name = "Colour 6"},
-               {.caption = "X", .name = "Colour 7"},  {.caption = "X", .name = "Colour 8"},
-               {.caption = "X", .name = "Colour 9"},  {.caption = "X", .name = "Colour 10"},
-               {.caption = "X", .name = "Colour 11"}, {.caption = "X", .name = "Colour 12"},
-               {.caption = "X", .name = "Colour 13"}, {.caption = "X", .name = "Colour 14"},
-               {.caption = "X", .name = "Colour 15"}, {.caption = "X", .name = "Colour 16"},
-               {.caption = "X", .name = "Colour 17"}, {.caption = "X", .name = "Colour 18"},
-               {.caption = "X", .name = "Colour 19"}, {.caption = "X", .name = "Colour 20"},
-               {.caption = "X", .name = "Colour 21"}, {.caption = "X", .name = "Colour 22"},
-               {.caption = "X", .name = "Colour 23"}, {.caption = "X", .name = "Colour 24"}}),
-      clr2(Picture1, "clr2", {.name = "The colour in hand", .back_color = kYellow}),
-      Command4(Picture1, "Command4", {.caption = "More Colors"}),
-      Command3(Picture1, "Command3", {.caption = "Save Pallette"}),
-      Frame3(the_form, "Frame3", {.visible = false}),
-      scr1(Frame3, "scr1",
-           {{.max = 25, .name = "Red"}, {.max = 25, .name = "Green"}, {.max = 25, .name = "Blue"}}),
-      Label2(Frame3, "Label2", {{.caption = "Red"}, {.caption = "Blue"}, {.caption = "Green"}}),
-      Text3(Frame3, "Text3", {.text = "Text3", .name = "Pen value"}),
-      Clear(Frame3, "Clear", {.caption = "Hide Color Bars", .is_cancel = true}),
-      form_(the_form),
-      gallery_(the_gallery),
-      pen_(the_pen),
-      slots_(the_slots) {
+    : form_(the_form), gallery_(the_gallery), pen_(the_pen), slots_(the_slots) {
   clrbox.ForEach([](int index, forms::Shape& circle) {
     circle.FigureKind = forms::kShapeCircle;
     circle.BackColor = index == 0 ? kOrange : forms::kRed;

@@ -20,6 +20,13 @@
 namespace lectern::paint {
 
 class Palette {
+  forms::Window& form_;
+  gallery::PictureCatalogue& gallery_;
+  PenSettings& pen_;
+  SaveSlots& slots_;
+  static constexpr int kSwatches = 24;
+  static constexpr forms::Colour kYellow = 65535;
+
  public:
   Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, PenSettings& the_pen,
           SaveSlots& the_slots);
@@ -29,29 +36,45 @@ class Palette {
   // The pair that a newly opened picture begins with.
   void TakeFirstPair();
 
-  forms::PictureBox Picture1;  // the panel
-  forms::ControlArray<forms::Shape> clrbox;
-  forms::ControlArray<forms::Label> clrboxs;
-  forms::PictureBox clr2;  // its colour is the one in hand, as it shows
-  forms::CommandButton Command4;
-  forms::CommandButton Command3;
+  forms::PictureBox Picture1{form_, "Picture1"};                            // the panel
+  forms::ControlArray<forms::Shape> clrbox{Picture1, "clrbox", kSwatches};  // the colours
+  // Over the colours: the swatches to press.
+  forms::ControlArray<forms::Label> clrboxs{
+      Picture1, "clrboxs", {{.caption = "x", .name = "Colour 1"},  {.caption = " x", .name = "Colour 2"},
+                            {.caption = "X", .name = "Colour 3"},  {.caption = "X", .name = "Colour 4"},
+                            {.caption = "X", .name = "Colour 5"},  {.caption = "X", .name = "Colour 6"},
+                            {.caption = "X", .name = "Colour 7"},  {.caption = "X", .name = "Colour 8"},
+                            {.caption = "X", .name = "Colour 9"},  {.caption = "X", .name = "Colour 10"},
+                            {.caption = "X", .name = "Colour 11"}, {.caption = "X", .name = "Colour 12"},
+                            {.caption = "X", .name = "Colour 13"}, {.caption = "X", .name = "Colour 14"},
+                            {.caption = "X", .name = "Colour 15"}, {.caption = "X", .name = "Colour 16"},
+                            {.caption = "X", .name = "Colour 17"}, {.caption = "X", .name = "Colour 18"},
+                            {.caption = "X", .name = "Colour 19"}, {.caption = "X", .name = "Colour 20"},
+                            {.caption = "X", .name = "Colour 21"}, {.caption = "X", .name = "Colour 22"},
+                            {.caption = "X", .name = "Colour 23"}, {.caption = "X", .name = "Colour 24"}}};
+  // Its background is the chosen colour.
+  forms::PictureBox clr2{Picture1, "clr2", {.name = "The colour in hand", .back_color = kYellow}};
+  forms::CommandButton Command4{Picture1, "Command4", {.caption = "More Colors"}};    // shows the colour bars
+  forms::CommandButton Command3{Picture1, "Command3", {.caption = "Save Pallette"}};  // saves the colours
 
-  forms::Frame Frame3;  // the colour bars
-  forms::ControlArray<forms::HScrollBar> scr1;
-  forms::ControlArray<forms::Label> Label2;
-  forms::TextBox Text3;
-  forms::CommandButton Clear;
+  forms::Frame Frame3{form_, "Frame3", {.visible = false}};  // the colour bars
+  // Red, green, blue.
+  forms::ControlArray<forms::HScrollBar> scr1{
+      Frame3,
+      "scr1",
+      {{.max = 25, .name = "Red"}, {.max = 25, .name = "Green"}, {.max = 25, .name = "Blue"}}};
+  // Names of the bars.
+  forms::ControlArray<forms::Label> Label2{
+      Frame3, "Label2", {{.caption = "Red"}, {.caption = "Blue"}, {.caption = "Green"}}};
+  forms::TextBox Text3{Frame3, "Text3", {.text = "Text3", .name = "Pen value"}};  // the pen value
+  // Hides the colour bars.
+  forms::CommandButton Clear{Frame3, "Clear", {.caption = "Hide Color Bars", .is_cancel = true}};
 
  private:
   void clrboxs_MouseDown(int index, const forms::MouseEvent& mouse);
   void scr1_Change();
   void Command3_Click();
   void clr2_Change();
-
-  forms::Window& form_;
-  gallery::PictureCatalogue& gallery_;
-  PenSettings& pen_;
-  SaveSlots& slots_;
 };
 
 }  // namespace lectern::paint

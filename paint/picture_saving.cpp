@@ -13,12 +13,7 @@ constexpr int kCatalogue = 1;  // slot
 
 PictureSaving::PictureSaving(forms::Window& the_form, gallery::PictureCatalogue& the_gallery,
                              gallery::Viewer& the_viewer, Canvas& the_canvas, Palette& palette)
-    : Command5(palette.Picture1, "Command5", {.caption = "New"}),
-      Command2(the_form, "Command2", {.caption = "Save Picture"}),
-      form_(the_form),
-      gallery_(the_gallery),
-      viewer_(the_viewer),
-      canvas_(the_canvas) {
+    : palette_(palette), form_(the_form), gallery_(the_gallery), viewer_(the_viewer), canvas_(the_canvas) {
   Command5.Click = [this] { Command5_Click(); };
   Command2.Click = [this] { Command2_Click(); };
 }

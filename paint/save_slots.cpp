@@ -5,17 +5,7 @@
 namespace lectern::paint {
 
 SaveSlots::SaveSlots(forms::Window& the_form, Canvas& the_canvas, Zoom& the_zoom)
-    : Frame7(the_form, "Frame7", {.caption = "   Original               Saves  "}),
-      IMGSPB(Frame7, "IMGSPB",
-             {{.name = "Original", .stretch = true},
-              {.name = "Save 1, the oldest", .stretch = true},
-              {.name = "Save 2", .stretch = true},
-              {.name = "Save 3", .stretch = true},
-              {.name = "Save 4, the newest", .stretch = true}}),
-      Line2(Frame7, "Line2"),
-      form_(the_form),
-      canvas_(the_canvas),
-      zoom_(the_zoom) {
+    : form_(the_form), canvas_(the_canvas), zoom_(the_zoom) {
   IMGSPB.ForEach([this](int index, forms::Image& slot) {
     slot.BorderStyle = 1;
     slot.Click = [this, index] { IMGSPB_Click(index); };

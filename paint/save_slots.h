@@ -13,6 +13,10 @@
 namespace lectern::paint {
 
 class SaveSlots {
+  forms::Window& form_;
+  Canvas& canvas_;
+  Zoom& zoom_;
+
  public:
   SaveSlots(forms::Window& the_form, Canvas& the_canvas, Zoom& the_zoom);
 
@@ -20,16 +24,19 @@ class SaveSlots {
   // file, which nothing reads.
   void TakeSnapshot(const std::string& scratch_file);
 
-  forms::Frame Frame7;
-  forms::ControlArray<forms::Image> IMGSPB;  // the original, then the states from the oldest to the newest
-  forms::Line Line2;
+  forms::Frame Frame7{form_, "Frame7", {.caption = "   Original               Saves  "}};  // holds the slots
+  // The original, then the states from the oldest to the newest.
+  forms::ControlArray<forms::Image> IMGSPB{Frame7,
+                                           "IMGSPB",
+                                           {{.name = "Original", .stretch = true},
+                                            {.name = "Save 1, the oldest", .stretch = true},
+                                            {.name = "Save 2", .stretch = true},
+                                            {.name = "Save 3", .stretch = true},
+                                            {.name = "Save 4, the newest", .stretch = true}}};
+  forms::Line Line2{Frame7, "Line2"};  // between the original and the states
 
  private:
   void IMGSPB_Click(int index);
-
-  forms::Window& form_;
-  Canvas& canvas_;
-  Zoom& zoom_;
 };
 
 }  // namespace lectern::paint

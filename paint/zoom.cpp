@@ -14,13 +14,7 @@ std::int32_t HalfOf(double length) { return text::RoundToLong(length) / 2; }
 
 }  // namespace
 
-Zoom::Zoom(forms::Window& form, Canvas& the_canvas)
-    : cmdm(form, "cmdm",
-           {{.caption = "      +", .name = "Zoom in"},
-            {.caption = "      -", .enabled = false, .name = "Zoom out"}}),
-      txt5(form, "txt5", {.text = "0", .name = "Zoom level"}),
-      picbox2(form, "picbox2", {.visible = false}),
-      canvas_(the_canvas) {
+Zoom::Zoom(forms::Window& form, Canvas& the_canvas) : form_(form), canvas_(the_canvas) {
   cmdm.ForEach([this](int index, forms::SSCommand& button) {
     button.Picture = GlassPicture();
     button.Click = [this, index] { cmdm_Click(index); };

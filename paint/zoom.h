@@ -11,18 +11,23 @@
 namespace lectern::paint {
 
 class Zoom {
+  forms::Window& form_;
+  Canvas& canvas_;
+
  public:
   Zoom(forms::Window& form, Canvas& the_canvas);
 
-  forms::ControlArray<forms::SSCommand> cmdm;  // in, out
-  forms::TextBox txt5;                         // the level
-  forms::Image picbox2;                        // the size that comes next
+  // In, out.
+  forms::ControlArray<forms::SSCommand> cmdm{form_,
+                                             "cmdm",
+                                             {{.caption = "      +", .name = "Zoom in"},
+                                              {.caption = "      -", .enabled = false, .name = "Zoom out"}}};
+  forms::TextBox txt5{form_, "txt5", {.text = "0", .name = "Zoom level"}};  // the level
+  forms::Image picbox2{form_, "picbox2", {.visible = false}};               // the size that comes next
 
  private:
   bool IsTooLargeToDouble() const;
   void cmdm_Click(int index);
-
-  Canvas& canvas_;
 };
 
 }  // namespace lectern::paint

@@ -31,8 +31,7 @@ std::optional<int> ChapterCount(forms::Window& form, std::string_view path, std:
   return found;
 }
 
-ChapterCounts::ChapterCounts(Reader& the_reader)
-    : reader_(the_reader), Command12(reader_.form, "Command12", {.caption = "make baokschap.txt"}) {
+ChapterCounts::ChapterCounts(Reader& the_reader) : reader_(the_reader) {
   Command12.Click = [this] { Command12_Click(); };
 }
 

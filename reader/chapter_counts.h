@@ -7,10 +7,9 @@
 
 #include "forms/buttons.h"
 #include "forms/window.h"
+#include "reader/reader.h"
 
 namespace lectern::reader {
-
-class Reader;
 
 class ChapterCounts {
  public:
@@ -20,7 +19,8 @@ class ChapterCounts {
   void Command12_Click();
 
   Reader& reader_;
-  forms::CommandButton Command12;  // makes the file, for preparing the data
+  // Makes the file, for preparing the data.
+  forms::CommandButton Command12{reader_.form, "Command12", {.caption = "make baokschap.txt"}};
 };
 
 // The number of chapters of a book, whose name is compared without regard to case; nothing where the file has

@@ -28,11 +28,7 @@ constexpr Swatch kSwatches[] = {
 
 }  // namespace
 
-DesktopColour::DesktopColour(Panels& the_panels)
-    : panels_(the_panels),
-      Option2(panels_.Picture23, "Option2", {.caption = "Front Color", .checked = true}),
-      Option3(panels_.Picture23, "Option3", {.caption = "Back Color"}),
-      Picture24(panels_.Picture23, "Picture24", {.name = "Colours"}) {
+DesktopColour::DesktopColour(Panels& the_panels) : panels_(the_panels) {
   for (const Swatch& swatch : kSwatches) {
     forms::PictureBox& box = swatches_.emplace_back(
         Picture24, swatch.control, forms::PictureBoxDesign{.name = swatch.name, .back_color = swatch.colour});

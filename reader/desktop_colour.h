@@ -20,9 +20,11 @@ class DesktopColour {
   void ApplyDesktopColour();
 
   Panels& panels_;
-  forms::OptionButton Option2;  // the panels; set at start
-  forms::OptionButton Option3;  // the window
-  forms::PictureBox Picture24;  // the strip
+  // Colours the panels; set at the start.
+  forms::OptionButton Option2{panels_.Picture23, "Option2", {.caption = "Front Color", .checked = true}};
+  // Colours the window.
+  forms::OptionButton Option3{panels_.Picture23, "Option3", {.caption = "Back Color"}};
+  forms::PictureBox Picture24{panels_.Picture23, "Picture24", {.name = "Colours"}};  // holds the swatches
   std::deque<forms::PictureBox> swatches_;
   std::string ChosenColour;  // a colour number as text, signed
 };

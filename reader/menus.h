@@ -8,34 +8,38 @@
 namespace lectern::reader {
 
 class Menus {
+  forms::Window& form_;
+
  public:
-  explicit Menus(forms::Window& form);
+  explicit Menus(forms::Window& form) : form_(form) {}
 
-  forms::Menu ff;  // File
-  forms::Menu xb;
-  forms::Menu ff0;  // line
-  forms::Menu xx;
+  forms::Menu ff{form_, "ff", {.caption = "&File"}};     // File
+  forms::Menu xb{ff, "xb", {.caption = "&Bookmarker"}};  // opens the bookmarks
+  forms::Menu ff0{ff, "ff0", {.caption = "-"}};          // line
+  forms::Menu xx{ff, "xx", {.caption = "E&xit"}};        // ends the program
 
-  forms::Menu cc;  // Codex: doors to the panels that leave the tool buttons as they are
-  forms::Menu cc0;
-  forms::Menu cc1;
-  forms::Menu cc2;
-  forms::Menu cc3;
-  forms::Menu cc4;
+  // Codex: opens panels and leaves the tool buttons as they are.
+  forms::Menu cc{form_, "cc", {.caption = "C&odex"}};
+  forms::Menu cc0{cc, "cc0", {.caption = "&Notes"}};        // opens the notes
+  forms::Menu cc1{cc, "cc1", {.caption = "&Concordance"}};  // opens the concordance
+  forms::Menu cc2{cc, "cc2", {.caption = "&Dictionary"}};   // opens the dictionary
+  forms::Menu cc3{cc, "cc3", {.caption = "&Search"}};       // opens the search
+  forms::Menu cc4{cc, "cc4", {.caption = "&Trivia"}};       // opens the trivia
 
-  forms::Menu dd1;  // stories
+  forms::Menu dd1{form_, "dd1", {.caption = "Codex &Stories"}};  // the stories, which add their entries
 
-  forms::Menu oo;  // Options
-  forms::Menu oo11;
-  forms::Menu oo12;  // on at every start, never stored
+  forms::Menu oo{form_, "oo", {.caption = "O&ptions"}};        // Options
+  forms::Menu oo11{oo, "oo11", {.caption = "Fonts/Desktop"}};  // opens fonts and colours
+  // On at every start, never stored.
+  forms::Menu oo12{oo, "oo12", {.caption = "Save settings on exit", .checked = true}};
 
-  forms::Menu webb;  // web pages
-  forms::Menu webb1;
-  forms::Menu webb2;
+  forms::Menu webb{form_, "webb", {.caption = "Internet"}};       // web pages
+  forms::Menu webb1{webb, "webb1", {.caption = "Lectern"}};       // the program's page
+  forms::Menu webb2{webb, "webb2", {.caption = "My Main Page"}};  // the author's page
 
-  forms::Menu xh;  // help
-  forms::Menu aboutlt;
-  forms::Menu xh2;
+  forms::Menu xh{form_, "xh", {.caption = "&Help"}};         // Help
+  forms::Menu aboutlt{xh, "aboutlt", {.caption = "About"}};  // what the program is
+  forms::Menu xh2{xh, "xh2", {.caption = "Help"}};           // opens the help
 };
 
 }  // namespace lectern::reader

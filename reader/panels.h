@@ -11,31 +11,41 @@
 namespace lectern::reader {
 
 class Panels {
+  forms::Window& form_;
+
  public:
   explicit Panels(forms::Window& form);
 
-  forms::PictureBox Picture6;  // the row of tool buttons
-  forms::PictureBox Picture5;  // the strip of pictures
+  forms::PictureBox Picture6{form_, "Picture6"};  // the row of tool buttons
+  forms::PictureBox Picture5{form_, "Picture5"};  // the strip of pictures
 
-  forms::PictureBox picp;       // one picture at full size
-  forms::Frame frms;            // text search
-  forms::Frame frmc;            // concordance
-  forms::PictureBox frmhelp;    // help
-  forms::PictureBox Picture17;  // trivia
-  forms::PictureBox Picture1;   // bookmarks
-  forms::PictureBox Picture2;   // in the bookmarks: steps the chapter
-  forms::PictureBox Picture23;  // fonts and colours
-  forms::Frame frmd;            // dictionary
-  forms::PictureBox Picture4;   // second text pane
+  // The viewer: one picture at full size.
+  forms::PictureBox picp{form_, "picp", {.visible = false, .name = "Picture"}};
+  forms::Frame frms{form_, "frms", {.visible = false, .name = "Search"}};                  // text search
+  forms::Frame frmc{form_, "frmc", {.visible = false, .name = "Concordance"}};             // concordance
+  forms::PictureBox frmhelp{form_, "frmhelp", {.visible = false, .name = "Help"}};         // help
+  forms::PictureBox Picture17{form_, "Picture17", {.visible = false, .name = "Trivia"}};   // trivia
+  forms::PictureBox Picture1{form_, "Picture1", {.visible = false, .name = "Bookmarks"}};  // bookmarks
+  // In the bookmarks: steps through the chapters.
+  forms::PictureBox Picture2{
+      Picture1, "Picture2", {.name = "Sweep the pointer to step through the chapters"}};
+  // Fonts and colours.
+  forms::PictureBox Picture23{form_, "Picture23", {.visible = false, .name = "Fonts and desktop"}};
+  forms::Frame frmd{form_, "frmd", {.visible = false, .name = "Dictionary"}};  // dictionary
+  // Second text pane.
+  forms::PictureBox Picture4{form_, "Picture4", {.visible = false, .name = "Second text"}};
 
-  forms::Frame frmscale;  // in the text search: progress of a scan of the whole text
+  // In the search: progress through the whole text.
+  forms::Frame frmscale{frms, "frmscale", {.visible = false, .name = "Progress"}};
 
-  forms::Frame Frame1;  // holds the folders
-  forms::Frame FRMMARK;
-  forms::Label Label22;
-  forms::Frame Frame2;  // concordance builder
-  forms::Frame Frame5;  // upkeep of the pictures
-  forms::Frame Frame6;
+  forms::Frame Frame1{form_, "Frame1"};     // storage: the folders
+  forms::Frame FRMMARK{Frame1, "FRMMARK"};  // storage: takes the colour of the panels
+  forms::Label Label22{FRMMARK, "Label22", {.caption = "BOOK MARK"}};  // storage: heading of FRMMARK
+  // Keeper's tools: the concordance builder.
+  forms::Frame Frame2{form_, "Frame2", {.caption = "make concordance"}};
+  // Keeper's tools: upkeep of the pictures.
+  forms::Frame Frame5{form_, "Frame5", {.caption = "pictures", .visible = false}};
+  forms::Frame Frame6{Frame5, "Frame6", {.caption = "needs"}};  // storage in Frame5: the picture lists
 };
 
 }  // namespace lectern::reader

@@ -12,35 +12,7 @@
 namespace lectern::reader {
 
 Reader::Reader(forms::Window& window, Panels& panels)
-    : form(window),
-      Dir1(panels.Frame1, "Dir1"),
-      Dir3(panels.Frame1, "Dir3"),
-      lblbook(form, "lblbook", {.visible = false}),
-      lblbk(form, "lblbk"),
-      lblc(form, "lblc", {.caption = "00"}),
-      LBLVR(form, "LBLVR", {.caption = "King James Version"}),
-      Label30(form, "Label30", {.caption = "Book of"}),
-      Label21(form, "Label21", {.caption = "Chapter"}),
-      optk(form, "optk", {.name = "King James Version", .checked = true}),
-      optn(form, "optn", {.name = "Revised Standard Version"}),
-      Label34(form, "Label34", {.caption = "KJV"}),
-      Label35(form, "Label35", {.caption = "NEW"}),
-      lst(form, "lst", {.name = "Books"}),
-      scr(form, "scr",
-          {.value = 1,
-           .min = 1,
-           .max = 32767,
-           .name = "Chapter",
-           .key_back = "Ctrl+PgUp",
-           .key_on = "Ctrl+PgDown"}),
-      rtxt(form, "rtxt", {.name = "Text of the chapter", .read_only = true}),
-      List1(form, "List1"),
-      LBLMRK(panels.Picture1, "LBLMRK", {{.caption = "NAME"}, {.caption = "BOOK"}, {.caption = "CHAPTER"}}),
-      tmrpic(form, "tmrpic", {.enabled = false, .interval = 5000}),
-      BookChanged([] {}),
-      ChapterShown([] {}),
-      search_panel_(panels.frms),
-      chapter_store_(*this) {
+    : panels_(panels), search_panel_(panels.frms), form(window) {
   lblc.Change = [this] { lblc_Change(); };
   lblbk.Change = [this] { lblbk_Change(); };
   lst.Click = [this] { lst_Click(); };

@@ -33,6 +33,9 @@
 namespace lectern::reader {
 
 class Reader {
+  Panels& panels_;
+  forms::Frame& search_panel_;
+
  public:
   Reader(forms::Window& window, Panels& panels);
 
@@ -94,34 +97,46 @@ class Reader {
 
   forms::Window& form;
 
-  forms::DirListBox Dir1;  // the data folder; all paths are built on it
-  forms::DirListBox Dir3;  // the folder of the version that is set
+  forms::DirListBox Dir1{panels_.Frame1, "Dir1"};  // the data folder; all paths are built on it
+  forms::DirListBox Dir3{panels_.Frame1, "Dir3"};  // the folder of the version that is set
 
-  forms::Label lblbook;  // stem of the book's file
-  forms::Label lblbk;    // the book's name as it is shown
-  forms::Label lblc;     // the chapter; "" while a jump is under way
-  forms::Label LBLVR;    // name of the version
-  forms::Label Label30;
-  forms::Label Label21;
+  forms::Label lblbook{form, "lblbook", {.visible = false}};  // stem of the book's file
+  forms::Label lblbk{form, "lblbk"};                          // the book's name as it is shown
+  forms::Label lblc{form, "lblc", {.caption = "00"}};         // the chapter; "" while a jump is under way
+  forms::Label LBLVR{form, "LBLVR", {.caption = "King James Version"}};  // name of the version
+  forms::Label Label30{form, "Label30", {.caption = "Book of"}};         // stands before the book
+  forms::Label Label21{form, "Label21", {.caption = "Chapter"}};         // stands before the chapter
 
-  forms::OptionButton optk;  // first version: the only one of the two that is ever read
-  forms::OptionButton optn;
-  forms::Label Label34;
-  forms::Label Label35;
+  // First version: the only one of the two that is ever read.
+  forms::OptionButton optk{form, "optk", {.name = "King James Version", .checked = true}};
+  forms::OptionButton optn{form, "optn", {.name = "Revised Standard Version"}};  // second version
+  forms::Label Label34{form, "Label34", {.caption = "KJV"}};  // beside optk: its short name
+  forms::Label Label35{form, "Label35", {.caption = "NEW"}};  // beside optn: its short name
 
-  forms::ListBox lst;       // the books, at once names and file stems
-  forms::HScrollBar scr;    // the chapter
-  forms::RichTextBox rtxt;  // the text
-  forms::ListBox List1;     // off the window; nothing fills it
+  forms::ListBox lst{form, "lst", {.name = "Books"}};  // the books, at once names and file stems
+  // The chapter.
+  forms::HScrollBar scr{form,
+                        "scr",
+                        {.value = 1,
+                         .min = 1,
+                         .max = 32767,
+                         .name = "Chapter",
+                         .key_back = "Ctrl+PgUp",
+                         .key_on = "Ctrl+PgDown"}};
+  forms::RichTextBox rtxt{form, "rtxt", {.name = "Text of the chapter", .read_only = true}};  // the text
+  forms::ListBox List1{form, "List1"};  // off the window; nothing fills it
 
   // What follows the chapter without being part of the position.
-  forms::ControlArray<forms::Label> LBLMRK;  // the bookmark in hand: name, book, chapter
-  forms::Timer tmrpic;                       // slide show of the book's pictures
+  // The bookmark in hand: name, book, chapter.
+  forms::ControlArray<forms::Label> LBLMRK{
+      panels_.Picture1, "LBLMRK", {{.caption = "NAME"}, {.caption = "BOOK"}, {.caption = "CHAPTER"}}};
+  // Slide show of the book's pictures.
+  forms::Timer tmrpic{form, "tmrpic", {.enabled = false, .interval = 5000}};
 
   // Joined by the window: the picture lists for the book that lblbk names, and the picture of a chapter that
   // was loaded. Neither raises an error.
-  std::function<void()> BookChanged;
-  std::function<void()> ChapterShown;
+  std::function<void()> BookChanged = [] {};
+  std::function<void()> ChapterShown = [] {};
 
  private:
   void lblc_Change();
@@ -133,8 +148,7 @@ class Reader {
   void LoadChapterRange();
   void ChangeVersion(const Version& version);
 
-  forms::Frame& search_panel_;
-  ChapterStore chapter_store_;
+  ChapterStore chapter_store_{*this};
 };
 
 }  // namespace lectern::reader

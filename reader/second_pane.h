@@ -10,12 +10,17 @@
 namespace lectern::reader {
 
 class SecondPane {
+  Panels& panels_;
+
  public:
   explicit SecondPane(Panels& panels);
 
-  forms::RichTextBox RTXT2;
-  forms::Label Label36;
-  forms::CommandButton Command34;
+  // The text.
+  forms::RichTextBox RTXT2{
+      panels_.Picture4, "RTXT2", {.name = "Text of the other version", .read_only = true}};
+  forms::Label Label36{panels_.Picture4, "Label36"};  // name of the version
+  // Closes the pane.
+  forms::CommandButton Command34{panels_.Picture4, "Command34", {.caption = "Close", .is_cancel = true}};
 };
 
 }  // namespace lectern::reader

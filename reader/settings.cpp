@@ -34,24 +34,7 @@ void SetStyle(forms::TextControl& control, std::string_view style) {
 
 Settings::Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pane, Menus& menus,
                    ToolButtons& the_tools)
-    : PointAtSearchButton([](int) {}),
-      Combo1(the_panels.Picture23, "Combo1", {.name = "Font"}),
-      Combo2(the_panels.Picture23, "Combo2", {.name = "Size"}),
-      Combo3(the_panels.Picture23, "Combo3", {.name = "Style"}),
-      reader_(the_reader),
-      panels_(the_panels),
-      tools_(the_tools),
-      RTXT2(second_pane.RTXT2),
-      lblsetting(panels_.Picture23, "lblsetting",
-                 {{.caption = "Fonts and desktop"},
-                  {.caption = "Font"},
-                  {.caption = "Size"},
-                  {.caption = "Style"},
-                  {.caption = "Colors"}}),
-      lblf(panels_.Picture23, "lblf", {{.caption = "A B C D E F G"}, {.caption = "a b c d e f g"}}),
-      colours_(panels_),
-      Command36(panels_.Picture23, "Command36", {.caption = "Save", .is_default = true}),
-      Command24(panels_.Picture23, "Command24", {.caption = "Close", .is_cancel = true}) {
+    : reader_(the_reader), panels_(the_panels), tools_(the_tools), RTXT2(second_pane.RTXT2) {
   menus.oo11.Click = [this] { oo11_Click(); };
   for (forms::ComboBox* box : {&Combo1, &Combo2, &Combo3}) {
     box->Click = [this] { Combo_Click(); };

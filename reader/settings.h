@@ -20,6 +20,11 @@
 namespace lectern::reader {
 
 class Settings {
+  Reader& reader_;
+  Panels& panels_;
+  ToolButtons& tools_;
+  forms::RichTextBox& RTXT2;
+
  public:
   Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pane, Menus& menus,
            ToolButtons& the_tools);
@@ -29,11 +34,11 @@ class Settings {
   void ReadSettings();
 
   // Joined by the window: shows a pointer over the search button, which waits while a font is tried on.
-  std::function<void(int pointer)> PointAtSearchButton;
+  std::function<void(int pointer)> PointAtSearchButton = [](int) {};
 
-  forms::ComboBox Combo1;  // font
-  forms::ComboBox Combo2;  // size
-  forms::ComboBox Combo3;  // style
+  forms::ComboBox Combo1{panels_.Picture23, "Combo1", {.name = "Font"}};   // font
+  forms::ComboBox Combo2{panels_.Picture23, "Combo2", {.name = "Size"}};   // size
+  forms::ComboBox Combo3{panels_.Picture23, "Combo3", {.name = "Style"}};  // style
 
  private:
   void oo11_Click();
@@ -44,16 +49,22 @@ class Settings {
   void ApplyFontSamples();
   void ApplyFontToPanes();
 
-  Reader& reader_;
-  Panels& panels_;
-  ToolButtons& tools_;
-  forms::RichTextBox& RTXT2;
-
-  forms::ControlArray<forms::Label> lblsetting;  // heading, and what each box is for
-  forms::ControlArray<forms::Label> lblf;        // samples
-  DesktopColour colours_;
-  forms::CommandButton Command36;
-  forms::CommandButton Command24;
+  // Heading, and what each box is for.
+  forms::ControlArray<forms::Label> lblsetting{panels_.Picture23,
+                                               "lblsetting",
+                                               {{.caption = "Fonts and desktop"},
+                                                {.caption = "Font"},
+                                                {.caption = "Size"},
+                                                {.caption = "Style"},
+                                                {.caption = "Colors"}}};
+  // Samples of the font.
+  forms::ControlArray<forms::Label> lblf{
+      panels_.Picture23, "lblf", {{.caption = "A B C D E F G"}, {.caption = "a b c d e f g"}}};
+  DesktopColour colours_{panels_};
+  // Saves.
+  forms::CommandButton Command36{panels_.Picture23, "Command36", {.caption = "Save", .is_default = true}};
+  // Closes the panel.
+  forms::CommandButton Command24{panels_.Picture23, "Command24", {.caption = "Close", .is_cancel = true}};
 };
 
 }  // namespace lectern::reader

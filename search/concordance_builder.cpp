@@ -16,18 +16,7 @@ constexpr int kTarget = 5;
 
 ConcordanceBuilder::ConcordanceBuilder(reader::Reader& the_reader, reader::Panels& the_panels,
                                        TextSearch& the_search)
-    : Command27(the_panels.Frame2, "Command27", {.caption = "Make"}),
-      Command23(the_panels.Frame2, "Command23", {.caption = "Cancel"}),
-      List2(the_panels.Frame2, "List2", {.name = "Words to be looked up"}),
-      lbln(the_panels.Frame2, "lbln", {.caption = "-1"}),
-      Label32(the_panels.Frame2, "Label32"),
-      pbar2(the_panels.Frame2, "pbar2", {.name = "Words done"}),
-      Text2(the_panels.Frame2, "Text2", {.name = "Hits"}),
-      Text1(the_panels.Frame2, "Text1", {.name = "Text1"}),
-      Timer2(the_reader.form, "Timer2", {.enabled = false, .interval = 1}),
-      reader_(the_reader),
-      panels_(the_panels),
-      search_(the_search) {
+    : reader_(the_reader), panels_(the_panels), search_(the_search) {
   Command27.Click = [this] { Command27_Click(); };
   Command23.Click = [this] { Timer2.Enabled = false; };
   Timer2.Tick = [this] { Timer2_Timer(); };

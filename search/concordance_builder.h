@@ -16,18 +16,25 @@
 namespace lectern::search {
 
 class ConcordanceBuilder {
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  TextSearch& search_;
+
  public:
   ConcordanceBuilder(reader::Reader& the_reader, reader::Panels& the_panels, TextSearch& the_search);
 
-  forms::CommandButton Command27;  // makes
-  forms::CommandButton Command23;  // cancels
-  forms::ListBox List2;            // the words
-  forms::Label lbln;               // place of the current one; "-1" before the list is loaded
-  forms::Label Label32;            // how far it has come
-  forms::ProgressBar pbar2;        // words
-  forms::TextBox Text2;
-  forms::TextBox Text1;
-  forms::Timer Timer2;
+  forms::CommandButton Command27{panels_.Frame2, "Command27", {.caption = "Make"}};    // starts the builder
+  forms::CommandButton Command23{panels_.Frame2, "Command23", {.caption = "Cancel"}};  // cancels it
+  forms::ListBox List2{panels_.Frame2, "List2", {.name = "Words to be looked up"}};    // the words to look up
+  // Index of the current word; "-1" before the list is loaded.
+  forms::Label lbln{panels_.Frame2, "lbln", {.caption = "-1"}};
+  forms::Label Label32{panels_.Frame2, "Label32"};                            // how far the builder has come
+  forms::ProgressBar pbar2{panels_.Frame2, "pbar2", {.name = "Words done"}};  // words done
+  // The chosen word; the number of hits of a build in one pass.
+  forms::TextBox Text2{panels_.Frame2, "Text2", {.name = "Hits"}};
+  forms::TextBox Text1{panels_.Frame2, "Text1", {.name = "Text1"}};  // nothing uses it
+  // Looks up the next word when the search is idle.
+  forms::Timer Timer2{reader_.form, "Timer2", {.enabled = false, .interval = 1}};
 
  private:
   void Command27_Click();
@@ -35,10 +42,6 @@ class ConcordanceBuilder {
   void LoadWords();
   void WriteResults();
   void List2_Click();
-
-  reader::Reader& reader_;
-  reader::Panels& panels_;
-  TextSearch& search_;
 };
 
 }  // namespace lectern::search

@@ -18,10 +18,7 @@ constexpr int kWorkFile = 2;
 ConcordanceEditing::ConcordanceEditing(reader::Reader& the_reader, reader::Panels& the_panels,
                                        reader::ErrorReport& the_report, TextSearch& the_search,
                                        ResultNavigation& the_results, ConcordanceViewer& the_viewer)
-    : Command21(the_panels.frmc, "Command21", {.caption = "Delete Word/Phrase"}),
-      Command18(the_panels.Frame2, "Command18",
-                {.caption = "Command18", .name = "Cut the file back to its true end"}),
-      reader_(the_reader),
+    : reader_(the_reader),
       panels_(the_panels),
       report_(the_report),
       search_(the_search),

@@ -11,12 +11,22 @@
 namespace lectern::search {
 
 class ConcordanceEditing {
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ErrorReport& report_;
+  TextSearch& search_;
+  ResultNavigation& results_;
+  ConcordanceViewer& viewer_;
+
  public:
   ConcordanceEditing(reader::Reader& the_reader, reader::Panels& the_panels, reader::ErrorReport& the_report,
                      TextSearch& the_search, ResultNavigation& the_results, ConcordanceViewer& the_viewer);
 
-  forms::CommandButton Command21;  // deletes the selected word
-  forms::CommandButton Command18;  // on the builder's panel: cuts a file back to its true end
+  // Deletes the chosen word.
+  forms::CommandButton Command21{panels_.frmc, "Command21", {.caption = "Delete Word/Phrase"}};
+  // On the builder's panel: cuts the file back to its true end.
+  forms::CommandButton Command18{
+      panels_.Frame2, "Command18", {.caption = "Command18", .name = "Cut the file back to its true end"}};
 
  private:
   void cmdadd_Click();
@@ -24,13 +34,6 @@ class ConcordanceEditing {
   void Command21_Click();
   void CopyOtherWords(const std::string& word);
   void Command18_Click();
-
-  reader::Reader& reader_;
-  reader::Panels& panels_;
-  reader::ErrorReport& report_;
-  TextSearch& search_;
-  ResultNavigation& results_;
-  ConcordanceViewer& viewer_;
 };
 
 }  // namespace lectern::search

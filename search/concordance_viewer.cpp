@@ -38,17 +38,7 @@ std::optional<Passage> ParseReference(std::string_view reference) {
 ConcordanceViewer::ConcordanceViewer(reader::Reader& the_reader, reader::Panels& the_panels,
                                      reader::ToolButtons& the_tools, reader::Menus& menus,
                                      TextSearch& the_search)
-    : lblwords(the_panels.frmc, "lblwords", {.caption = "Words"}),
-      lstc(the_panels.frmc, "lstc", {.name = "Words of the concordance", .sorted = true}),
-      lblw(the_panels.frmc, "lblw", {.caption = "click on word"}),
-      lblmatches2(the_panels.frmc, "lblmatches2", {.caption = "Matches "}),
-      text6(the_panels.frmc, "text6", {.caption = "00"}),
-      lstc2(the_panels.frmc, "lstc2", {.name = "Verses of the word"}),
-      Command9(the_panels.frmc, "Command9", {.caption = "Close Concordance", .is_cancel = true}),
-      reader_(the_reader),
-      panels_(the_panels),
-      tools_(the_tools),
-      search_(the_search) {
+    : reader_(the_reader), panels_(the_panels), tools_(the_tools), search_(the_search) {
   tools_.Command8.Click = [this] { Command8_Click(); };
   menus.cc1.Click = [this] { cc1_Click(); };
   lstc.Click = [this] { lstc_Click(); };

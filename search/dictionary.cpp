@@ -6,27 +6,11 @@ namespace {
 
 constexpr int kWords = 1;  // slot
 
-constexpr forms::LabelDesign Shadow(const char* caption) {
-  return {.caption = caption, .is_echo = true, .fore_color = forms::kButtonShadow};
-}
-
 }  // namespace
 
 Dictionary::Dictionary(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
                        reader::Menus& menus, reader::ErrorReport& the_error_report)
-    : reader_(the_reader),
-      panels_(the_panels),
-      tools_(the_tools),
-      error_report_(the_error_report),
-      lstd(panels_.frmd, "lstd", {.name = "Words of the dictionary"}),
-      dwd2(panels_.frmd, "dwd2", Shadow("Word")),
-      ddf2(panels_.frmd, "ddf2", Shadow("Definition")),
-      dex2(panels_.frmd, "dex2", Shadow("used in a verce")),
-      linedic(panels_.frmd, "linedic"),
-      dwd(panels_.frmd, "dwd", {.caption = "Word"}),
-      ddf(panels_.frmd, "ddf", {.caption = "Definition"}),
-      dex(panels_.frmd, "dex", {.caption = "used in a verce"}),  // ODDITY(kept-spelling)
-      Command19(panels_.frmd, "Command19", {.caption = "Close Dictionary", .is_cancel = true}) {
+    : reader_(the_reader), panels_(the_panels), tools_(the_tools), error_report_(the_error_report) {
   tools_.Command17.Click = [this] { Command17_Click(); };
   menus.cc2.Click = [this] { cc2_Click(); };
   lstd.MouseDown = [this](const forms::MouseEvent&) { lstd_MouseDown(); };

@@ -34,18 +34,29 @@ class Dictionary {
   reader::ToolButtons& tools_;
   reader::ErrorReport& error_report_;
 
-  forms::ListBox lstd;  // the words, in file order
+  // The words, in file order.
+  forms::ListBox lstd{panels_.frmd, "lstd", {.name = "Words of the dictionary"}};
 
   // Each text stands twice, the second one below and a little aside, as the shadow of the first.
-  forms::Label dwd2;
-  forms::Label ddf2;
-  forms::Label dex2;
-  forms::Line linedic;  // between the definition and the verse
-  forms::Label dwd;     // the word that was chosen
-  forms::Label ddf;     // its definition
-  forms::Label dex;     // a verse that uses it, and where that stands
+  // Shadow of dwd.
+  forms::Label dwd2{
+      panels_.frmd, "dwd2", {.caption = "Word", .is_echo = true, .fore_color = forms::kButtonShadow}};
+  // Shadow of ddf.
+  forms::Label ddf2{
+      panels_.frmd, "ddf2", {.caption = "Definition", .is_echo = true, .fore_color = forms::kButtonShadow}};
+  // Shadow of dex.
+  forms::Label dex2{panels_.frmd,
+                    "dex2",
+                    {.caption = "used in a verce", .is_echo = true, .fore_color = forms::kButtonShadow}};
+  forms::Line linedic{panels_.frmd, "linedic"};                      // between the definition and the verse
+  forms::Label dwd{panels_.frmd, "dwd", {.caption = "Word"}};        // the chosen word
+  forms::Label ddf{panels_.frmd, "ddf", {.caption = "Definition"}};  // its definition
+  // A verse that uses it, and its reference. ODDITY(kept-spelling).
+  forms::Label dex{panels_.frmd, "dex", {.caption = "used in a verce"}};
 
-  forms::CommandButton Command19;
+  // Closes the panel.
+  forms::CommandButton Command19{
+      panels_.frmd, "Command19", {.caption = "Close Dictionary", .is_cancel = true}};
 };
 
 }  // namespace lectern::search

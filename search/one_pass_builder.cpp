@@ -18,12 +18,7 @@ constexpr int kTruth = -1;  // what a true comparison counts as
 
 OnePassBuilder::OnePassBuilder(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search,
                                ConcordanceBuilder& the_builder)
-    : Command13(panels.Frame2, "Command13", {.caption = "Command13", .name = "Build in one pass"}),
-      books(panels.Frame2, "books"),
-      pbar3(panels.Frame2, "pbar3", {.name = "Books done"}),
-      reader_(the_reader),
-      search_(the_search),
-      builder_(the_builder) {
+    : panels_(panels), reader_(the_reader), search_(the_search), builder_(the_builder) {
   Command13.Click = [this] { Command13_Click(); };
 }
 

@@ -8,22 +8,25 @@
 namespace lectern::search {
 
 class OnePassBuilder {
+  reader::Panels& panels_;
+  reader::Reader& reader_;
+  TextSearch& search_;
+  ConcordanceBuilder& builder_;
+
  public:
   OnePassBuilder(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search,
                  ConcordanceBuilder& the_builder);
 
-  forms::CommandButton Command13;
-  forms::Label books;
-  forms::ProgressBar pbar3;
+  // Builds the concordance in one pass.
+  forms::CommandButton Command13{
+      panels_.Frame2, "Command13", {.caption = "Command13", .name = "Build in one pass"}};
+  forms::Label books{panels_.Frame2, "books"};                                // the book that is read
+  forms::ProgressBar pbar3{panels_.Frame2, "pbar3", {.name = "Books done"}};  // books done
 
  private:
   void Command13_Click();
   void LookUp(const std::string& word, char32_t& next);
   void TakeFindings(const std::string& word, const std::string& book, const struct ScanFindings& findings);
-
-  reader::Reader& reader_;
-  TextSearch& search_;
-  ConcordanceBuilder& builder_;
 };
 
 }  // namespace lectern::search

@@ -6,9 +6,7 @@
 namespace lectern::search {
 
 ResultNavigation::ResultNavigation(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search)
-    : LBLCC(panels.frmc, "LBLCC", {.caption = "Genesis", .visible = false}),
-      reader_(the_reader),
-      search_(the_search) {
+    : panels_(panels), reader_(the_reader), search_(the_search) {
   search_.lsts.Click = [this] { lsts_Click(); };
 }
 

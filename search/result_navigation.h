@@ -9,16 +9,18 @@
 namespace lectern::search {
 
 class ResultNavigation {
+  reader::Panels& panels_;
+  reader::Reader& reader_;
+  TextSearch& search_;
+
  public:
   ResultNavigation(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search);
 
-  forms::Label LBLCC;  // on the concordance's panel: the entry in hand
+  // On the concordance's panel: the chosen entry.
+  forms::Label LBLCC{panels_.frmc, "LBLCC", {.caption = "Genesis", .visible = false}};
 
  private:
   void lsts_Click();
-
-  reader::Reader& reader_;
-  TextSearch& search_;
 };
 
 }  // namespace lectern::search

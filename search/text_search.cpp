@@ -18,28 +18,7 @@ constexpr int kBook = 1;  // slot
 
 TextSearch::TextSearch(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
                        reader::Menus& menus)
-    : lblfor(the_panels.frms, "lblfor", {.caption = "for"}),
-      txts(the_panels.frms, "txts", {.name = "Search for"}),
-      lbland(the_panels.frms, "lbland", {.caption = "and"}),
-      txts2(the_panels.frms, "txts2", {.name = "and"}),
-      SSOption1(the_panels.frms, "SSOption1", {.caption = "Book", .checked = true}),
-      op1(the_panels.frms, "op1", {.caption = "Codex"}),
-      Command22(the_panels.frms, "Command22", {.caption = "Search", .is_default = true}),
-      Command15(the_panels.frms, "Command15", {.caption = "How long will it take?"}),
-      lblmatches(the_panels.frms, "lblmatches", {.caption = "Matches"}),
-      text5(the_panels.frms, "text5", {.caption = "00"}),
-      lsts(the_panels.frms, "lsts", {.name = "Verses found"}),
-      cmdadd(the_panels.frms, "cmdadd", {.caption = "Add to Concordance", .enabled = false}),
-      Command20(the_panels.frms, "Command20", {.caption = "Close Search", .is_cancel = true}),
-      text7(the_panels.frmscale, "text7", {.caption = "Chapter"}),
-      pbar(the_panels.frmscale, "pbar", {.name = "Books searched"}),
-      Command25(the_panels.frmscale, "Command25", {.caption = "Cancel"}),
-      tmrb(the_reader.form, "tmrb", {.enabled = false, .interval = 1}),
-      wrd(the_panels.Frame2, "wrd", {.caption = "Label32"}),
-      ShowHelpNote([](const std::string&) {}),
-      reader_(the_reader),
-      panels_(the_panels),
-      tools_(the_tools) {
+    : reader_(the_reader), panels_(the_panels), tools_(the_tools) {
   tools_.Command16.Click = [this] { Command16_Click(); };
   menus.cc3.Click = [this] { cc3_Click(); };
   txts.Change = [this] { txts_Change(txts); };

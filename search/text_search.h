@@ -20,35 +20,49 @@
 namespace lectern::search {
 
 class TextSearch {
+  reader::Reader& reader_;
+  reader::Panels& panels_;
+  reader::ToolButtons& tools_;
+
  public:
   TextSearch(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
              reader::Menus& menus);
 
-  forms::Label lblfor;
-  forms::TextBox txts;
-  forms::Label lbland;
-  forms::TextBox txts2;
-  forms::SSOption SSOption1;  // the open book
-  forms::SSOption op1;        // the whole text; the only one of the two that is read
-  forms::CommandButton Command22;
-  forms::CommandButton Command15;
-  forms::Label lblmatches;
-  forms::Label text5;
-  forms::ListBox lsts;
-  forms::CommandButton cmdadd;
-  forms::CommandButton Command20;
+  forms::Label lblfor{panels_.frms, "lblfor", {.caption = "for"}};    // before the first term
+  forms::TextBox txts{panels_.frms, "txts", {.name = "Search for"}};  // first term
+  forms::Label lbland{panels_.frms, "lbland", {.caption = "and"}};    // before the second term
+  forms::TextBox txts2{panels_.frms, "txts2", {.name = "and"}};       // second term
+  // Searches the open book.
+  forms::SSOption SSOption1{panels_.frms, "SSOption1", {.caption = "Book", .checked = true}};
+  // Searches the whole text; the only one of the two that is read.
+  forms::SSOption op1{panels_.frms, "op1", {.caption = "Codex"}};
+  // Starts the search.
+  forms::CommandButton Command22{panels_.frms, "Command22", {.caption = "Search", .is_default = true}};
+  // Tells how long a search takes.
+  forms::CommandButton Command15{panels_.frms, "Command15", {.caption = "How long will it take?"}};
+  // Stands before the number of verses found.
+  forms::Label lblmatches{panels_.frms, "lblmatches", {.caption = "Matches"}};
+  forms::Label text5{panels_.frms, "text5", {.caption = "00"}};         // number of verses found
+  forms::ListBox lsts{panels_.frms, "lsts", {.name = "Verses found"}};  // the verses found
+  // Adds the verses found to the concordance.
+  forms::CommandButton cmdadd{panels_.frms, "cmdadd", {.caption = "Add to Concordance", .enabled = false}};
+  // Closes the panel.
+  forms::CommandButton Command20{panels_.frms, "Command20", {.caption = "Close Search", .is_cancel = true}};
 
-  forms::Label text7;
-  forms::ProgressBar pbar;
-  forms::CommandButton Command25;
+  forms::Label text7{panels_.frmscale, "text7", {.caption = "Chapter"}};  // the book that is read next
+  forms::ProgressBar pbar{panels_.frmscale, "pbar", {.name = "Books searched"}};  // books read so far
+  // Cancels the search.
+  forms::CommandButton Command25{panels_.frmscale, "Command25", {.caption = "Cancel"}};
 
-  forms::Timer tmrb;
-  forms::Label wrd;  // on the builder's panel: the length of its caption is the margin of the whole-text scan
+  // Reads one book of the whole text at each tick.
+  forms::Timer tmrb{reader_.form, "tmrb", {.enabled = false, .interval = 1}};
+  // On the builder's panel: the length of its caption is the margin of the whole-text scan.
+  forms::Label wrd{panels_.Frame2, "wrd", {.caption = "Label32"}};
 
   int SearchBookIndex = 0;  // the next book of a scan of the whole text
 
   // Shows a note in the help panel.
-  std::function<void(const std::string& text)> ShowHelpNote;
+  std::function<void(const std::string& text)> ShowHelpNote = [](const std::string&) {};
 
  private:
   void Command16_Click();
@@ -62,10 +76,6 @@ class TextSearch {
 
   void ScanOpenBook();
   void TakeFindings(const struct ScanFindings& findings);
-
-  reader::Reader& reader_;
-  reader::Panels& panels_;
-  reader::ToolButtons& tools_;
 };
 
 }  // namespace lectern::search

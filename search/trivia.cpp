@@ -12,17 +12,7 @@ constexpr int kQuestions = 1;  // slot
 
 Trivia::Trivia(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
                reader::Menus& menus, reader::ErrorReport& the_error_report)
-    : reader_(the_reader),
-      panels_(the_panels),
-      tools_(the_tools),
-      error_report_(the_error_report),
-      lbltrivia(panels_.Picture17, "lbltrivia", {.caption = "CODEX TRIVIA"}),
-      Label25(panels_.Picture17, "Label25", {.caption = "Press Question to begin"}),
-      Label26(panels_.Picture17, "Label26"),
-      List3(panels_.Picture17, "List3", {.visible = false, .name = "Questions asked"}),
-      Command29(panels_.Picture17, "Command29", {.caption = "Question", .is_default = true}),
-      Command31(panels_.Picture17, "Command31", {.caption = "Answer"}),
-      Command28(panels_.Picture17, "Command28", {.caption = "Close", .is_cancel = true}) {
+    : reader_(the_reader), panels_(the_panels), tools_(the_tools), error_report_(the_error_report) {
   tools_.Command2.Click = [this] { Command2_Click(); };
   menus.cc4.Click = [this] { cc4_Click(); };
   Command29.Click = [this] { Command29_Click(); };

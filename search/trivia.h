@@ -43,13 +43,17 @@ class Trivia {
   reader::ToolButtons& tools_;
   reader::ErrorReport& error_report_;
 
-  forms::Label lbltrivia;  // heading
-  forms::Label Label25;    // the question, which is the key to its answer
-  forms::Label Label26;    // the answer
-  forms::ListBox List3;    // numbers of the questions asked, the oldest first
-  forms::CommandButton Command29;
-  forms::CommandButton Command31;
-  forms::CommandButton Command28;
+  forms::Label lbltrivia{panels_.Picture17, "lbltrivia", {.caption = "CODEX TRIVIA"}};  // heading
+  // The question, which is the key to its answer.
+  forms::Label Label25{panels_.Picture17, "Label25", {.caption = "Press Question to begin"}};
+  forms::Label Label26{panels_.Picture17, "Label26"};  // the answer
+  // Numbers of the questions asked, the oldest first.
+  forms::ListBox List3{panels_.Picture17, "List3", {.visible = false, .name = "Questions asked"}};
+  // Asks the next question.
+  forms::CommandButton Command29{panels_.Picture17, "Command29", {.caption = "Question", .is_default = true}};
+  forms::CommandButton Command31{panels_.Picture17, "Command31", {.caption = "Answer"}};  // shows the answer
+  // Closes the panel.
+  forms::CommandButton Command28{panels_.Picture17, "Command28", {.caption = "Close", .is_cancel = true}};
 
   std::int16_t QuestionNumber = 0;
 };

@@ -17,7 +17,7 @@ constexpr Place kPlaces[] = {
 
 }  // namespace
 
-Form2::Form2(forms::Services services) : Window(services, "Form2", "Print Page"), page_(*this) {
+Form2::Form2(forms::Services services) : Window(services, "Form2", "Print Page") {
   Width = 9270 + forms::kFrameWidth;
   Height = 6645 + forms::kFrameHeight;
   Apply(kPlaces, *this);

@@ -12,7 +12,7 @@ class Form2 : public forms::Window {
   void Form_Load() override { page_.Form_Load(); }
 
  private:
-  aids::PrintedPage page_;
+  aids::PrintedPage page_{*this};
 };
 
 }  // namespace lectern::ui

@@ -15,7 +15,7 @@ constexpr Place kPlaces[] = {
 
 }  // namespace
 
-Form5::Form5(forms::Services services) : Window(services, "Form5", "Print"), picture(*this) {
+Form5::Form5(forms::Services services) : Window(services, "Form5", "Print") {
   Width = 4800 + forms::kFrameWidth;  // around the image as it is before it gets a picture
   Height = 3600 + forms::kFrameHeight;
   Apply(kPlaces, *this);

@@ -9,7 +9,7 @@ class Form5 : public forms::Window {
  public:
   explicit Form5(forms::Services services);
 
-  aids::PrintedPicture picture;
+  aids::PrintedPicture picture{*this};
 };
 
 }  // namespace lectern::ui

@@ -46,6 +46,8 @@ struct OtherWindows {
 };
 
 class Form1 : public forms::Window {
+  OtherWindows others_;
+
  public:
   Form1(forms::Services services, const OtherWindows& others);
 
@@ -57,36 +59,41 @@ class Form1 : public forms::Window {
   gallery::Viewer& PictureViewer() { return viewer_; }
 
  private:
-  reader::Menus menus_;
-  reader::Panels panels_;
-  reader::ToolButtons tools_;
-  reader::Reader reader_;
-  reader::SecondPane second_pane_;
-  reader::Settings settings_;
-  reader::ErrorReport error_report_;
-  reader::ChapterCounts chapter_counts_;
-  reader::Stories stories_;
-  search::TextSearch text_search_;
-  search::ResultNavigation result_navigation_;
-  search::ConcordanceViewer concordance_viewer_;
-  search::ConcordanceEditing concordance_editing_;
-  search::ConcordanceBuilder concordance_builder_;
-  search::OnePassBuilder one_pass_builder_;
-  search::Dictionary dictionary_;
-  search::Trivia trivia_;
-  aids::Bookmarks bookmarks_;
-  aids::PagePrinting page_printing_;
-  aids::NotesDoors notes_doors_;
-  aids::Help help_;
-  gallery::PictureCatalogue pictures_;
-  gallery::Viewer viewer_;
-  gallery::Browser browser_;
-  gallery::Maintenance maintenance_;
-  gallery::OldCatalogue old_catalogue_;
-  gallery::OlderList older_list_;
-  gallery::BookConverter book_converter_;
-  reader::StartUp start_up_;
-  reader::Exits exits_;
+  reader::Menus menus_{*this};
+  reader::Panels panels_{*this};
+  reader::ToolButtons tools_{panels_};
+  reader::Reader reader_{*this, panels_};
+  reader::SecondPane second_pane_{panels_};
+  reader::Settings settings_{reader_, panels_, second_pane_, menus_, tools_};
+  reader::ErrorReport error_report_{reader_};
+  reader::ChapterCounts chapter_counts_{reader_};
+  reader::Stories stories_{reader_, menus_};
+  search::TextSearch text_search_{reader_, panels_, tools_, menus_};
+  search::ResultNavigation result_navigation_{reader_, panels_, text_search_};
+  search::ConcordanceViewer concordance_viewer_{reader_, panels_, tools_, menus_, text_search_};
+  search::ConcordanceEditing concordance_editing_{
+      reader_, panels_, error_report_, text_search_, result_navigation_, concordance_viewer_};
+  search::ConcordanceBuilder concordance_builder_{reader_, panels_, text_search_};
+  search::OnePassBuilder one_pass_builder_{reader_, panels_, text_search_, concordance_builder_};
+  search::Dictionary dictionary_{reader_, panels_, tools_, menus_, error_report_};
+  search::Trivia trivia_{reader_, panels_, tools_, menus_, error_report_};
+  aids::Bookmarks bookmarks_{reader_, panels_, tools_, menus_};
+  aids::PagePrinting page_printing_{reader_, panels_, others_.Form2};
+  aids::NotesDoors notes_doors_{panels_, tools_, menus_, others_.notes};
+  aids::Help help_{reader_, panels_, tools_, menus_};
+  gallery::PictureCatalogue pictures_{reader_, panels_};
+  gallery::Viewer viewer_{pictures_, panels_};
+  gallery::Browser browser_{pictures_, viewer_, panels_};
+  gallery::Maintenance maintenance_{pictures_, browser_, panels_};
+  gallery::OldCatalogue old_catalogue_{pictures_, viewer_};
+  gallery::OlderList older_list_{pictures_, panels_};
+  gallery::BookConverter book_converter_{panels_};
+  reader::StartUp start_up_{
+      reader_,
+      panels_,
+      {pictures_.Dirpics, bookmarks_.File1, maintenance_.Command26, page_printing_.Command30,
+       concordance_builder_.Text2, settings_.Combo1, settings_.Combo2, settings_.Combo3}};
+  reader::Exits exits_{reader_, menus_, tools_, {settings_.Combo1, settings_.Combo2, settings_.Combo3}};
 };
 
 }  // namespace lectern::ui

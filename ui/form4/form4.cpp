@@ -8,15 +8,7 @@ namespace lectern::ui {
 
 Form4::Form4(forms::Services services, gallery::PictureCatalogue& gallery, gallery::Viewer& viewer,
              const std::function<void(const forms::Picture&)>& print_picture)
-    : Window(services, "Form4", "paint"),
-      pen_(*this),
-      canvas_(*this, pen_),
-      zoom_(*this, canvas_),
-      slots_(*this, canvas_, zoom_),
-      palette_(*this, gallery, pen_, slots_),
-      brushes_(*this, gallery, canvas_, pen_, slots_),
-      saving_(*this, gallery, viewer, canvas_, palette_),
-      Command1(*this, "Command1", {.caption = "Close Paint", .is_cancel = true}) {
+    : Window(services, "Form4", "paint"), gallery_(gallery), viewer_(viewer) {
   constexpr double kClientWidth = 15675;  // twips
   constexpr double kClientHeight = 10485;
   Width = kClientWidth + forms::kFrameWidth;

@@ -15,6 +15,9 @@
 namespace lectern::ui {
 
 class Form4 : public forms::Window {
+  gallery::PictureCatalogue& gallery_;
+  gallery::Viewer& viewer_;
+
  public:
   // `print_picture` opens the print window on a picture.
   Form4(forms::Services services, gallery::PictureCatalogue& gallery, gallery::Viewer& viewer,
@@ -28,14 +31,14 @@ class Form4 : public forms::Window {
  private:
   void StartPaint();
 
-  paint::PenSettings pen_;
-  paint::Canvas canvas_;
-  paint::Zoom zoom_;
-  paint::SaveSlots slots_;
-  paint::Palette palette_;
-  paint::Brushes brushes_;
-  paint::PictureSaving saving_;
-  forms::CommandButton Command1;
+  paint::PenSettings pen_{*this};
+  paint::Canvas canvas_{*this, pen_};
+  paint::Zoom zoom_{*this, canvas_};
+  paint::SaveSlots slots_{*this, canvas_, zoom_};
+  paint::Palette palette_{*this, gallery_, pen_, slots_};
+  paint::Brushes brushes_{*this, gallery_, canvas_, pen_, slots_};
+  paint::PictureSaving saving_{*this, gallery_, viewer_, canvas_, palette_};
+  forms::CommandButton Command1{*this, "Command1", {.caption = "Close Paint", .is_cancel = true}};
 };
 
 }  // namespace lectern::ui
