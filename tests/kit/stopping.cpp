@@ -63,12 +63,12 @@ class Countdown {
   bool reads_ = false;
 };
 
-// One playing of a story, in a folder of its own.
+// One playing of a task, in a folder of its own.
 class Playing {
  public:
-  explicit Playing(const Story& story) : story_(story) {
+  explicit Playing(const Task& task) : task_(task) {
     LaySmallWorld(folder_);
-    if (story.all_books) LayBooksToBuildFrom(folder_);
+    if (task.all_books) LayBooksToBuildFrom(folder_);
   }
 
   const std::string& Folder() const { return folder_; }
@@ -94,7 +94,7 @@ class Playing {
     int act = 0;
     std::string failed;
     Session session(folder_);
-    session.Do(story_.way);
+    session.Do(task_.way);
     Countdown countdown(n);
     session.driver.Files().before = [&](files::Operation operation, const std::string& path) {
       if (stop == Stop::kFullOnward && operation != files::Operation::kWrite) return;
@@ -105,9 +105,9 @@ class Playing {
         failed = path.starts_with(folder_) ? path.substr(folder_.size() + 1) : "lectern-saving.tmp";
       throw base::RunTimeError(base::ErrorNumber::kDiskFull);
     };
-    const auto acts = static_cast<int>(story_.acts.size());
+    const auto acts = static_cast<int>(task_.acts.size());
     for (; act < acts; ++act) {
-      const Steps printed = session.Do(story_.acts[static_cast<std::size_t>(act)]);
+      const Steps printed = session.Do(task_.acts[static_cast<std::size_t>(act)]);
       if (failed.empty()) continue;
       const bool reported = std::any_of(printed.begin(), printed.end(), IsFullDiskReport);
       return act * 4 + (reported || IsScratch(failed) ? kReported : kStopped);
@@ -115,7 +115,7 @@ class Playing {
     return act * 4;
   }
 
-  const Story& story_;
+  const Task& task_;
   const TemporaryFolder around_;  // a brush leaves a file beside the data folder
   const std::string folder_ = around_.Path() + "/data";
 };
@@ -133,7 +133,7 @@ bool IsWhole(const Versions& file, bool is_built, Stop stop) {
   return stop == Stop::kFullOnce ? is_built || now.starts_with(was) : is_built && becomes.starts_with(now);
 }
 
-void ExpectNothingLost(const std::string& folder, const Files& before, const Files& after, const Story& story,
+void ExpectNothingLost(const std::string& folder, const Files& before, const Files& after, const Task& task,
                        Stop stop) {
   const Files present = FilesIn(folder);
   std::set<std::string> names;
@@ -143,7 +143,7 @@ void ExpectNothingLost(const std::string& folder, const Files& before, const Fil
   for (const std::string& name : names) {
     const Versions file{In(before, name), In(after, name), In(present, name)};
     const auto& [was, becomes, now] = file;
-    EXPECT_TRUE(IsWhole(file, name == story.built, stop)) << name << " is\n" << now << "\nand was\n" << was;
+    EXPECT_TRUE(IsWhole(file, name == task.built, stop)) << name << " is\n" << now << "\nand was\n" << was;
     if (was == kMissing || was.empty() || now.starts_with(was)) continue;
     EXPECT_EQ(ReadFile(folder + "/backup/" + name), was) << name << " is now\n" << now;
   }
@@ -158,37 +158,36 @@ void ExpectStartsAgain(const std::string& folder) {
 }
 
 // What is in the folder ahead of the first act and after each, where nothing stops them.
-std::vector<Files> StatesOf(const Story& story, Stop stop) {
-  const Playing playing(story);
+std::vector<Files> StatesOf(const Task& task, Stop stop) {
+  const Playing playing(task);
   Session session(playing.Folder());
-  session.Do(story.way);
+  session.Do(task.way);
   std::vector<Files> states = {FilesIn(playing.Folder())};
-  for (const std::string& act : story.acts) {
+  for (const std::string& act : task.acts) {
     session.Do(act);
     states.push_back(FilesIn(playing.Folder()));
     SCOPED_TRACE("after " + act);
-    ExpectNothingLost(playing.Folder(), states[states.size() - 2], states.back(), story, stop);
+    ExpectNothingLost(playing.Folder(), states[states.size() - 2], states.back(), task, stop);
   }
   return states;
 }
 
 }  // namespace
 
-void StopEverywhere(const Story& story, Stop stop) {
-  const std::vector<Files> states = StatesOf(story, stop);
+void StopEverywhere(const Task& task, Stop stop) {
+  const std::vector<Files> states = StatesOf(task, stop);
   int stops = 0;
   // The builders go through all books: it is enough to stop them in the first ones and now and then.
   for (int n = 1;; n += 1 + n / 30, ++stops) {
-    Playing playing(story);
+    Playing playing(task);
     const Playing::End end = playing.PlayUntil(stop, n);
     if (!end.stopped && !end.reported) {
-      EXPECT_EQ(end.act, story.acts.size());
+      EXPECT_EQ(end.act, task.acts.size());
       break;
     }
-    SCOPED_TRACE("stopped at " + std::to_string(n) + ", in " + story.acts[end.act]);
-    ExpectNothingLost(playing.Folder(), states[end.act], states[end.act + 1], story, stop);
-    EXPECT_TRUE(stop != Stop::kFullOnward || end.reported || story.ignores_failures)
-        << "nothing was reported";
+    SCOPED_TRACE("stopped at " + std::to_string(n) + ", in " + task.acts[end.act]);
+    ExpectNothingLost(playing.Folder(), states[end.act], states[end.act + 1], task, stop);
+    EXPECT_TRUE(stop != Stop::kFullOnward || end.reported || task.ignores_failures) << "nothing was reported";
     ExpectStartsAgain(playing.Folder());
     if (testing::Test::HasFailure()) return;
   }

@@ -45,7 +45,7 @@ enum class Stop {
 };
 
 // What a person does in the small world, act by act.
-struct Story {
+struct Task {
   const char* name;
   Steps way;                      // up to where something is about to be written
   Steps acts;                     // each is stopped at every operation
@@ -54,13 +54,13 @@ struct Story {
   bool ignores_failures = false;  // the program says nothing of a full disk
 };
 
-inline void PrintTo(const Story& story, std::ostream* stream) { *stream << story.name; }
+inline void PrintTo(const Task& task, std::ostream* stream) { *stream << task.name; }
 
-// Plays the story again and again in a fresh small world, and stops it one operation later each time. After
+// Plays the task again and again in a fresh small world, and stops it one operation later each time. After
 // each stop every file in the folder is whole, as it was before the act or as the act leaves it, or is
 // missing or being built; what it held before the act is in the file or under `backup`; and the program
 // starts again.
-void StopEverywhere(const Story& story, Stop stop);
+void StopEverywhere(const Task& task, Stop stop);
 
 // Plays steps in a folder and kills the program ahead of the n-th file operation; whether it came so far.
 bool KillAt(const std::string& folder, const Steps& steps, int n);

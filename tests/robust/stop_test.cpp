@@ -21,7 +21,7 @@ const Steps kPaint = {"click Form1.imgp(1)",
                       "mousedown Form4.clrboxs(3) 2 0 1 1"};
 
 // Everything that is written, by the feature that writes it.
-const Story kStories[] = {
+const Task kTasks[] = {
     {.name = "Reading",
      .way = {"start"},
      .acts = {"click Form1.lst \"Exodus\"", "scroll Form1.scr 2", "click Form1.optn", "click Form1.aaa3"},
@@ -96,13 +96,13 @@ const Story kStories[] = {
      .acts = {"click Form4.Command3", "mousedown Form4.clrboxs(5) 2 0 1 1", "click Form4.Command3"}},
 };
 
-class Stopped : public testing::TestWithParam<Story> {};
+class Stopped : public testing::TestWithParam<Task> {};
 
 TEST_P(Stopped, ByAKill) { StopEverywhere(GetParam(), Stop::kKill); }
 TEST_P(Stopped, ByAnOperationThatFails) { StopEverywhere(GetParam(), Stop::kFullOnce); }
 TEST_P(Stopped, ByADiskThatIsFull) { StopEverywhere(GetParam(), Stop::kFullOnward); }
 
-INSTANTIATE_TEST_SUITE_P(Stories, Stopped, testing::ValuesIn(kStories),
+INSTANTIATE_TEST_SUITE_P(Tasks, Stopped, testing::ValuesIn(kTasks),
                          [](const auto& test) { return std::string(test.param.name); });
 
 const Steps kFull = {"run-time error 61 \"Disk full\""};
