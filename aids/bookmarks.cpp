@@ -87,12 +87,8 @@ void Bookmarks::File1_Click() {
 
 std::string Bookmarks::PathOf(const std::string& name) const { return reader_.DataFile(name + ".bkm"); }
 
-// Writes the reader's place behind whatever the bookmark's file holds.
-void Bookmarks::AppendPlace(const std::string& name) {
-  files::FileSlots& slots = reader_.form.Slots();
-  slots.OpenForAppending(kBookmark, PathOf(name));
-  slots.WriteRecord(kBookmark, name, reader_.Book(), reader_.Chapter());
-  slots.Close(kBookmark);
+void Bookmarks::WritePlace(const std::string& name) {
+  reader_.form.Slots().WriteRecord(kBookmark, name, reader_.Book(), reader_.Chapter());
 }
 
 void Bookmarks::Command10_Click() {
@@ -100,7 +96,10 @@ void Bookmarks::Command10_Click() {
   if (name.empty()) return;
   // ODDITY(new-keeps-place): under a name that exists the record goes behind the one that is there, which
   // alone is ever read, so that the old place stays in force; it is meant. Update replaces a place.
-  AppendPlace(name);
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForAppending(kBookmark, PathOf(name));
+  WritePlace(name);
+  slots.Close(kBookmark);
   File1.Refresh();
   reader_.LBLMRK(0).Caption = name;
   reader_.LBLMRK(1).Caption = reader_.Book();
@@ -112,9 +111,12 @@ void Bookmarks::Command10_Click() {
 // written. The labels stay. It is meant.
 void Bookmarks::Command6_Click() {
   const base::Ignoring ignore;
+  files::FileSlots& slots = reader_.form.Slots();
   const std::string& name = reader_.LBLMRK(0).Caption;
   ignore([&] { reader_.form.Files().DeleteKeepingBackup(PathOf(name)); });
-  ignore([&] { AppendPlace(name); });
+  ignore([&] { slots.OpenForAppending(kBookmark, PathOf(name)); });
+  ignore([&] { WritePlace(name); });
+  ignore([&] { slots.Close(kBookmark); });
   ignore([&] { File1.Refresh(); });
 }
 

@@ -50,7 +50,7 @@ class Bookmarks {
   void Picture2_MouseMove();
 
   std::string PathOf(const std::string& name) const;
-  void AppendPlace(const std::string& name);
+  void WritePlace(const std::string& name);  // the place that is open, as a record
   void Leave();
 };
 

@@ -75,6 +75,7 @@ void Notes::Open() {
 
 void Notes::ShowChooser() {
   picopen.Visible = true;
+  File1.Refresh();
   File1.SetFocus();
 }
 
@@ -158,7 +159,6 @@ void Notes::f4_Click() {
   // is no file to replace. It is meant.
   form.Files().DeleteKeepingBackup(PathOf(lblname.Caption));
   ShowChooser();
-  File1.Refresh();
 }
 
 // ODDITY(notes-print-nothing): what is printed is one empty line, and on the window's own face, where it is

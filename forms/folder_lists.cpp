@@ -48,14 +48,6 @@ DriveListBox::DriveListBox(Container& parent, std::string name, const Design& de
     : TextControl(parent, Kind::kDriveListBox, std::move(name), design),
       Drive(*this, "Drive", "/", {.change = [this] { Change(); }}) {}
 
-void DriveListBox::PersonChooses(const std::string& drive) {
-  if (Drive == drive) {
-    Change();
-  } else {
-    Drive = drive;
-  }
-}
-
 FileListBox::FileListBox(Container& parent, std::string name, const Design& design)
     : ItemList(parent, Kind::kFileListBox, std::move(name), design),
       Path(*this, "Path", parent.HostWindow().Files().StartFolder(),

@@ -39,8 +39,7 @@ class DriveListBox : public TextControl {
   DriveListBox(Container& parent, std::string name, const Design& design = {});
 
   std::vector<std::string> Drives() const { return {"/"}; }
-  // Every pick counts, also of the drive that stands already: there may be no other.
-  void PersonChooses(const std::string& drive);
+  void PersonChooses(const std::string& drive) { Drive = drive; }
 
   RuledProperty<std::string> Drive;
   Event<> Change;

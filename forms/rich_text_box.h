@@ -19,6 +19,9 @@ inline constexpr int kFindWholeWord = 2;
 inline constexpr int kFindMatchCase = 4;
 inline constexpr int kFindNoHighlight = 8;
 
+// The size in points that a pane is shown in until it is given one.
+inline constexpr double kReadingSize = 11;
+
 struct RichTextBoxDesign {
   std::string_view text{};
   bool visible = true;

@@ -22,6 +22,9 @@ struct Services {
   files::FileSystem& files;
 };
 
+// What a window's close box does once Form_Unload has run.
+enum class CloseBox { kLetsGo, kHides };
+
 // What becomes of the program when a handler of the window fails and nothing traps it.
 enum class AfterFailure { kEndProgram, kGoOn };
 
@@ -51,6 +54,7 @@ class Window : public PropertyOwner, public Container {
 
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
+  virtual CloseBox OnCloseBox() const { return CloseBox::kLetsGo; }
   virtual AfterFailure AfterUntrappedFailure() const { return AfterFailure::kEndProgram; }
 
   // Of the client area, in twips.

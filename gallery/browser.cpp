@@ -63,7 +63,7 @@ void Browser::SSCommand3_Click() {
   if (lblendpic.Caption == "lblendpic") {
     lblendpic.Caption = std::to_string(kFirstPage);
   } else {
-    lblendpic.Caption = text::NumberText(text::NumberValue(lblendpic.Caption()) + kSlotsOnPage);
+    lblendpic.Caption = text::NumberText(text::LeadingDigits(lblendpic.Caption()) + kSlotsOnPage);
   }
   ResetPictureLabels();
 }
@@ -72,7 +72,7 @@ void Browser::SSCommand3_Click() {
 void Browser::SSCommand4_Click() {
   forms::Label& lblendpic = catalogue_.lblendpic;
   if (Above(0).Caption == "1" || catalogue_.PageStart() <= 0) return;
-  lblendpic.Caption = text::NumberText(text::NumberValue(lblendpic.Caption()) - kSlotsOnPage);
+  lblendpic.Caption = text::NumberText(text::LeadingDigits(lblendpic.Caption()) - kSlotsOnPage);
 }
 
 void Browser::imgp_Click(int slot) {

@@ -61,7 +61,7 @@ void OldCatalogue::ConvertPicsDat() {
 bool OldCatalogue::ShowAtOrBehindChapter(const std::string& line, std::string name) {
   const int chapter = ChapterOf(line, text::Length(reader_.Book()));
   name = text::TrimEnd(name);
-  if (chapter < text::NumberValue(reader_.Chapter()) || name.empty()) return false;
+  if (chapter < text::LeadingDigits(reader_.Chapter()) || name.empty()) return false;
   viewer_.pick.Picture = reader_.form.LoadPicture(reader_.DataFile("pics\\" + name + ".jpg"));
   viewer_.LBLPICP.Caption = name;
   viewer_.lblvs.Caption = line;

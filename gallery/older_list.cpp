@@ -27,7 +27,7 @@ void OlderList::Command40_Click() {
   // each picture stands twice. It is meant.
   const int highest = catalogue_.CopyBookRecords();
   ignore([&] { slots.OpenForAppending(kEmpty, empty_file); });
-  const double chapter = text::NumberValue(reader_.Chapter());
+  const double chapter = text::LeadingDigits(reader_.Chapter());
   const std::size_t book_length = text::Length(reader_.Stem());
   for (const auto& entry : catalogue_.RecordsByChapter(book_length, highest)) {
     const std::string name(text::TrimEnd(entry.record.name));

@@ -32,7 +32,7 @@ std::string PictureCatalogue::PictureFile(std::string_view name) const {
 
 int PictureCatalogue::PageStart() const {
   constexpr int kSlotsBeforeLast = 4;
-  return text::RoundToLong(text::NumberValue(lblendpic.Caption())) - kSlotsBeforeLast;
+  return text::RoundToLong(text::LeadingDigits(lblendpic.Caption())) - kSlotsBeforeLast;
 }
 
 void PictureCatalogue::ListBookPictures() {
@@ -95,7 +95,7 @@ std::vector<PictureCatalogue::Entry> PictureCatalogue::RecordsByChapter(std::siz
 void PictureCatalogue::FillPictureLists() {
   const base::Ignoring ignore;
   ClearLists();
-  const int highest = text::RoundToLong(text::NumberValue(lbltm.Caption()));
+  const int highest = text::RoundToLong(text::LeadingDigits(lbltm.Caption()));
   for (Entry& entry : RecordsByChapter(text::Length(reader.Book()), highest)) {
     lstmc(0).AddItem(std::string(text::TrimEnd(entry.record.name)));
     lstmc(1).AddItem(std::move(entry.record.place));
@@ -109,7 +109,7 @@ void PictureCatalogue::FillPictureLists() {
 void PictureCatalogue::SeekChapterPicture() {
   const base::Ignoring ignore;
   const std::size_t book_length = text::Length(reader.Stem());
-  const double chapter = text::NumberValue(reader.Chapter());
+  const double chapter = text::LeadingDigits(reader.Chapter());
   for (int i = 0; i < lstmc(1).ListCount(); ++i) {
     if (ChapterOf(lstmc(1).List(i), book_length) != chapter) continue;
     ignore([&] { picnm.Value = i; });

@@ -21,10 +21,10 @@ Zoom::Zoom(forms::Window& form, Canvas& the_canvas) : form_(form), canvas_(the_c
   });
 }
 
-// A canvas grows without an end by going back to a large save at a small level, again and again: what would
-// take the computer's memory is not begun.
+// Going back to a large save at a small level, again and again, would let the canvas grow without end: a
+// canvas of more than 1 GiB is refused.
 bool Zoom::IsTooLargeToDouble() const {
-  constexpr double kLargest = 1 << 26;  // pixels; a few copies of it are made on the way
+  constexpr double kLargest = 1 << 28;  // pixels of four bytes
   const double width = 2 * canvas_.picbox.Width / forms::kTwipsPerPixel;
   const double height = 2 * canvas_.picbox.Height / forms::kTwipsPerPixel;
   return width * height > kLargest;
@@ -60,7 +60,11 @@ void Zoom::cmdm_Click(int index) {
   // ODDITY(zoom-leaves-an-edge): the divisor is a little more than the 15 twips of a pixel, so that the
   // picture is painted a little smaller than the canvas; it is meant.
   constexpr double kTwipsPerPixel = 15.08;
+  // What the zoom paints belongs to the picture, also while strokes reach only the screen.
+  const bool strokes_are_kept = picbox.AutoRedraw;
+  picbox.AutoRedraw = true;
   picbox.PaintPicture(picbox.Picture, 0, 0, picbox.Width / kTwipsPerPixel, picbox.Height / kTwipsPerPixel);
+  picbox.AutoRedraw = strokes_are_kept;
   canvas_.Centre();
 
   if (txt5.Text == "0" || txt5.Text == "1" || txt5.Text == "2") {

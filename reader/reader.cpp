@@ -122,6 +122,8 @@ void Reader::ShowChapterThenBook(const std::string& book, const std::string& cha
   Reload(chapter);
   lblbook.Caption = book;
   lblbk.Caption = book;
+  // The name does not go back by itself where the bar stands at 1 or the book was open before.
+  if (!search_panel_.Visible) GoToChapter("1");
 }
 
 void Reader::RestoreBookmark() {
@@ -147,7 +149,7 @@ void Reader::ReturnToChapter1() {
   lblbook.Caption = stem;
 }
 
-void Reader::StepToNextChapter() { GoToChapter(text::NumberText(text::NumberValue(Chapter()) + 1)); }
+void Reader::StepToNextChapter() { GoToChapter(text::NumberText(text::LeadingDigits(Chapter()) + 1)); }
 
 void Reader::NameBook(const std::string& name) { lblbk.Caption = name; }
 

@@ -1,5 +1,7 @@
 #include "reader/settings.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "base/error_modes.h"
@@ -11,18 +13,20 @@ namespace {
 
 constexpr int kSettings = 1;  // slot
 
-// Italic and bold by the name of a style; a name that is none of these changes nothing.
+struct Style {
+  std::string_view name;
+  bool italic, bold;
+};
+
+constexpr Style kStyles[] = {
+    {"Regular", false, false},
+    {"Italic", true, false},
+    {"Bold", false, true},
+    {"Bold Italic", true, true},
+};
+
+// Italic and bold by the name of a style; any other name changes nothing.
 void SetStyle(forms::TextControl& control, std::string_view style) {
-  struct Style {
-    std::string_view name;
-    bool italic, bold;
-  };
-  constexpr Style kStyles[] = {
-      {"Regular", false, false},
-      {"Italic", true, false},
-      {"Bold", false, true},
-      {"Bold Italic", true, true},
-  };
   for (const Style& known : kStyles) {
     if (known.name != style) continue;
     control.FontItalic = known.italic;
@@ -36,9 +40,9 @@ Settings::Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pa
                    ToolButtons& the_tools)
     : reader_(the_reader), panels_(the_panels), tools_(the_tools), RTXT2(second_pane.RTXT2) {
   menus.oo11.Click = [this] { oo11_Click(); };
-  for (forms::ComboBox* box : {&Combo1, &Combo2, &Combo3}) {
-    box->Click = [this] { Combo_Click(); };
-  }
+  Combo1.Click = [this] { Combo1_Click(); };
+  Combo2.Click = [this] { Combo_Click(); };
+  Combo3.Click = [this] { Combo_Click(); };
   Command36.Click = [this] { Command36_Click(); };
   Command24.Click = [this] { Command24_Click(); };
 }
@@ -55,6 +59,8 @@ void Settings::ReadSettings() {
   Combo1.Text = font;
   Combo2.Text = size;
   Combo3.Text = style;
+  size_read_ = size;
+  style_read_ = style;
   ApplyFontSamples();
   // The name goes to both panes before a size can fail.
   reader_.rtxt.FontName = font;
@@ -84,6 +90,26 @@ void Settings::ApplyFontToPanes() {
     ignore([&] { pane->FontSize = text::ToNumber(Combo2.Text()); });
     SetStyle(*pane, Combo3.Text());
   }
+}
+
+// After a start without settings the boxes hold a size and a style that do not exist. A font that is picked
+// replaces them by those of the pane, so that Save writes a record that can be read again. What a person
+// typed stays.
+void Settings::Combo1_Click() {
+  const base::Ignoring ignore;
+  const forms::RichTextBox& pane = reader_.rtxt;
+  const bool has_size = ignore([&] { lblf(0).FontSize = text::ToNumber(Combo2.Text()); });
+  if (!has_size && Combo2.Text == size_read_) {
+    Combo2.Text = text::NumberText(pane.FontSize > 0 ? pane.FontSize() : forms::kReadingSize);
+  }
+  const auto has_name = [&](const Style& style) { return style.name == Combo3.Text(); };
+  if (Combo3.Text == style_read_ && std::none_of(std::begin(kStyles), std::end(kStyles), has_name)) {
+    for (const Style& style : kStyles) {
+      if (style.italic == pane.FontItalic && style.bold == pane.FontBold)
+        Combo3.Text = std::string(style.name);
+    }
+  }
+  Combo_Click();
 }
 
 void Settings::Combo_Click() {

@@ -42,6 +42,7 @@ class Settings {
 
  private:
   void oo11_Click();
+  void Combo1_Click();
   void Combo_Click();
   void Command36_Click();
   void Command24_Click();
@@ -65,6 +66,9 @@ class Settings {
   forms::CommandButton Command36{panels_.Picture23, "Command36", {.caption = "Save", .is_default = true}};
   // Closes the panel.
   forms::CommandButton Command24{panels_.Picture23, "Command24", {.caption = "Close", .is_cancel = true}};
+
+  std::string size_read_;  // what the settings file gave
+  std::string style_read_;
 };
 
 }  // namespace lectern::reader

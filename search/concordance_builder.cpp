@@ -43,14 +43,14 @@ void ConcordanceBuilder::Timer2_Timer() {
   search_.pbar.Value = 0;
   Label32.Caption = lbln.Caption + " of " + std::to_string(List2.ListCount());
   if (lbln.Caption == "-1") {
-    ignore([&] { LoadWords(); });
+    LoadWords();
     pbar2.Value = 1;
   } else {
     ignore([&] { pbar2.Value = text::IntegerValue(lbln.Caption()); });
     pbar2.Max = List2.ListCount();
-    ignore([&] { WriteResults(); });
+    WriteResults();
   }
-  const int next = static_cast<int>(text::NumberValue(lbln.Caption())) + 1;
+  const int next = static_cast<int>(text::LeadingDigits(lbln.Caption())) + 1;
   lbln.Caption = std::to_string(next);
   search_.wrd.Caption = List2.List(next);
   if (next > List2.ListCount() - 1) {
@@ -58,7 +58,7 @@ void ConcordanceBuilder::Timer2_Timer() {
     pbar2.Value = 1;
     // ODDITY(last-word-twice): the last word's verses are written once more; it is meant, and Command18 is
     // there to cut them.
-    ignore([&] { WriteResults(); });
+    WriteResults();
     Timer2.Enabled = false;
     reader_.form.Platform().Beep();
   } else {
@@ -68,11 +68,15 @@ void ConcordanceBuilder::Timer2_Timer() {
   pbar2.Value = pbar2.Value + 1;
 }
 
+// A file that cannot be opened adds no words; the number is free again in any case.
 void ConcordanceBuilder::LoadWords() {
+  const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
-  slots.OpenForReading(kWords, reader_.DataFile("conc.txt"));
-  while (!slots.EndOfFile(kWords)) List2.AddItem(std::string(slots.ReadLine(kWords)));
-  slots.Close(kWords);
+  ignore([&] { slots.OpenForReading(kWords, reader_.DataFile("conc.txt")); });
+  ignore([&] {
+    while (!slots.EndOfFile(kWords)) List2.AddItem(std::string(slots.ReadLine(kWords)));
+  });
+  ignore([&] { slots.Close(kWords); });
 }
 
 // The verses of the word that was looked up, as the search lists them.

@@ -43,11 +43,7 @@ void OnePassBuilder::Command13_Click() {
     LookUp(builder_.List2.List(i), next);
     pbar3.Value = 0;
   }
-  slots.Flush(kTarget);
-  // ODDITY(one-pass-stays-open): it is the books' number that is closed, which is closed already. The target
-  // stays open, so that a chapter load that comes next finds its own number taken: it shows nothing, writes
-  // an empty line behind the records, and with that the number is free again. It is meant.
-  slots.Close(kBook);
+  slots.Close(kTarget);
 }
 
 void OnePassBuilder::LookUp(const std::string& word, char32_t& next) {
@@ -76,12 +72,12 @@ void OnePassBuilder::TakeFindings(const std::string& word, const std::string& bo
     const std::size_t verse = entry.rfind(' ');
     const std::size_t chapter = entry.rfind(' ', verse - 1);
     reader_.form.Slots().WriteRecord(kTarget, " " + text::Upper(word), book,
-                                     text::RoundToLong(text::NumberValue(entry.substr(chapter + 1))),
-                                     text::RoundToLong(text::NumberValue(entry.substr(verse + 1))));
+                                     text::RoundToLong(text::LeadingDigits(entry.substr(chapter + 1))),
+                                     text::RoundToLong(text::LeadingDigits(entry.substr(verse + 1))));
   }
   const auto records = static_cast<double>(findings.entries.Count());
-  builder_.Text2.Text = text::NumberText(text::NumberValue(builder_.Text2.Text()) + records);
-  search_.text5.Caption = text::NumberText(text::NumberValue(search_.text5.Caption()) + findings.count);
+  builder_.Text2.Text = text::NumberText(text::LeadingDigits(builder_.Text2.Text()) + records);
+  search_.text5.Caption = text::NumberText(text::LeadingDigits(search_.text5.Caption()) + findings.count);
 }
 
 }  // namespace lectern::search

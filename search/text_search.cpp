@@ -95,7 +95,7 @@ void TextSearch::ScanOpenBook() {
 void TextSearch::TakeFindings(const ScanFindings& findings) {
   if (findings.count == 0) return;
   cmdadd.Enabled = true;
-  text5.Caption = text::NumberText(text::NumberValue(text5.Caption()) + findings.count);
+  text5.Caption = text::NumberText(text::LeadingDigits(text5.Caption()) + findings.count);
   lsts.AddItems(findings.entries);
 }
 

@@ -44,7 +44,7 @@ void Trivia::KeepFromRepeating(int records) {
   }
   int i = 1;
   for (; i < List3.ListCount(); ++i) {
-    if (text::NumberValue(List3.List(i)) != QuestionNumber) continue;
+    if (text::LeadingDigits(List3.List(i)) != QuestionNumber) continue;
     QuestionNumber = Draw(records);
     i = 1;
   }

@@ -10,6 +10,7 @@ class Form2 : public forms::Window {
   explicit Form2(forms::Services services);
 
   void Form_Load() override { page_.Form_Load(); }
+  forms::CloseBox OnCloseBox() const override { return forms::CloseBox::kHides; }  // the page keeps its text
 
  private:
   aids::PrintedPage page_{*this};

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "forms/label.h"
+#include "forms/rich_text_box.h"
 
 namespace lectern::ui {
 
@@ -21,7 +22,6 @@ forms::Control* FindByFullName(const forms::Window& window, std::string_view nam
 void Set(forms::TextControl& control, Look look) {
   constexpr double kTitleSize = 18;  // points
   constexpr double kHeadingSize = 12;
-  constexpr double kReadingSize = 11;
   constexpr double kSmallSize = 8;
   const bool right = look == Look::kRight;
   const bool centre = look == Look::kCentre || look == Look::kCentreStrong || look == Look::kCentreSmall;
@@ -30,7 +30,7 @@ void Set(forms::TextControl& control, Look look) {
   }
   if (look == Look::kTitle) control.FontSize = kTitleSize;
   if (look == Look::kHeading) control.FontSize = kHeadingSize;
-  if (look == Look::kReading) control.FontSize = kReadingSize;
+  if (look == Look::kReading) control.FontSize = forms::kReadingSize;
   if (look == Look::kSmall || look == Look::kCentreSmall) control.FontSize = kSmallSize;
   if (look == Look::kStrong || look == Look::kHeading || look == Look::kTitle ||
       look == Look::kCentreStrong) {

@@ -93,8 +93,9 @@ void Program::Close(forms::Window& window) {
   Deliver(window, [&] {
     window.Form_Unload();
     unloaded = true;
+    if (window.OnCloseBox() == forms::CloseBox::kHides) window.Visible = false;
   });
-  if (unloaded) FindKnown(window.Name())->let_go();
+  if (unloaded && window.OnCloseBox() == forms::CloseBox::kLetsGo) FindKnown(window.Name())->let_go();
 }
 
 forms::Window* Program::Touch(std::string_view name) {

@@ -35,7 +35,7 @@ class Program {
   bool Tick();
   bool Tick(const std::function<bool(const forms::Timer&)>& due);
 
-  // The close box of a window: its Form_Unload runs, and the window goes.
+  // The close box of a window: its Form_Unload runs, and the window goes or is hidden.
   void Close(forms::Window& window);
 
   // By its name, without regard to case; touching a window makes it. nullptr where there is none.

@@ -100,7 +100,9 @@ std::string_view FileSlots::ReadField(int slot) {
 
 std::string_view FileSlots::ReadRest(int slot) { return ReadingAt(slot).reader.Rest(); }
 
-std::int32_t FileSlots::ReadNumber(int slot) { return text::RoundToLong(text::NumberValue(ReadField(slot))); }
+std::int32_t FileSlots::ReadNumber(int slot) {
+  return text::RoundToLong(text::LeadingDigits(ReadField(slot)));
+}
 
 template <class Work>
 void FileSlots::OnAppending(int slot, Work work) {
@@ -118,10 +120,6 @@ void FileSlots::Write(int slot, std::string_view text) {
   OnAppending(slot, [text](Appending& file) {
     file.Write(text::IsAscii(text) ? text : std::string_view(Encode(text)));
   });
-}
-
-void FileSlots::Flush(int slot) {
-  OnAppending(slot, [](Appending& file) { file.Flush(); });
 }
 
 void FileSlots::PrintLine(int slot, std::string_view line) { Write(slot, std::string(line).append("\r\n")); }

@@ -57,7 +57,6 @@ class FileSlots {
     WriteFields(slot, fields);
   }
 
-  void Flush(int slot);  // what was written so far goes to the disk; the file stays open
   void Close(int slot);  // a number that is not open is closed already
   void CloseAll();
   bool IsOpen(int slot) const;

@@ -61,6 +61,12 @@ double RoundWithin(double number, double lowest, double highest) {
 
 }  // namespace
 
+double LeadingDigits(std::string_view text) {
+  text = TrimBlanks(text);
+  const std::size_t sign = text.starts_with('-') ? 1 : 0;
+  return NumberValue(text.substr(0, text.find_first_not_of("0123456789", sign)));
+}
+
 double NumberValue(std::string_view text) {
   double number = 0;
   return LeadingNumber(TrimBlanks(text), number) != nullptr && std::isfinite(number) ? number : 0;
@@ -77,7 +83,7 @@ double ToNumber(std::string_view text) {
   return number;
 }
 
-int IntegerValue(std::string_view text) { return RoundToInteger(NumberValue(text)); }
+int IntegerValue(std::string_view text) { return RoundToInteger(LeadingDigits(text)); }
 
 int ToInteger(std::string_view text) { return RoundToInteger(ToNumber(text)); }
 
@@ -94,8 +100,10 @@ std::int16_t RoundToInteger(double number) {
 }
 
 std::string NumberText(double number) {
-  char buffer[32];
-  const auto [end, failure] = std::to_chars(buffer, buffer + sizeof buffer, number);
+  constexpr double kLongest = 1e15;  // written out; beyond it, with an exponent
+  char buffer[64];
+  const auto format = std::abs(number) < kLongest ? std::chars_format::fixed : std::chars_format::general;
+  const auto [end, failure] = std::to_chars(buffer, std::end(buffer), number, format);
   if (failure != std::errc{} || number == 0) return "0";
   return {buffer, end};
 }

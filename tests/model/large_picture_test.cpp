@@ -66,7 +66,7 @@ TEST(LargePicture, IsNotZoomedBeyondTheMemory) {
   const TemporaryFolder folder;
   std::vector<std::string> printed;
   headless::Driver driver(folder.Path(), [&](const std::string& line) { printed.push_back(line); });
-  for (const char* step : {"set Form4.picbox.Width = 150000", "set Form4.picbox.Height = 150000",
+  for (const char* step : {"set Form4.picbox.Width = 150000", "set Form4.picbox.Height = 105000",
                            "click! Form4.cmdm(0)", "get Form4.picbox.Width", "get Form4.txt5.Text"}) {
     driver.Execute(step);
   }

@@ -28,7 +28,11 @@ TEST(LetterCase, ChangesTheScriptsThatPeopleWriteIn) {
 }
 
 TEST(Numbers, AreReadForgivinglyOrStrictly) {
-  EXPECT_EQ(NumberValue("12 Chapter"), 12);
+  EXPECT_EQ(LeadingDigits("12 Chapter"), 12);
+  EXPECT_EQ(LeadingDigits(" -3.5x"), -3);
+  EXPECT_EQ(LeadingDigits("1e2"), 1);
+  EXPECT_EQ(LeadingDigits("+5"), 0);
+  EXPECT_EQ(LeadingDigits("-"), 0);
   EXPECT_EQ(NumberValue(" -3.5x"), -3.5);
   EXPECT_EQ(NumberValue("x12"), 0);
   EXPECT_EQ(NumberValue("-inf"), 0);

@@ -11,7 +11,8 @@ click Form3.File1 "LOUD.NOT"
 # ODDITY(drive-fails)
 click Form3.f2
   Form3.Drive1: "/"
-choose Form3.Drive1 "/" | run-time error 424 "Object required"
+choose Form3.Drive1 "/"
+set Form3.Drive1.Drive = "D:" | error: run-time error 424 "Object required"
   Form3.Dir1.Path "DATA"
 
 # Another folder shows its own notes. ODDITY(notes-folder-now): a note from the folder before is looked for
@@ -31,9 +32,10 @@ click Form3.Command13
 click Form3.File1 "deep.not"
   Form3.txthelp "deep"
 
-# A note that went away, one without a name, and the name that stands for none.
-@delete folder/deep.not
+# The chooser lists what is there when it opens; a note that goes away meanwhile, one without a name, and the name
+# that stands for none.
 click Form3.f2
+@delete folder/deep.not
 click Form3.File1 "deep.not" | run-time error 53 "File not found"
   Form3.picopen shown, lblname "deep", txthelp "deep"
 @write folder/.not "nameless"

@@ -6,6 +6,15 @@
 click Form1.imgp(1)
 click Form1.Command32
   Form4.picbox.Width 45, cmdm(1) disabled
+
+# A zoom ahead of the first colour paints into the picture.
+click Form4.cmdm(0)
+click Form4.cmdm(0)
+  Form4.picbox.Image picture 12x4, picbox.Point(11,3) 5291540, picbox.AutoRedraw False
+click Form4.cmdm(1)
+click Form4.cmdm(1)
+click Form4.IMGSPB(0)
+
 mousedown Form4.clrboxs(0) 1 0 5 5
   Form4.IMGSPB(4) picture 3x1, IMGSPB(3) none
 @files .

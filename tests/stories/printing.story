@@ -26,7 +26,7 @@ printer off
 click Form2.Command1
   Form2.Command1 shown, Text1.Height 5775
 close Form2
-  Form2.Text1 "Text1"
+  Form2 hidden, Text1 "For Sunday:\r\nRuth 1"
 
 # The note has the bookmark's name; one that the file system refuses makes none, and the page opens all the
 # same.

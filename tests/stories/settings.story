@@ -83,10 +83,8 @@ click Form1.Command36 | run-time error 53 "File not found" | end
   rtxt.FontSize 0
 click Form1.oo11
 choose Form1.Combo1 "Georgia"
-choose Form1.Combo2 "12"
-choose Form1.Combo3 "Regular"
 click Form1.Command36
-@show codex.cfg | "Georgia","12","Regular"
+@show codex.cfg | "Georgia","11","Regular"
 
 # An older file: its font stands where the style is read, and the style stays.
 @write codex.cfg | "Arial","10","Verdana","12"

@@ -92,6 +92,14 @@ click Form1.gg5
 click Form1.gg1
   lblbk "John", lblc "1", rtxt "1   A man by the road.\r\nChapter 2\r\n"
 
+# From a book of one chapter, and from the book itself, it is chapter 1 all the same.
+click Form1.lst "Jude"
+click Form1.gg5
+  lblc "1", rtxt "1   Two old people by the river.\r\n2   They wait.\r\nChapter 2\r\n"
+scroll Form1.scr 2
+click Form1.gg5
+  lblc "1"
+
 # With the search open the bar is not taken back: the old book's chapter 2 stays under the new name.
 click Form1.lst "Exodus"
 set Form1.frms.Visible = True

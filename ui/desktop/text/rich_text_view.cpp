@@ -124,10 +124,10 @@ void RichTextView<Edit>::PrepareToBeRead() {
 // What is read for a long time is set larger than what is pressed, and as large as the reader wants it.
 template <class Edit>
 QFont RichTextView<Edit>::WantedFont() const {
-  constexpr double kReadingSize = 11;
   QFont font = ControlView::WantedFont();
   if (!kIsPage) return ForWriting(font);
-  font.setPointSizeF((pane_.FontSize > 0 ? pane_.FontSize() : kReadingSize) * GetWindow().Enlargement());
+  font.setPointSizeF((pane_.FontSize > 0 ? pane_.FontSize() : forms::kReadingSize) *
+                     GetWindow().Enlargement());
   return font;
 }
 
