@@ -27,11 +27,11 @@ std::string Joined(const Lines& parts, std::string_view separator) {
 }
 
 bool Fits(std::string_view expected, std::string_view got) {
-  const std::size_t more = expected.rfind("…");
-  if (more == std::string_view::npos) return expected == got;
-  const std::string_view behind = expected.substr(more + std::string_view("…").size());
-  if (behind.find_first_not_of('"') != std::string_view::npos) return expected == got;
-  return got.starts_with(expected.substr(0, more));
+  constexpr std::string_view kAnything = "…";
+  const std::size_t at = expected.find(kAnything);
+  if (at == std::string_view::npos) return expected == got;
+  const std::string_view behind = expected.substr(at + kAnything.size());
+  return got.size() >= at + behind.size() && got.starts_with(expected.substr(0, at)) && got.ends_with(behind);
 }
 
 bool Fits(const Lines& expected, const Lines& got) {
@@ -49,6 +49,14 @@ bool Fits(const Lines& expected, const Lines& got) {
   return skipping || at == got.size();
 }
 
+namespace {
+
+std::string Numbered(char sign, std::size_t index, const std::string& line) {
+  return sign + std::to_string(index + 1) + (line.empty() ? "" : " " + line);
+}
+
+}  // namespace
+
 Lines Difference(const Lines& before, const Lines& now) {
   // How many lines are common to what follows the i-th line of one and the j-th of the other.
   std::vector<std::vector<int>> common(before.size() + 1, std::vector<int>(now.size() + 1));
@@ -64,10 +72,10 @@ Lines Difference(const Lines& before, const Lines& now) {
       ++i;
       ++j;
     } else if (j == now.size() || (i < before.size() && common[i + 1][j] >= common[i][j + 1])) {
-      difference.push_back("-" + std::to_string(i + 1) + " " + before[i]);
+      difference.push_back(Numbered('-', i, before[i]));
       ++i;
     } else {
-      difference.push_back("+" + std::to_string(j + 1) + " " + now[j]);
+      difference.push_back(Numbered('+', j, now[j]));
       ++j;
     }
   }

@@ -13,7 +13,7 @@ using Lines = std::vector<std::string>;
 Lines Split(std::string_view text, std::string_view separator);
 std::string Joined(const Lines& parts, std::string_view separator);
 
-// Whether a text is as expected; an ellipsis at the end, in front of a quote or not, stands for the rest.
+// Whether a text is as expected, where an ellipsis stands for any characters.
 bool Fits(std::string_view expected, std::string_view got);
 
 // The same for all lines; one that is just an ellipsis stands for any number of them.

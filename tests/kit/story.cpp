@@ -56,7 +56,8 @@ void Story::PlayStep(std::size_t start, std::size_t end) {
   std::size_t at = start + 1;
   for (; at < end && Unindented(lines_[at]).starts_with('|'); ++at) {
     const std::string line = Unindented(lines_[at]);
-    expected.push_back(line.substr(std::min<std::size_t>(2, line.size())));
+    const Lines parts = Split(line.substr(std::min<std::size_t>(2, line.size())), " | ");
+    expected.insert(expected.end(), parts.begin(), parts.end());
   }
   Act(start, step, expected);
   const bool fits = Fits(expected, printed_);
@@ -228,22 +229,27 @@ void Story::Record(const std::string& line) const {
 
 void Story::RecordStep(const std::string& step, const Lines& printed) const {
   const std::string all = Joined(printed, " | ");
-  const bool beside = step.size() + all.size() < kWidth && Split(all, " | ") == printed &&
-                      std::none_of(printed.begin(), printed.end(), [](const std::string& line) {
-                        return line.empty() || line.starts_with(' ') || line.ends_with(' ') || line == "…";
-                      });
-  Record(step + (beside ? " | " + all : ""));
-  for (const std::string& line : printed) {
-    if (!beside) Record("  |" + (line.empty() ? "" : " " + line));
+  // Lines with blanks at an end, or "…", are not told from their neighbours side by side.
+  const bool side_by_side = Split(all, " | ") == printed &&
+                            std::none_of(printed.begin(), printed.end(), [](const std::string& line) {
+                              return line.empty() || line.front() == ' ' || line.back() == ' ' || line == "…";
+                            });
+  if (side_by_side && step.size() + all.size() < kWidth) return Record(step + " | " + all);
+  Record(step);
+  std::string line;
+  for (const std::string& one : printed) {
+    if (!line.empty() && (!side_by_side || line.size() + one.size() > kWidth))
+      Record(std::exchange(line, ""));
+    line += (line.empty() ? "  |" : " |") + (one.empty() ? "" : " " + one);
   }
+  if (!line.empty()) Record(line);
 }
 
 void Story::RecordChecks(const std::string& name, const Lines& checks) const {
   std::string line = "  " + name;
   for (std::size_t i = 0; i < checks.size(); ++i) {
     if (i > 0 && line.size() + checks[i].size() > kWidth) {
-      line.pop_back();
-      Record(line);
+      Record(line.substr(0, line.size() - 1));
       line = "    ";
     }
     line += checks[i] + (i + 1 < checks.size() ? ", " : "");

@@ -11,8 +11,9 @@
 // any
 //   number of lines, and "…" at the end of a line or a text for the rest of it. The lines may also stand
 //   beside the step: run | beep | ran 265 ticks
-//   The answers that boxes get in them (-> "Ruth", -> yes) are given, unless an `answer` stands in front; a
-//   box that gets -> "" is cancelled.
+// - The answers that boxes get in such lines (-> "Ruth", -> yes) are given, unless an `answer` stands in
+// front;
+//   a box that gets -> "" is cancelled.
 // - Any other line checks what is there now. NAME.PROPERTY VALUE is a property as `get` prints it. Without a
 //   property, a text is the Caption or Text, a number the Value, `picture 2x1` or `none` the Picture, `shown`
 //   or `hidden` Visible, `enabled` or `disabled` Enabled, and `empty` a list without items. The window is

@@ -19,7 +19,8 @@ int main(int count, char** arguments) {
   // The story plays in a process of its own, so that the folder goes also where that one crashes.
   const pid_t child = ::fork();
   if (child == 0) {
-    const kit::StoryFolder folder(fs::path(around) / "data", fs::path(arguments[1]) / "data", arguments[2]);
+    const kit::StoryFolder folder(fs::path(around) / "data", fs::absolute(arguments[1]) / "data",
+                                  arguments[2]);
     kit::Story story(arguments[3], folder, count == 5 ? kit::Mode::kRecord : kit::Mode::kPlay);
     return story.Play() ? 0 : 1;
   }

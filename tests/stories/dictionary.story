@@ -21,7 +21,6 @@ mousedown Form1.lstd 1 0 10 10
   lstd.MousePointer 11
 click Form1.lstd
   lstd.MousePointer 0, ddf "A garment of the priests, worn over the robe"
-
 click Form1.Command19
   frmd hidden, Command17 enabled
 
@@ -39,24 +38,20 @@ click Form1.lstd 9
 click Form1.lstd "Lamp"
   dwd "Lamp", ddf "A light"
 
-# With too few fields in a record those of the next one fill it up, and the last one cannot be filled.
-# ODDITY(concordance-missing): only a missing file is told as the concordance's.
+# A record that the end of the file cuts off is reported, and a missing file as the concordance's.
+# ODDITY(concordance-missing)
 @write cdxdic.dat | "Ark","A chest" | "Lamp","A light","They lit a lamp.","Genesis 3:1"
 click Form1.Command19
-click Form1.Command17
-  | message "An error (62 ) has occured during proccessing your request. Click HELP, for information on possible sources causing the error. " "Lectern 2"
-  | beep
+click Form1.Command17 | message "An error (62 ) has occured…" "Lectern 2" | beep
   frmd hidden, Command17 enabled, lstd.ListCount 13, lstd.List(12) "Ark"
 @delete cdxdic.dat
 click Form1.cc2 | message "CONCORD.DAT missing from DATA" "Lectern 2" | beep
   frmd hidden
 
-# The file comes back, and nothing of it was left open.
+# The file comes back, and nothing of it was left open. Gone once more with the panel open, a click ends the program.
 @write cdxdic.dat | "Ark","A chest","Make thee an ark.","Genesis 6:14"
 click Form1.cc2
 click Form1.lstd 13
   dex "Make thee an ark. :  Genesis 6:14"
-
-# Gone once more with the panel open: a click has nobody to tell.
 @delete cdxdic.dat
 click Form1.lstd 13 | run-time error 53 "File not found" | end

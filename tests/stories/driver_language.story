@@ -43,7 +43,7 @@ echo  two  blanks stay
   |  two  blanks stay
 @status | 2
 
-# A failure in a tick is told where it happened, the end with it, and the count of the ticks behind them.
+# A failure in a tick is reported where it happened, then the end, then the count of the ticks.
 @restart
 set Form1.tmrpic.Enabled = True
 run 5 | run-time error 380 "Invalid property value" | end | ran 1 ticks

@@ -2,8 +2,7 @@
 @write bookmark.txt "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}\\f0\\b Book marks\\b0\\par Named places.}"
 @write paint.txt "Plain text will do."
 click Form1.xh2
-  txthelp "Lectern 2, by the makers of Lectern, 2026. It is free to use and to pass on. If you would like to give a donation, or pictures for the gallery, please see us on the web by clicking ''Internet'', at the top menu bar."
-  txthelp.FontBold True, txthelp.FontSize 12
+  txthelp "Lectern 2, by the makers of Lectern, 2026. It is free to use…at the top menu bar.", txthelp.FontBold True, txthelp.FontSize 12
 click Form1.lblhp(0)
   txthelp.FontBold False, txthelp "Book marks\r\nNamed places."
 click Form1.Command4
@@ -24,8 +23,7 @@ click Form1.Command44
   frmhelp hidden, Picture1 shown, Command16 enabled
 
 # About, and the pages.
-click Form1.aboutlt
-  | message "Lectern 2, by the makers of Lectern, 2026. It is free to use and to pass on. If you would like to give a donation, or pictures for the gallery, please see us on the web by clicking ''Internet'', at the top menu bar." "Lectern 2"
+click Form1.aboutlt | message "Lectern 2, by the makers of Lectern, 2026. It is free to use…at the top menu bar." "Lectern 2"
 click Form1.webb1 | browse "http://www.example.org/lectern/"
 click Form1.webb2 | browse "http://www.example.org/"
 call OpenWebPage "HTTP://EXAMPLE.ORG/a" | browse "HTTP://EXAMPLE.ORG/a"
@@ -38,16 +36,14 @@ call OpenWebPage "" | browse "http://www.example.org"
 call HelpFontSize
   txthelp "To change the size of the font click OPTIONS, at the top of the sceen. Click appropriate number under font size."
 call HelpChangingBook
-  txthelp "To change the book, close the Text search and the Concordance, and click on desired book from list box, on the right side of the screen. The program will show the first 10 chapters."
-  frmhelp hidden
+  frmhelp hidden, txthelp "To change the book, close the Text search and the Concordance,…the first 10 chapters."
 call HelpContact
   txthelp "To reach the makers of Lectern, please see us on the web by clicking ''Internet'', at the top menu bar."
 
 # The search tells here how long it takes, over its own panel.
 click Form1.Command16
 click Form1.Command15
-  txthelp "Tested on a: Pent2/266 - book < minute, codex < minute --- 586/75 - book = < 1 minute, codex = < 3.5 minutes  ---  486/66 - book = < 1 minute, codex = < 5 minutes  ---  386/15 - book = < 5 minute, codex = < 35 minutes --- Patience is a virtue."
-  frms shown
+  frms shown, txthelp "Tested on a: Pent2/266 - book < minute,…codex = < 35 minutes --- Patience is a virtue."
 click Form1.Command4
 
 # A topic that is missing ends the program.

@@ -1,5 +1,4 @@
 # A page is printed from the bookmarks; the notes are not what is on it.
-date 2026-11-16
 printer on
 click Form1.Command3
 # ODDITY(print-page-empty): with no bookmark in hand the note is NAME.NOT, and it is left as it is.
@@ -14,7 +13,7 @@ click Form2.Command2
   Form2 hidden
 click Form1.Command30
   Form2.Text1 "For Sunday:\r\nRuth 1"
-@show NAME.NOT | kept, as it is
+@changes NAME.NOT | unchanged
 
 # The window comes back at its own height whatever it was before.
 set Form2.Height = 9000
@@ -30,7 +29,7 @@ close Form2
 
 # The note has the bookmark's name; one that the file system refuses makes none, and the page opens all the
 # same.
-click Form1.Command10 | input "Enter a name for bookmark" "Enter Name" "11 - 16 - 26" -> "Ruth"
+click Form1.Command10 | input … -> "Ruth"
 click Form1.Command30
 @show Ruth.NOT | empty
 set Form1.LBLMRK(0).Caption = "when: now"

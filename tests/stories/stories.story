@@ -1,10 +1,6 @@
 # An evening with children: stories from the menu, and where they lead.
 @write KJV/Luke.txt
-  | Chapter 1
-  | 1   Two old people by the river.
-  | 2   They wait.
-  | Chapter 2
-  | 1   A child in the night.
+  | Chapter 1 | 1   Two old people by the river. | 2   They wait. | Chapter 2 | 1   A child in the night.
 @write KJV/John.txt | Chapter 1 | 1   A man by the road. | Chapter 2 | 1   A feast on the third day.
 @append bookschap.txt | "Luke",2 | "1-Samuel",2
 
@@ -12,59 +8,27 @@
 menu
   | …
   | "Codex &Stories" dd1
-  |   "The Beginning" dd2
-  |     "Adam and Eve" ss3
-  |     "Cain and Abel" sss4
-  |     "The Tower of Babel" ss4
-  |   "Abraham" dd3
-  |     "God's Covenent" ss1
-  |     "Three Visitors" ss5
-  |     "Tested" ss6
-  |   "Noah" dd4
-  |     "The Flood" ss7
-  |     "Noah's Ark" sss8
-  |     "God's Covenent" ss2
-  |   "Moses" ddd8
-  |     "The Ten Commandments" jj8
-  |     "The Burning Bush" ss8
-  |     "Crossing the Sea" ss9
+  |   "The Beginning" dd2 |     "Adam and Eve" ss3 |     "Cain and Abel" sss4 |     "The Tower of Babel" ss4
+  |   "Abraham" dd3 |     "God's Covenent" ss1 |     "Three Visitors" ss5 |     "Tested" ss6
+  |   "Noah" dd4 |     "The Flood" ss7 |     "Noah's Ark" sss8 |     "God's Covenent" ss2
+  |   "Moses" ddd8 |     "The Ten Commandments" jj8 |     "The Burning Bush" ss8 |     "Crossing the Sea" ss9
   |     "At Sinia" sss1
-  |   "David" dd5
-  |     "And Samuel" aaa3
-  |     "And Goliath" sss3
-  |     "And Saul" aaa4
+  |   "David" dd5 |     "And Samuel" aaa3 |     "And Goliath" sss3 |     "And Saul" aaa4
   |     "Becomes a King" aaa5
-  |   "Peter" dd6
-  |     "Disowns Jesus" ddd1
-  |     "Reinstated" aaa9
-  |     "Heals a Beggar" aaa8
+  |   "Peter" dd6 |     "Disowns Jesus" ddd1 |     "Reinstated" aaa9 |     "Heals a Beggar" aaa8
   |     "Escaping from Prison" sss7
-  |   "Paul" dd7
-  |     "First Journey" dddd5
-  |     "In Prison" ddd4
-  |     "Shiprecked" ddd3
+  |   "Paul" dd7 |     "First Journey" dddd5 |     "In Prison" ddd4 |     "Shiprecked" ddd3
   |     "Preaches in Rome" ddd2
-  |   "Jesus" dd8
-  |     "His Birth" gg5
-  |     "Changing Water to Wine" gg1
-  |     "Healing the Sick" ff9
-  |     "Walking on Water" ff8
-  |     "At the Temple" ff6
-  |     "The Last Supper" ff5
-  |     "On Trial" ff4
-  |     "Crusifiction" ff3
-  |     "After his Death" ff2
-  |     "Return to Heaven" ff1
+  |   "Jesus" dd8 |     "His Birth" gg5 |     "Changing Water to Wine" gg1 |     "Healing the Sick" ff9
+  |     "Walking on Water" ff8 |     "At the Temple" ff6 |     "The Last Supper" ff5 |     "On Trial" ff4
+  |     "Crusifiction" ff3 |     "After his Death" ff2 |     "Return to Heaven" ff1
   | "O&ptions" oo
   | …
 
 # ODDITY(story-keeps-range): the chapter loads, the bar keeps to the book before.
 click Form1.lst "Jude"
 click Form1.ss3
-  lblbk "Genesis", lblbook "Genesis", lblc "2"
-  rtxt: "1   A stranger came by the road at noon.       ", "2   He asked for water, and it was given him.       ",
-    "Chapter 3"
-  scr.Max 1, scr 1
+  lblbk "Genesis", lblbook "Genesis", lblc "2", rtxt "1   A stranger came by…Chapter 3\r\n", scr.Max 1, scr 1
 
 # The same story once more reads the book once more.
 @write KJV/Genesis.txt | Chapter 1 | 1   One. | Chapter 2 | 1   Told again.
@@ -104,11 +68,9 @@ click Form1.gg5
 click Form1.lst "Exodus"
 set Form1.frms.Visible = True
 click Form1.gg5
-  lblbk "Luke", lblc "2"
-  rtxt "1   A cloud stood over the road.       \r\n2   The graceful birds went before them.       \r\n"
+  lblbk "Luke", lblc "2", rtxt "1   A cloud stood over the road.…"
 set Form1.frms.Visible = False
 
 # A book that is missing leaves the text; nothing is said.
 click Form1.aaa5
-  lblbk "2-Samuel"
-  rtxt "1   A cloud stood over the road.       \r\n2   The graceful birds went before them.       \r\n"
+  lblbk "2-Samuel", rtxt "1   A cloud stood over the road.…"

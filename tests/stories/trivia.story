@@ -48,37 +48,28 @@ click Form1.Command29
 # ODDITY(trivia-minus-one): there is no question at -1. The question stays, the file stays open, and so the next
 # press fails as well, until a chapter is loaded.
 random 0.1
-click Form1.Command29
-  | message "An error (62 ) has occured during proccessing your request. Click HELP, for information on possible sources causing the error. " "Lectern 2"
-  | beep
+click Form1.Command29 | message "An error (62 ) has occured…" "Lectern 2" | beep
   Label25 "What was lit?", Command29.MousePointer 0
 @append codex.trv | "What flew ahead?","Birds (Exodus 2:2)" | "What was bright?","The river (Genesis 1:1)"
-click Form1.Command29
-  | message "An error (55 ) has occured during proccessing your request. Click HELP, for information on possible sources causing the error. " "Lectern 2"
-  | beep
+click Form1.Command29 | message "An error (55 ) has occured…" "Lectern 2" | beep
 click Form1.lst "Ruth"
 random 0.95
 click Form1.Command29
   Label25 "What flew ahead?"
 
+# Closed and opened by the menu: nothing is locked, and the history is still there.
 click Form1.Command28
   Picture17 hidden, Command2 enabled
-
-# By the menu: nothing is locked, and the history is still there.
 click Form1.cc4
   Picture17 shown, Command2 enabled, List3.ListCount 7
 
 # A record with too few fields; a file with none; a file that is not there.
 @write codex.trv | "Who?","Ruth" | "What?"
-click Form1.Command29
-  | message "An error (62 ) has occured during proccessing your request. Click HELP, for information on possible sources causing the error. " "Lectern 2"
-  | beep
+click Form1.Command29 | message "An error (62 ) has occured…" "Lectern 2" | beep
   Label25 "What flew ahead?"
 click Form1.lst "Ruth"
 @write codex.trv ""
-click Form1.Command29
-  | message "An error (62 ) has occured during proccessing your request. Click HELP, for information on possible sources causing the error. " "Lectern 2"
-  | beep
+click Form1.Command29 | message "An error (62 ) has occured…" "Lectern 2" | beep
 click Form1.lst "Ruth"
 @delete codex.trv
 click Form1.Command29 | message "CONCORD.DAT missing from DATA" "Lectern 2" | beep
@@ -92,9 +83,7 @@ click Form1.Command29
   Label25 "Who gathered grain?"
   List3: "0"
 random 0.9 0.49
-click Form1.Command29
-  | message "An error (62 ) has occured during proccessing your request. Click HELP, for information on possible sources causing the error. " "Lectern 2"
-  | beep
+click Form1.Command29 | message "An error (62 ) has occured…" "Lectern 2" | beep
 
-# The answer has nobody to tell that the file is open still.
+# The file is still open, which ends the program when the answer is asked for.
 click Form1.Command31 | run-time error 55 "File already open" | end
