@@ -90,6 +90,27 @@ struct PlainDesign {
   std::string_view name{};
 };
 
+// The edges of its parent that a control keeps its distance to when the person makes the parent larger. One
+// that keeps to opposite edges grows with it; one that keeps to neither keeps its share of the room on each
+// side. The properties Left, Top, Width and Height never change by it: only a layer arranges.
+enum class Anchor {
+  kTopLeft,
+  kTopCentre,
+  kTopRight,
+  kMiddleLeft,
+  kCentre,
+  kMiddleRight,
+  kBottomLeft,
+  kBottomCentre,
+  kBottomRight,
+  kTop,      // left, top and right
+  kBottom,   // left, bottom and right
+  kLeft,     // top, left and bottom
+  kRight,    // top, right and bottom
+  kFill,     // all four
+  kStorage,  // none: storage of the program's, which no person sees or reaches
+};
+
 // A press or a movement of the mouse over a control, in the control's own scale.
 struct MouseEvent {
   int button = 1;  // 1 left, 2 right, 4 middle, 0 none
@@ -193,6 +214,12 @@ class PlacedControl : public Control {
 
   void SetFocus();
 
+  void AnchorTo(Anchor anchor) { anchor_ = anchor; }
+  Anchor GetAnchor() const { return anchor_; }
+
+  // Whether a person never comes to it, nor to what lies in it, on the window that it belongs to.
+  bool IsStorage() const { return anchor_ == Anchor::kStorage; }
+
   Property<double> Left;
   Property<double> Top;
   RuledProperty<double> Width;
@@ -203,6 +230,9 @@ class PlacedControl : public Control {
 
  protected:
   virtual void SizeWritten() {}
+
+ private:
+  Anchor anchor_ = Anchor::kTopLeft;
 };
 
 // The font of a control that shows text. A size is refused (error 380) unless it is one that a font can

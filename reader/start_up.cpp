@@ -13,20 +13,17 @@ constexpr int kSettings = 1;  // slot
 
 }  // namespace
 
-StartUp::StartUp(Reader& the_reader, Panels& the_panels, StartUpControls the_controls)
-    : ReadSettings([] {}), reader_(the_reader), panels_(the_panels), controls_(the_controls) {}
+StartUp::StartUp(Reader& the_reader, StartUpControls the_controls)
+    : ReadSettings([] {}), reader_(the_reader), controls_(the_controls) {}
 
 void StartUp::Form_Load() {
   PlaceWindow();
   FindFolders();
   PlaceWindow();
-  const base::Ignoring ignore;
-  ignore([&] { controls_.Command26.Top = controls_.Command26.Top + 50; });
-  ignore([&] { controls_.Command30.Top = controls_.Command30.Top + 50; });
   LoadSettings();
+  const base::Ignoring ignore;
   ignore([&] { controls_.Dirpics.Path = reader_.Dir1.Path + "/Pics"; });
   FillLists();
-  PlacePanels();
   PlaceWindow();
   reader_.ShowGenesis();
 }
@@ -81,23 +78,6 @@ void StartUp::FillLists() {
   for (const std::string& font : reader_.form.Platform().FontNames()) controls_.Combo1.AddItem(font);
   for (const char* size : {"8", "10", "12", "14", "18"}) controls_.Combo2.AddItem(size);
   for (const char* style : {"Regular", "Italic", "Bold", "Bold Italic"}) controls_.Combo3.AddItem(style);
-}
-
-void StartUp::PlacePanels() {
-  struct PanelPlace {
-    forms::PlacedControl& panel;
-    double left, top;
-  };
-  const PanelPlace places[] = {
-      {panels_.picp, 360, 240},      {panels_.frms, 800, 1800},      {panels_.frmc, 800, 1800},
-      {panels_.frmhelp, 800, 360},   {panels_.Picture17, 100, 100},  {panels_.Picture1, 800, 1800},
-      {panels_.Picture2, 800, 1800}, {panels_.Picture23, 800, 1800}, {panels_.frmd, 240, 360},
-      {panels_.Picture4, 800, 1800},
-  };
-  for (const PanelPlace& place : places) {
-    place.panel.Left = place.left;
-    place.panel.Top = place.top;
-  }
 }
 
 }  // namespace lectern::reader

@@ -1,6 +1,6 @@
 // What happens once, before the window is seen: the size and place of the window, the folders, the settings,
-// the list of books, the fonts, the places of the panels, and Genesis 1. No position is remembered from
-// one run to the next. Nothing that fails here stops the start: each step stands for itself.
+// the list of books, the fonts, and Genesis 1. The panels stand in their places already. No position is
+// remembered from one run to the next. Nothing that fails here stops the start: each step stands for itself.
 #pragma once
 
 #include <functional>
@@ -8,7 +8,6 @@
 #include "forms/combo_box.h"
 #include "forms/folder_lists.h"
 #include "forms/text_box.h"
-#include "reader/panels.h"
 #include "reader/reader.h"
 
 namespace lectern::reader {
@@ -17,8 +16,6 @@ namespace lectern::reader {
 struct StartUpControls {
   forms::DirListBox& Dirpics;
   forms::FileListBox& File1;
-  forms::CommandButton& Command26;
-  forms::CommandButton& Command30;
   forms::TextBox& Text2;
   forms::ComboBox& Combo1;
   forms::ComboBox& Combo2;
@@ -27,7 +24,7 @@ struct StartUpControls {
 
 class StartUp {
  public:
-  StartUp(Reader& the_reader, Panels& the_panels, StartUpControls the_controls);
+  StartUp(Reader& the_reader, StartUpControls the_controls);
 
   void Form_Load();
 
@@ -39,10 +36,8 @@ class StartUp {
   void FindFolders();
   void LoadSettings();
   void FillLists();
-  void PlacePanels();
 
   Reader& reader_;
-  Panels& panels_;
   StartUpControls controls_;
 };
 

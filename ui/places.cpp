@@ -1,7 +1,8 @@
 #include "ui/places.h"
 
-#include <cassert>
 #include <charconv>
+#include <set>
+#include <stdexcept>
 #include <string>
 
 #include "forms/label.h"
@@ -11,29 +12,35 @@ namespace lectern::ui {
 
 namespace {
 
-forms::Control* FindByFullName(const forms::Window& window, std::string_view name) {
+forms::PlacedControl& FindByFullName(const forms::Window& window, std::string_view name) {
   const std::size_t bracket = name.find('(');
-  if (bracket == std::string_view::npos) return window.Find(name);
-  int index = 0;
-  std::from_chars(name.data() + bracket + 1, name.data() + name.size() - 1, index);
-  return window.Find(name.substr(0, bracket), index);
+  int index = -1;
+  if (bracket != std::string_view::npos) {
+    std::from_chars(name.data() + bracket + 1, name.data() + name.size() - 1, index);
+  }
+  auto* const control = dynamic_cast<forms::PlacedControl*>(window.Find(name.substr(0, bracket), index));
+  if (control == nullptr) {
+    throw std::logic_error(window.Name() + ": the table of places has an unknown control " +
+                           std::string(name));
+  }
+  return *control;
 }
 
 void Set(forms::TextControl& control, Look look) {
   constexpr double kTitleSize = 18;  // points
   constexpr double kHeadingSize = 12;
   constexpr double kSmallSize = 8;
-  const bool right = look == Look::kRight;
-  const bool centre = look == Look::kCentre || look == Look::kCentreStrong || look == Look::kCentreSmall;
-  if (auto* label = dynamic_cast<forms::Label*>(&control); label != nullptr && (right || centre)) {
-    label->Alignment = right ? forms::kAlignRight : forms::kAlignCentre;
+  const bool centred = look == Look::kCentred || look == Look::kCentredStrong || look == Look::kCentredSmall;
+  if (auto* label = dynamic_cast<forms::Label*>(&control)) {
+    if (look == Look::kFlushRight) label->Alignment = forms::kAlignRight;
+    if (centred) label->Alignment = forms::kAlignCentre;
   }
   if (look == Look::kTitle) control.FontSize = kTitleSize;
   if (look == Look::kHeading) control.FontSize = kHeadingSize;
   if (look == Look::kReading) control.FontSize = forms::kReadingSize;
-  if (look == Look::kSmall || look == Look::kCentreSmall) control.FontSize = kSmallSize;
+  if (look == Look::kSmall || look == Look::kCentredSmall) control.FontSize = kSmallSize;
   if (look == Look::kStrong || look == Look::kHeading || look == Look::kTitle ||
-      look == Look::kCentreStrong) {
+      look == Look::kCentredStrong) {
     control.FontBold = true;
   }
 }
@@ -41,14 +48,20 @@ void Set(forms::TextControl& control, Look look) {
 }  // namespace
 
 void Apply(std::span<const Place> places, forms::Window& window) {
+  std::set<const forms::Control*> placed;
   for (const Place& place : places) {
-    auto* const control = dynamic_cast<forms::PlacedControl*>(FindByFullName(window, place.control));
-    assert(control != nullptr);
-    control->Left = place.left * forms::kTwipsPerPixel;
-    control->Top = place.top * forms::kTwipsPerPixel;
-    control->Width = place.width * forms::kTwipsPerPixel;
-    control->Height = place.height * forms::kTwipsPerPixel;
-    if (auto* text = dynamic_cast<forms::TextControl*>(control)) Set(*text, place.look);
+    forms::PlacedControl& control = FindByFullName(window, place.control);
+    placed.insert(&control);
+    control.Left = place.left * forms::kTwipsPerPixel;
+    control.Top = place.top * forms::kTwipsPerPixel;
+    control.Width = place.width * forms::kTwipsPerPixel;
+    control.Height = place.height * forms::kTwipsPerPixel;
+    control.AnchorTo(place.anchor);
+    if (auto* text = dynamic_cast<forms::TextControl*>(&control)) Set(*text, place.look);
+  }
+  for (const forms::Control* control : window.Controls()) {
+    if (dynamic_cast<const forms::PlacedControl*>(control) == nullptr || placed.contains(control)) continue;
+    throw std::logic_error(window.Name() + ": the table of places lacks " + control->FullName());
   }
 }
 

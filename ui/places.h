@@ -1,6 +1,6 @@
-// Where the controls of a window stand: a table of its own for each panel, one line a control, so that the
-// look can change without touching what anything does. Places are in pixels at 96 dots an inch (15 twips),
-// within the control's parent.
+// Where the controls of a window stand: one table for each window, one line a control. Places are in pixels
+// at 96 dots an inch (15 twips), within the control's parent, at the size with which the window starts. The
+// controls of storage are marked as such by their anchor.
 #pragma once
 
 #include <span>
@@ -18,20 +18,24 @@ enum class Look {
   kHeading,
   kTitle,
   kSmall,
-  kRight,
-  kCentre,
-  kCentreStrong,
-  kCentreSmall
+  kFlushRight,
+  kCentred,
+  kCentredStrong,
+  kCentredSmall
 };
 
 struct Place {
   std::string_view control;  // "lblc", "LBLMRK(2)"
   double left, top, width, height;
+  forms::Anchor anchor = forms::Anchor::kTopLeft;
   Look look = Look::kPlain;
 };
 
-// Gives each control of the table its place and its look. A name that the window does not have is an
-// assertion: a table and its window belong together.
+// Puts the controls of a window in their places. Throws a std::logic_error that names the control where the
+// table has one that the window has not, or lacks one of the window's.
 void Apply(std::span<const Place> places, forms::Window& window);
+
+extern const std::span<const Place> kForm1Places;
+extern const std::span<const Place> kForm4Places;
 
 }  // namespace lectern::ui

@@ -11,11 +11,9 @@
 #include "base/program_end.h"
 #include "base/run_time_error.h"
 #include "forms/windows.h"
-#include "ui/form1/form1.h"
-#include "ui/form2.h"
-#include "ui/form3.h"
-#include "ui/form4/form4.h"
-#include "ui/form5.h"
+#include "ui/form1.h"
+#include "ui/form4.h"
+#include "ui/small_windows.h"
 
 namespace lectern::ui {
 

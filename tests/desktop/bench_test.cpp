@@ -14,6 +14,7 @@ class Bench : public Stage {
   Bench() {
     constexpr double kFarAway = 2000 * forms::kTwipsPerPixel;
     for (forms::PlacedControl* control : std::initializer_list<forms::PlacedControl*>{&maker, &tools}) {
+      control->AnchorTo(forms::Anchor::kStorage);
       control->Left = kFarAway;
       control->Top = -40 * forms::kTwipsPerPixel;
       control->Width = 300 * forms::kTwipsPerPixel;

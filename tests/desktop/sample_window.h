@@ -69,6 +69,7 @@ class SampleWindow : public forms::Window {
     place(cancel, 180, 120, 100, 28);
     place(in_panel, 10, 10, 200, 24);
     place(far_away, 1200, 10, 100, 20);
+    far_away.AnchorTo(forms::Anchor::kStorage);
     JoinHandlers();
     for (const char* book : {"Genesis", "Exodus", "Leviticus", "Job", "Joel", "John"}) list.AddItem(book);
     for (const char* size : {"8", "10", "12"}) combo.AddItem(size);

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/kit/test_window.h"
-#include "ui/form2.h"
-#include "ui/form5.h"
+#include "ui/small_windows.h"
 
 namespace lectern {
 namespace {

@@ -70,9 +70,8 @@ QRect ControlView::Place() const {
   return {corner_.value_or(QPoint(left, top)), size};
 }
 
-// What stands wholly outside of its panel, as a program's storage does, is no part of what a person sees or
-// comes to by the keyboard.
-bool ControlView::IsInReach() const { return Place().intersects(parent_.rect()); }
+// Storage is no part of what a person sees or reaches, except where it was put on the keeper's bench.
+bool ControlView::IsInReach() const { return corner_.has_value() || !control_.IsStorage(); }
 
 void ControlView::Refresh() {
   if (window_.IsAbandoned()) return;

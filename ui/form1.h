@@ -88,11 +88,9 @@ class Form1 : public forms::Window {
   gallery::OldCatalogue old_catalogue_{pictures_, viewer_};
   gallery::OlderList older_list_{pictures_, panels_};
   gallery::BookConverter book_converter_{panels_};
-  reader::StartUp start_up_{
-      reader_,
-      panels_,
-      {pictures_.Dirpics, bookmarks_.File1, maintenance_.Command26, page_printing_.Command30,
-       concordance_builder_.Text2, settings_.Combo1, settings_.Combo2, settings_.Combo3}};
+  reader::StartUp start_up_{reader_,
+                            {pictures_.Dirpics, bookmarks_.File1, concordance_builder_.Text2,
+                             settings_.Combo1, settings_.Combo2, settings_.Combo3}};
   reader::Exits exits_{reader_, menus_, tools_, {settings_.Combo1, settings_.Combo2, settings_.Combo3}};
 };
 

@@ -1,8 +1,8 @@
-#include "ui/form4/form4.h"
+#include "ui/form4.h"
 
 #include "base/error_modes.h"
 #include "paint/drawings.h"
-#include "ui/form4/places.h"
+#include "ui/places.h"
 
 namespace lectern::ui {
 
@@ -17,7 +17,7 @@ Form4::Form4(forms::Services services, gallery::PictureCatalogue& gallery, galle
   routines["PrintPaintPicture"] = [this, print_picture](const std::string&) {
     print_picture(canvas_.picbox.Picture);
   };
-  Apply(kPaintPlaces, *this);
+  Apply(kForm4Places, *this);
 }
 
 void Form4::Form_Load() {

@@ -1,6 +1,6 @@
-#include "ui/form1/form1.h"
+#include "ui/form1.h"
 
-#include "ui/form1/places.h"
+#include "ui/places.h"
 #include "ui/quotation.h"
 
 namespace lectern::ui {
@@ -19,7 +19,7 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
   routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue_.ShowPicsDatPicture(); };
   routines["ListChapterPictures"] = [this](const std::string&) { older_list_.ListChapterPictures(); };
 
-  for (const std::span<const Place> table : kForm1Places) Apply(table, *this);
+  Apply(kForm1Places, *this);
 }
 
 }  // namespace lectern::ui
