@@ -13,7 +13,7 @@
 #include "forms/picture.h"
 #include "reader/canon.h"
 #include "ui/headless/driver.h"
-#include "ui/headless/picture_decoder.h"
+#include "ui/headless/headless_platform.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "forms/image.h"
 #include "tests/kit/test_window.h"
 #include "ui/headless/driver.h"
-#include "ui/headless/picture_decoder.h"
+#include "ui/headless/headless_platform.h"
 
 namespace lectern {
 namespace {

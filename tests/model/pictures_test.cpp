@@ -6,7 +6,7 @@
 #include "tools/make_data/drawings.h"
 #include "tools/make_data/picture_table.h"
 #include "tools/make_data/verses.h"
-#include "ui/headless/picture_decoder.h"
+#include "ui/headless/headless_platform.h"
 
 namespace lectern::make_data {
 namespace {

@@ -11,7 +11,7 @@
 #include "tools/make_data/markup.h"
 #include "tools/make_data/sources.h"
 #include "tools/make_data/topics.h"
-#include "ui/headless/picture_decoder.h"
+#include "ui/headless/headless_platform.h"
 
 namespace lectern::fuzz {
 

@@ -28,8 +28,8 @@ void WantNoWords(const std::vector<Word>& words) {
 
 }  // namespace
 
-// A command beside those of the person: its name, whether the program has to have started, and what it
-// does with its words or, where they are free text, with the rest of its line.
+// A command that does not play the person: its name, whether the program must have started, and what it does
+// with its words or, where they are free text, with the rest of its line.
 struct Driver::Command {
   std::string_view name;
   Needs needs;
@@ -102,20 +102,20 @@ void Driver::Execute(std::string_view line) {
     misunderstood_ = true;
     print_("error: " + misunderstood.reason);
   }
-  TellEnd();
+  PrintEnd();
 }
 
 void Driver::Run(std::string_view name, std::string_view rest) {
   const auto words = [rest] {
     std::optional<std::vector<Word>> found = Words(rest);
-    if (!found) throw Misunderstood{"a text is not closed, or an escape is none"};
+    if (!found) throw Misunderstood{"a text is not closed, or an escape is unknown"};
     return *std::move(found);
   };
   const bool keepers = name.ends_with('!');
   const std::string_view plain = name.substr(0, name.size() - (keepers ? 1 : 0));
   if (ScriptedPerson::Knows(plain)) {
     Start();
-    person_.Do(plain, words(), keepers ? Hand::kKeeper : Hand::kReader);
+    person_.Do(plain, words(), keepers ? Actor::kKeeper : Actor::kReader);
     return;
   }
   const auto found = std::find_if(Commands().begin(), Commands().end(),
@@ -133,13 +133,13 @@ void Driver::Start() {
   if (!std::exchange(started_, true)) program_.Start();
 }
 
-void Driver::TellEnd() {
-  if (program_.HasEnded() && !std::exchange(told_end_, true)) print_("end");
+void Driver::PrintEnd() {
+  if (program_.HasEnded() && !std::exchange(end_printed_, true)) print_("end");
 }
 
 namespace {
 
-// Selected(index) of a list that holds one selection: taking it off another item changes nothing.
+// Selected(index) of a list with one selection: deselecting another item changes nothing.
 void SetSelected(forms::ItemList& list, int index, bool selected) {
   if (index < 0 || index >= list.ListCount()) throw RunTimeError(base::ErrorNumber::kInvalidProperty);
   if (selected) {
@@ -195,7 +195,7 @@ void Driver::RunTimers(const std::vector<Word>& words) {
   if (!most || words.size() > 1) throw Misunderstood{"a number is wanted"};
   int ticks = 0;
   while (ticks < *most && !program_.HasEnded() && program_.Tick()) ++ticks;
-  TellEnd();  // as it happened, ahead of the count
+  PrintEnd();  // it happened before the count is printed
   print_("ran " + std::to_string(ticks) + " ticks");
 }
 

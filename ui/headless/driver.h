@@ -1,5 +1,5 @@
-// The program without a screen, driven by a language of one command a line. It reads what a reader or
-// keeper does, brings it in where a mouse would, and writes what happens. It adds no behaviour of its own.
+// The program without a screen, driven by a language of one command a line. It reads what a reader or keeper
+// does, delivers it where a mouse would, and prints what happens. It adds no behaviour of its own.
 #pragma once
 
 #include <functional>
@@ -8,9 +8,8 @@
 #include <vector>
 
 #include "base/files/file_system.h"
+#include "ui/headless/commands.h"
 #include "ui/headless/headless_platform.h"
-#include "ui/headless/inspector.h"
-#include "ui/headless/scripted_person.h"
 #include "ui/program.h"
 
 namespace lectern::headless {
@@ -35,7 +34,7 @@ class Driver {
 
   void Run(std::string_view name, std::string_view rest);
   void Start();
-  void TellEnd();
+  void PrintEnd();
 
   void Set(std::string_view rest);
   void Call(const std::vector<Word>& words);
@@ -53,7 +52,7 @@ class Driver {
   Inspector inspector_;
   ScriptedPerson person_;
   bool started_ = false;
-  bool told_end_ = false;
+  bool end_printed_ = false;
   bool quit_ = false;
   bool misunderstood_ = false;
 };

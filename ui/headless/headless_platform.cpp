@@ -7,8 +7,7 @@
 
 #include "base/run_time_error.h"
 #include "forms/window.h"
-#include "ui/headless/picture_decoder.h"
-#include "ui/headless/values.h"
+#include "ui/headless/language.h"
 
 namespace lectern::headless {
 

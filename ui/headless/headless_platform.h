@@ -1,5 +1,5 @@
-// The desktop as it is without a screen: boxes find their answers laid ready, and what would be seen or
-// heard is written as a line of text.
+// The platform without a screen: boxes take answers that were prepared, and what would be seen or heard is
+// printed as a line of text.
 #pragma once
 
 #include <deque>
@@ -13,7 +13,7 @@
 
 namespace lectern::headless {
 
-// What the next box that opens is answered.
+// The answer to the next box that opens.
 struct Answer {
   enum class Kind { kText, kYes, kNo, kOk, kCancel };
   Kind kind = Kind::kOk;
@@ -38,10 +38,10 @@ class HeadlessPlatform : public base::Platform {
   void PrintForm(forms::Window& window) override;
   bool OpenInBrowser(std::string_view address) override;
 
-  // What a script lays ready.
+  // What a script has prepared.
   std::deque<Answer> answers;
-  std::deque<double> random_numbers;  // before the real source goes on
-  std::optional<base::Date> date;     // the clock's where not set
+  std::deque<double> random_numbers;  // used before the real source
+  std::optional<base::Date> date;     // the clock's date where not set
   base::ScreenSize screen;
   std::vector<std::string> fonts;
   bool has_printer = false;
@@ -52,5 +52,8 @@ class HeadlessPlatform : public base::Platform {
   std::function<void(const std::string&)> event_;
   std::mt19937_64 random_;
 };
+
+// The picture in the bytes of a JPEG, PNG, GIF, BMP or ICO file. Error 481 where they are not a picture.
+forms::Picture DecodePicture(std::string_view bytes);
 
 }  // namespace lectern::headless

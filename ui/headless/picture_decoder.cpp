@@ -1,10 +1,10 @@
-#include "ui/headless/picture_decoder.h"
-
 #include <cstdint>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <memory>
 
 #include "base/run_time_error.h"
+#include "forms/picture.h"
+#include "ui/headless/headless_platform.h"
 
 namespace lectern::headless {
 
@@ -33,8 +33,8 @@ forms::Picture FromPixbuf(const GdkPixbuf* pixbuf) {
   return forms::Picture(std::move(bitmap));
 }
 
-// The same limit as on the desktop: a gigabyte of pixels. A header that promises more is found out before
-// there is memory asked for: a picture of no size is not decoded.
+// The same limit as on the desktop: a gigabyte of pixels. A header that promises more is refused before any
+// memory is asked for, as a picture of no size is not decoded.
 void NoteSize(GdkPixbufLoader* loader, gint width, gint height, gpointer too_large) {
   constexpr std::int64_t kMostPixels = std::int64_t{1024} * 1024 * 1024 / sizeof(forms::Pixel);
   if (std::int64_t{width} * height <= kMostPixels) return;
