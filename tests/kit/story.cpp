@@ -33,7 +33,7 @@ bool Story::Play() {
   for (std::size_t start = 0; start < lines_.size(); start = end) {
     end = start + 1;
     if (IsPassedOver(start)) {
-      Record(lines_[start]);
+      RecordLines(start, end);
       continue;
     }
     for (std::size_t next = end; next < lines_.size() && (IsUnderStep(next) || IsPassedOver(next)); ++next) {
@@ -41,17 +41,17 @@ bool Story::Play() {
     }
     PlayStep(start, end);
   }
-  return !failed_;
+  return failures_ == 0;
 }
 
 bool Story::IsPassedOver(std::size_t line) const { return lines_[line].empty() || lines_[line][0] == '#'; }
 
 bool Story::IsUnderStep(std::size_t line) const { return lines_[line].starts_with(' '); }
 
-// A step with what stands beside it and under it, up to the line `end`.
+// A step, or several, with what stands beside it and under it, up to the line `end`.
 void Story::PlayStep(std::size_t start, std::size_t end) {
   Lines expected = Split(lines_[start], " | ");
-  const std::string step = expected.front();
+  const Lines steps = Split(expected.front(), "; ");
   expected.erase(expected.begin());
   std::size_t at = start + 1;
   for (; at < end && Unindented(lines_[at]).starts_with('|'); ++at) {
@@ -59,23 +59,27 @@ void Story::PlayStep(std::size_t start, std::size_t end) {
     const Lines parts = Split(line.substr(std::min<std::size_t>(2, line.size())), " | ");
     expected.insert(expected.end(), parts.begin(), parts.end());
   }
-  Act(start, step, expected);
-  const bool fits = Fits(expected, printed_);
-  if (!fits) Fail(start, step, Joined(expected, "\n            "), Joined(printed_, "\n            "));
-  RecordStep(step, fits ? expected : printed_);
-  for (; at < end; ++at) {
-    if (IsPassedOver(at)) {
-      Record(lines_[at]);
-      continue;
+  int failures = failures_;
+  std::vector<Lines> printed;
+  for (const std::string& step : steps) {
+    const Lines of_step = &step == &steps.back() ? expected : Lines{};  // the last one prints
+    Act(start, step, of_step);
+    if (!Fits(of_step, printed_)) {
+      Fail(start, step, Joined(of_step, "\n            "), Joined(printed_, "\n            "));
     }
-    const std::size_t first = at;
-    std::string checks = Unindented(lines_[at]);
-    while (checks.ends_with(',') && at + 1 < end) checks += " " + Unindented(lines_[++at]);
-    try {
-      Check(first, checks);
-    } catch (const headless::Misunderstood& misunderstood) {
-      Fail(first, checks, "names that are known", misunderstood.reason);
-    }
+    printed.push_back(printed_);
+  }
+  if (failures == failures_) {
+    RecordLines(start, at);
+  } else {
+    for (std::size_t i = 0; i < steps.size(); ++i) RecordStep(steps[i], printed[i]);
+  }
+  for (std::size_t first = at; first < end; first = at) {
+    std::string checks = Unindented(lines_[at++]);
+    while (checks.ends_with(',') && at < end) checks += " " + Unindented(lines_[at++]);
+    failures = failures_;
+    const Lines seen = IsPassedOver(first) ? Lines{} : Check(first, checks);
+    failures == failures_ ? RecordLines(first, at) : RecordChecks(seen);
   }
 }
 
@@ -120,23 +124,29 @@ void Story::Restart() {
   });
 }
 
-// One line of checks.
-void Story::Check(std::size_t line, const std::string& text) {
-  const std::size_t colon = text.find(": ");
-  if (colon != std::string::npos && text.find(' ') > colon) {
-    const std::string name = text.substr(0, colon);
-    const Lines items = ItemsOf(name.starts_with("Form") ? name : "Form1." + name);
-    const std::string seen = Compared(line, name, text.substr(colon + 2), Joined(items, ", "));
-    return RecordChecks(name + ": ", Split(seen, ", "));
+// A line of checks; what they should say.
+Lines Story::Check(std::size_t line, const std::string& text) {
+  Lines seen;
+  try {
+    const std::size_t colon = text.find(':');
+    if (colon < text.find(' ')) {
+      const std::string name = text.substr(0, colon);
+      const Lines items = ItemsOf(name.starts_with("Form") ? name : "Form1." + name);
+      seen = Split(Compared(line, name, text.substr(std::min(colon + 2, text.size())), Joined(items, ", ")),
+                   ", ");
+      seen[0].insert(0, name + ": ");
+      return seen;
+    }
+    std::string window = "Form1";
+    for (const std::string& check : Split(text, ", ")) {
+      const std::string name = check.substr(0, check.find(' '));
+      const std::string expected = check.substr(std::min(name.size() + 1, check.size()));
+      seen.push_back(name + " " + Compared(line, name, expected, Seen(window, name, expected)));
+    }
+  } catch (const headless::Misunderstood& misunderstood) {
+    Fail(line, text, "names that are known", misunderstood.reason);
   }
-  std::string window = "Form1";
-  Lines recorded;
-  for (const std::string& check : Split(text, ", ")) {
-    const std::string name = check.substr(0, check.find(' '));
-    const std::string expected = check.substr(std::min(name.size() + 1, check.size()));
-    recorded.push_back(name + " " + Compared(line, name, expected, Seen(window, name, expected)));
-  }
-  RecordChecks("", recorded);
+  return seen;
 }
 
 // What a check should say: what it says if that fits.
@@ -160,10 +170,8 @@ std::string Story::Seen(std::string& window, std::string name, const std::string
     return items.empty() ? "empty" : Joined(items, ", ");
   }
   const std::string property = name.find('.') != std::string::npos ? "" : PropertyOf(full_name, expected);
-  driver_->Execute("start");
-  printed_.clear();
-  driver_->Execute("get " + full_name + property);
-  std::string value = Joined(printed_, " | ");
+  Ask("start");
+  std::string value = Joined(Ask("get " + full_name + property), " | ");
   if (const std::size_t sign = value.find(" = "); sign != std::string::npos) value.erase(0, sign + 3);
   if (property == ".Visible" && value != "ended") return value == "True" ? "shown" : "hidden";
   if (property == ".Enabled" && value != "ended") return value == "True" ? "enabled" : "disabled";
@@ -182,7 +190,7 @@ std::string Story::PropertyOf(const std::string& full_name, const std::string& e
   } else if (!expected.empty()) {
     candidates = {"Value"};
   }
-  driver_->Execute("start");
+  Ask("start");
   try {
     const auto* const control = headless::FindControl(driver_->Program(), full_name).control;
     for (const std::string& candidate : candidates) {
@@ -194,18 +202,20 @@ std::string Story::PropertyOf(const std::string& full_name, const std::string& e
   return "";
 }
 
-// The items of a list, or the lines of a text, in quotes.
+// The items of a list as `items` prints them, or the lines of a text in quotes.
 Lines Story::ItemsOf(const std::string& full_name) {
-  driver_->Execute("start");
-  Lines items;
+  Ask("start");
   const auto* const control = headless::FindControl(driver_->Program(), full_name).control;
-  if (const auto shown = headless::ItemsOf(*control)) {
-    for (const std::string& item : shown->items) items.push_back(headless::Quoted(item));
-    if (shown->selected >= 0) items.at(static_cast<std::size_t>(shown->selected)) += " *";
+  if (headless::ItemsOf(*control)) {
+    Lines items = Ask("items " + full_name);
+    items.erase(items.begin());
+    for (std::string& item : items) item.erase(0, 2);
     return items;
   }
   const auto* const property = control->FindProperty("Text");
-  const std::string text = property == nullptr ? "" : std::get<std::string>(property->Read());
+  if (property == nullptr) throw headless::Misunderstood{full_name + " has neither items nor lines"};
+  Lines items;
+  const std::string text = std::get<std::string>(property->Read());
   for (std::size_t at = 0; at < text.size();) {
     const std::size_t end = std::min(text.find("\r\n", at), text.size());
     items.push_back(headless::Quoted(text.substr(at, end - at)) +
@@ -215,9 +225,16 @@ Lines Story::ItemsOf(const std::string& full_name) {
   return items;
 }
 
+// What the driver prints for a command.
+Lines Story::Ask(const std::string& command) {
+  printed_.clear();
+  driver_->Execute(command);
+  return printed_;
+}
+
 void Story::Fail(std::size_t line, const std::string& what, const std::string& expected,
                  const std::string& got) {
-  failed_ = true;
+  ++failures_;
   if (mode_ == Mode::kRecord) return;
   std::cout << file_.filename().string() << ":" << line + 1 << ": " << what << "\n  expected: " << expected
             << "\n  got:      " << got << "\n";
@@ -227,32 +244,26 @@ void Story::Record(const std::string& line) const {
   if (mode_ == Mode::kRecord) std::cout << line << "\n";
 }
 
-void Story::RecordStep(const std::string& step, const Lines& printed) const {
-  const std::string all = Joined(printed, " | ");
-  // Lines with blanks at an end, or "…", are not told from their neighbours side by side.
-  const bool side_by_side = Split(all, " | ") == printed &&
-                            std::none_of(printed.begin(), printed.end(), [](const std::string& line) {
-                              return line.empty() || line.front() == ' ' || line.back() == ' ' || line == "…";
-                            });
-  if (side_by_side && step.size() + all.size() < kWidth) return Record(step + " | " + all);
-  Record(step);
-  std::string line;
-  for (const std::string& one : printed) {
-    if (!line.empty() && (!side_by_side || line.size() + one.size() > kWidth))
-      Record(std::exchange(line, ""));
-    line += (line.empty() ? "  |" : " |") + (one.empty() ? "" : " " + one);
-  }
-  if (!line.empty()) Record(line);
+// What was as expected stays as it stands in the story.
+void Story::RecordLines(std::size_t start, std::size_t end) const {
+  for (; start < end; ++start) Record(lines_[start]);
 }
 
-void Story::RecordChecks(const std::string& name, const Lines& checks) const {
-  std::string line = "  " + name;
-  for (std::size_t i = 0; i < checks.size(); ++i) {
-    if (i > 0 && line.size() + checks[i].size() > kWidth) {
+void Story::RecordStep(const std::string& step, const Lines& printed) const {
+  const std::string all = Joined(printed, " | ");
+  if (Split(all, " | ") == printed && step.size() + all.size() < kWidth) return Record(step + " | " + all);
+  Record(step);
+  for (const std::string& line : printed) Record("  |" + (line.empty() ? "" : " " + line));
+}
+
+void Story::RecordChecks(const Lines& checks) const {
+  std::string line = "  ";
+  for (const std::string& check : checks) {
+    if (line.size() + check.size() > kWidth && &check != &checks.front()) {
       Record(line.substr(0, line.size() - 1));
       line = "    ";
     }
-    line += checks[i] + (i + 1 < checks.size() ? ", " : "");
+    line += check + (&check == &checks.back() ? "" : ", ");
   }
   Record(line);
 }

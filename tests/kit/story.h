@@ -7,6 +7,8 @@
 //     lblbk "Ruth", lblc "1", picp hidden, Command3 disabled, scr 2, scr.Max 4
 //     File1: "Naomi.bkm", "Ruth.bkm"
 //
+// - Steps that are one act stand in one line: type Form1.txts "lamp"; click Form1.Command22
+//   Only the last one prints.
 // - "|" begins a line that the step prints. These lines are all that it prints, in order. "| …" stands for
 // any
 //   number of lines, and "…" at the end of a line or a text for the rest of it. The lines may also stand
@@ -66,17 +68,19 @@ class Story {
   void LayAnswers(const Lines& expected);
   void Restart();
 
-  void Check(std::size_t line, const std::string& text);
+  Lines Check(std::size_t line, const std::string& text);
   std::string Compared(std::size_t line, const std::string& name, const std::string& expected,
                        const std::string& got);
   std::string Seen(std::string& window, std::string name, const std::string& expected);
   std::string PropertyOf(const std::string& full_name, const std::string& expected);
   Lines ItemsOf(const std::string& full_name);
+  Lines Ask(const std::string& command);
 
   void Fail(std::size_t line, const std::string& what, const std::string& expected, const std::string& got);
   void Record(const std::string& line) const;
+  void RecordLines(std::size_t start, std::size_t end) const;
   void RecordStep(const std::string& step, const Lines& printed) const;
-  void RecordChecks(const std::string& name, const Lines& checks) const;
+  void RecordChecks(const Lines& checks) const;
 
   std::filesystem::path file_;
   StoryFolder folder_;
@@ -85,7 +89,7 @@ class Story {
   Lines lines_;            // of the story
   Lines printed_;          // by the driver
   bool answered_ = false;  // whether the step before laid an answer
-  bool failed_ = false;
+  int failures_ = 0;
 };
 
 }  // namespace lectern::kit

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "base/run_time_error.h"
+#include "tests/kit/lines.h"
 #include "tests/kit/session.h"
 #include "tests/kit/small_world.h"
 #include "tests/kit/temporary_folder.h"
@@ -196,11 +197,12 @@ Target Scripts(const std::string& stories) {
   for (const auto& story : std::filesystem::directory_iterator(stories)) {
     std::ifstream file(story.path());
     for (std::string line; std::getline(file, line);) {
-      line = line.substr(0, line.find(" | "));
-      if (line.empty() || std::string_view(" |@#").find(line[0]) != std::string_view::npos) continue;
-      std::istringstream parts(line);
-      for (std::string word; parts >> word;) words.insert(word + " ");
-      lines.insert(line + "\n");
+      for (const std::string& step : kit::Split(line.substr(0, line.find(" | ")), "; ")) {
+        if (step.empty() || std::string_view(" |@#").find(step[0]) != std::string_view::npos) continue;
+        std::istringstream parts(step);
+        for (std::string word; parts >> word;) words.insert(word + " ");
+        lines.insert(step + "\n");
+      }
     }
   }
   Require(lines.size() > 100);

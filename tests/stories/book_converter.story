@@ -1,7 +1,6 @@
 @data gallery
 # A book's text from elsewhere is turned into a book file.
-set Form1.RTB1.Text = "too short"
-click! Form1.Command33 | message "SELECT OPTION" "Lectern 2"
+set Form1.RTB1.Text = "too short"; click! Form1.Command33 | message "SELECT OPTION" "Lectern 2"
 @changes KJV | unchanged
 set Form1.RTB1.Text = "From a sender\r\nCodex, King James Version\r\n\r\nRuth\r\n[1]In the days\r\n[2]the name\r\n[3]\r\nthe rest\r\nan odd line\r\n\r\n[1]And she had a kinsman\r\n[12]\r\nthat stayed"
 set Form1.Dir2.Path = "KJV"
@@ -21,8 +20,7 @@ scroll Form1.scr 2
   rtxt "1.And she had a kinsman\r\n12.that stayed\r\n"
 
 # ODDITY(converted-twice-doubles): a second time it goes behind the first.
-set Form1.RTB1.Text = "\r\n\r\nRuth\r\n[1]In the days of the judges\r\n"
-click! Form1.Command33
+set Form1.RTB1.Text = "\r\n\r\nRuth\r\n[1]In the days of the judges\r\n"; click! Form1.Command33
 @changes KJV/Ruth.TXT | +9 Ruth | +10 Chapter 1 | +11 1.In the days of the judges
 
 # ODDITY(dash-counts-a-chapter): a rule between chapters counts as a chapter.
@@ -34,9 +32,7 @@ click! Form1.Command33
 # What must not be given to it ends the program: a verse without a bracket, and a source without a blank line.
 set Form1.RTB1.Text = "\r\n\r\nAmos\r\n[1 The words of Amos, who was\r\n"
 click! Form1.Command33 | run-time error 5 "Invalid procedure call or argument" | end
-@delete TEMP.TXT
-@delete KJV/TEMP.TXT
+@delete TEMP.TXT; @delete KJV/TEMP.TXT
 @restart
-set Form1.RTB1.Text = "Codex, King James Version and no blank line\r\nAmos"
-click! Form1.Command33 | run-time error 62 "Input past end of file" | end
+set Form1.RTB1.Text = "Codex, King James Version and no blank line\r\nAmos"; click! Form1.Command33 | run-time error 62 "Input past end of file" | end
 @show TEMP.TXT | Codex, King James Version and no blank line | Amos

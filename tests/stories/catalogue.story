@@ -38,8 +38,7 @@ click Form1.lst "1 John"
 @write pics2.dat
   | "dawn","Genesis 1: 1","A" | "flock","Genesis 1: 1","A" | "dawn","Genesis 1: 1","A" | "dawn","Genesis 1: 1","A"
   | "dawn","Genesis 1: 1","A" | "dawn","Genesis 1: 1","A" | "","Genesis 3: 1","A"
-@restart
-click Form1.SSCommand3
+@restart; click Form1.SSCommand3
   lblp(6) "2", lblp(1) "1: 1", imgp(1) picture 3x1, lblp(7) "end"
 
 # ODDITY(missing-picture-stops-the-page): a picture that cannot be loaded leaves the slots from there on as they
@@ -51,22 +50,19 @@ click Form1.SSCommand3
 @restart
   lblp(0) "1: 1", lblp(1) "", imgp(1) none, imgp(2) none, lstmc(0).ListCount 3
 # … and ends the program where the person turns the page to it.
-click Form1.lst "Exodus"
-click Form1.SSCommand3 | run-time error 53 "File not found" | end
+click Form1.lst "Exodus"; click Form1.SSCommand3 | run-time error 53 "File not found" | end
 # A file that is no picture does the same.
 @write "pics/nobody drew it.jpg" "nobody drew it"
 @restart
   lblp(0) "1: 1", lblp(1) "", lstmc(0).ListCount 3
-click Form1.lst "Exodus"
-click Form1.SSCommand3 | run-time error 481 "Invalid picture" | end
+click Form1.lst "Exodus"; click Form1.SSCommand3 | run-time error 481 "Invalid picture" | end
 
 # Books that begin alike, and a place in small letters: each book has its own. A name that stands twice is twice
 # there, with blanks behind it or without.
 @write pics2.dat
   | "tent","Joel 2: 1","A" | "dawn  ","Job 38: 12","A" | "olive","job 1: 1","A" | "dawn","Job 3: 9","A"
   | "harp","Jo 1: 1","A" | "dawn","Jobs 1: 1","A"
-@restart
-click Form1.lst "Job"
+@restart; click Form1.lst "Job"
   lstmc(0): "dawn", "dawn"
   lstmc(1): "Job 3: 9", "Job 38: 12"
   lblp(0) "3: 9", lblp(1) "38: 12"
@@ -79,8 +75,7 @@ click Form1.lst "Jonah"
 @write pics2.dat ""
 @restart
   lblp(0) "end", picnm.Max -1
-@delete pics2.dat
-@delete tmppics2.dat
+@delete pics2.dat; @delete tmppics2.dat
 @restart
   lblp(0) "end", lblc "1"
 click Form1.lst "Exodus"
@@ -110,9 +105,7 @@ call ConvertPicsDat
   | "morning cloud","Exodus 1: 1","PICTURES BY: B. Carver"
 # ODDITY(short-names-are-skipped): a name of five letters is passed over, and its place is the next name.
 @write pics.dat | PICTURES BY: A. Painter | olive | Genesis 2: 3 | staff of wood | Exodus 1: 1
-@delete pics2.dat
-@delete backup
-call ConvertPicsDat
+@delete pics2.dat; @delete backup; call ConvertPicsDat
 @show pics2.dat | "Genesis 2: 3","staff of wood","PICTURES BY: A. Painter"
 @files backup
 
@@ -121,14 +114,11 @@ call ConvertPicsDat
 @write pics.dat
   | PICTURES BY: A. Painter | dawn   | Genesis 1: 1 | harp | Psalms 2: 1 | ark | Genesis 3: 4 |     | Genesis 4: 2
   | road | Genesis 4: 4
-set Form1.lblc.Caption = "2"
-call ShowPicsDatPicture
+set Form1.lblc.Caption = "2"; call ShowPicsDatPicture
   LBLPICP "ark", lblvs "Genesis 3: 4", pick picture 7x1
-set Form1.lblc.Caption = "4"
-call ShowPicsDatPicture
+set Form1.lblc.Caption = "4"; call ShowPicsDatPicture
   LBLPICP "road", lblvs "Genesis 4: 4"
-set Form1.lblc.Caption = "5"
-call ShowPicsDatPicture
+set Form1.lblc.Caption = "5"; call ShowPicsDatPicture
   LBLPICP "road"
 
 # The diagnostic form reports each line and the book, and takes the book's name in any case.
@@ -138,13 +128,10 @@ click! Form1.Command38
   | message "tent" "Lectern 2" | message "GENESIS" "Lectern 2"
   | message "genesis 5: 1" "Lectern 2" | message "GENESIS" "Lectern 2"
   Command38 "Command38", LBLPICP "tent", lblvs "genesis 5: 1", pick picture 5x1
-@delete pics.dat
-click! Form1.Command38 | run-time error 53 "File not found" | end
+@delete pics.dat; click! Form1.Command38 | run-time error 53 "File not found" | end
 
 # The older list: the book's pictures and the chapter's. ODDITY(older-list-doubles): each of them twice.
-@data gallery
-scroll Form1.scr 2
-click! Form1.Command40
+@data gallery; scroll Form1.scr 2; click! Form1.Command40
   List4: "river", "flock", "dawn", "river", "flock", "dawn", "tent", "olive", "tent", "olive", "ark", "road", "ark",
     "road"
   List5: "tent", "olive", "tent", "olive"
@@ -153,8 +140,7 @@ click! Form1.Command40
 # Without what the change of book had left there, once.
 click! Form1.Command40
   List5: "tent", "olive"
-scroll Form1.scr 4
-click! Form1.Command40
+scroll Form1.scr 4; click! Form1.Command40
   List5 empty, picnm.Max -1
 call ListChapterPictures
   picnm.Max 0, tmrpic disabled

@@ -19,10 +19,7 @@ run | beep | ran 265 ticks
 
 # Without the caption's seven characters the scan now comes to the end of each line.
 @write KJV/Ruth.txt "Chapter 1\r\n1   the end"
-click Form1.op1
-type Form1.txts "end"
-click Form1.Command22
-run | ran 66 ticks
+click Form1.op1; type Form1.txts "end"; click Form1.Command22; run | ran 66 ticks
   lsts: "Ruth 1 1"
 
 # A term left in the second box is wanted of every verse; an empty line repeats the results of the word before it.
@@ -31,19 +28,14 @@ run | ran 66 ticks
   | lamp
   |
 @write CONCORD.DAT ""
-click Form1.cc3
-type Form1.txts2 "grace"
-click! Form1.Command27
-run | beep | ran 134 ticks
+click Form1.cc3; type Form1.txts2 "grace"; click! Form1.Command27; run | beep | ran 134 ticks
 @show CONCORD.DAT | "lamp","Psalms 3 1" | "","Psalms 3 1" | "","Psalms 3 1"
 
 # Cancelled: the scan that runs goes on to its end.
 @restart
 @write conc.txt | river | lamp
-click! Form1.Command27
-run 30 | ran 30 ticks
-click! Form1.Command23
-run | ran 38 ticks
+click! Form1.Command27; run 30 | ran 30 ticks
+click! Form1.Command23; run | ran 38 ticks
 @show CONCORD.DAT | missing
 
 # The second version's file, cut back to its true end.

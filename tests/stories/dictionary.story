@@ -4,8 +4,7 @@
   | "Lamp","A light","They lit a lamp.","Genesis 3:1"
   | "lamp","A lesser light","The lamp burned.","Genesis 3:2"
   | "Ephod","Another of that name","Nobody wore it.","Jude 1:1"
-set Form1.picp.Visible = True
-click Form1.Command17
+set Form1.picp.Visible = True; click Form1.Command17
   frmd shown, picp hidden, Command17 disabled, Command3 disabled, Command1 enabled
   lstd: "Ephod", "Lamp", "lamp", "Ephod"
 
@@ -41,17 +40,13 @@ click Form1.lstd "Lamp"
 # A record that the end of the file cuts off is reported, and a missing file as the concordance's.
 # ODDITY(concordance-missing)
 @write cdxdic.dat | "Ark","A chest" | "Lamp","A light","They lit a lamp.","Genesis 3:1"
-click Form1.Command19
-click Form1.Command17 | message "An error (62 ) has occured…" "Lectern 2" | beep
+click Form1.Command19; click Form1.Command17 | message "An error (62 ) has occured…" "Lectern 2" | beep
   frmd hidden, Command17 enabled, lstd.ListCount 13, lstd.List(12) "Ark"
-@delete cdxdic.dat
-click Form1.cc2 | message "CONCORD.DAT missing from DATA" "Lectern 2" | beep
+@delete cdxdic.dat; click Form1.cc2 | message "CONCORD.DAT missing from DATA" "Lectern 2" | beep
   frmd hidden
 
 # The file comes back, and nothing of it was left open. Gone once more with the panel open, a click ends the program.
 @write cdxdic.dat | "Ark","A chest","Make thee an ark.","Genesis 6:14"
-click Form1.cc2
-click Form1.lstd 13
+click Form1.cc2; click Form1.lstd 13
   dex "Make thee an ark. :  Genesis 6:14"
-@delete cdxdic.dat
-click Form1.lstd 13 | run-time error 53 "File not found" | end
+@delete cdxdic.dat; click Form1.lstd 13 | run-time error 53 "File not found" | end

@@ -2,6 +2,8 @@
 get Form1.nothing.Caption | error: no control Form1.nothing
 get Form1.lst.Nothing | error: no property Form1.lst.Nothing
 get Form9.lst.Visible | error: no window Form9
+items Form1.lblc | error: Form1.lblc has no items
+items Form1.Combo3 | Form1.Combo3: 4 items |   "Regular" |   "Italic" |   "Bold" |   "Bold Italic"
 frobnicate | error: no command frobnicate
 click Form1.List1
 click Form1.Combo1 | refused: hidden

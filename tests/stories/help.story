@@ -15,11 +15,9 @@ type Form1.txthelp "It is only read."
   txthelp "Plain text will do."
 
 # ODDITY(help-close-unlocks): one Close leaves the lock of another panel alone, the other opens it.
-click Form1.Command3
-click Form1.Command4
+click Form1.Command3; click Form1.Command4
   Command16 disabled
-click Form1.xh2
-click Form1.Command44
+click Form1.xh2; click Form1.Command44
   frmhelp hidden, Picture1 shown, Command16 enabled
 
 # About, and the pages.
@@ -41,11 +39,9 @@ call HelpContact
   txthelp "To reach the makers of Lectern, please see us on the web by clicking ''Internet'', at the top menu bar."
 
 # The search tells here how long it takes, over its own panel.
-click Form1.Command16
-click Form1.Command15
+click Form1.Command16; click Form1.Command15
   frms shown, txthelp "Tested on a: Pent2/266 - book < minute,…codex = < 35 minutes --- Patience is a virtue."
 click Form1.Command4
 
 # A topic that is missing ends the program.
-click Form1.xh2
-click Form1.lblhp(1) | run-time error 53 "File not found" | end
+click Form1.xh2; click Form1.lblhp(1) | run-time error 53 "File not found" | end

@@ -13,8 +13,7 @@ menu Form3
 set Form1.picp.Visible = True
 click Form1.cc0 | message "Open file to add to, or create new file" "Lectern 2"
   picp shown, Form3 shown, Caption "Notes", picopen shown, txthelp "RichTextBox1\r\n"
-click Form3.Command12
-click Form1.Command14 | message "Open file to add to, or create new file" "Lectern 2"
+click Form3.Command12; click Form1.Command14 | message "Open file to add to, or create new file" "Lectern 2"
   picp hidden, Form3 shown, picopen shown
 
 # ODDITY(new-note-copies): a new note begins as what the editor holds.
@@ -32,48 +31,36 @@ click Form3.f3
 @show "Naomi'Ruth ''friends''.not" | Whither thou goest | I will go
 
 # ODDITY(note-grows): a load and a save are an empty line more.
-click Form3.Command1
-click Form3.File1 0
-click Form3.Command13
-click Form3.Command1
-click Form3.File1 0
-click Form3.Command13
+click Form3.Command1; click Form3.File1 0; click Form3.Command13
+click Form3.Command1; click Form3.File1 0; click Form3.Command13
 @changes "Naomi'Ruth ''friends''.not"
   | +3
   | +4
 
 # A cancelled or empty box makes nothing.
-click Form3.f2
-click Form3.Command2 | input … -> ""
-answer ""
-click Form3.Command2 | input … -> ""
+click Form3.f2; click Form3.Command2 | input … -> ""
+answer ""; click Form3.Command2 | input … -> ""
   Form3.picopen shown
 click Form3.Command3
   Form3.picopen hidden
 
 # Under the name of the note that is open the text goes to its end, and the editor goes on showing the old
 # one, altered as it was; another note's end takes it too, and that one is then shown.
-type Form3.txthelp "more"
-click Form3.f2
-click Form3.Command2 | input … -> "Naomi'Ruth ''friends''"
+type Form3.txthelp "more"; click Form3.f2; click Form3.Command2 | input … -> "Naomi'Ruth ''friends''"
   Form3.txthelp "more", lblc "c"
 @changes "Naomi'Ruth ''friends''.not" | +5 more
 @write other.not | other
-click Form3.f2
-click Form3.Command2 | input … -> "other"
+click Form3.f2; click Form3.Command2 | input … -> "other"
   Form3.txthelp "other\r\nmore\r\n", lblc ""
 
 # ODDITY(note-switch-drops): another note in the list drops what was typed, unasked.
-type Form3.txthelp "unsaved"
-click Form3.Command1
-click Form3.File1 "Naomi'Ruth ''friends''.not"
+type Form3.txthelp "unsaved"; click Form3.Command1; click Form3.File1 "Naomi'Ruth ''friends''.not"
   Form3.txthelp "Whither thou goest\r\nI will go\r\n\r\n\r\nmore\r\n", lblc ""
 @show other.not | other | more
 
 # ODDITY(unsaved-stays-unsaved): leaving asks, and asks again after a No; the text stays meanwhile, and no
 # chooser opens.
-type Form3.txthelp "ἐν ἀρχῇ – בְּרֵאשִׁית"
-click Form3.Command12
+type Form3.txthelp "ἐν ἀρχῇ – בְּרֵאשִׁית"; click Form3.Command12
   | question "File has been altered. Do you want to save changes to the file: Naomi'Ruth ''friends''?" "Save File" -> no
   Form3 hidden
 click Form1.Command14
@@ -82,12 +69,10 @@ click Form3.f8 | question "File has been altered.…Naomi'Ruth ''friends''?" "Sa
 click Form1.cc0
 click Form3.Command12 | question "File has been altered.…Naomi'Ruth ''friends''?" "Save File" -> yes
 @show "Naomi'Ruth ''friends''.not" | ἐν ἀρχῇ – בְּרֵאשִׁית
-click Form1.Command14
-click Form3.Command12
+click Form1.Command14; click Form3.Command12
 
 # The close box asks too, and then lets the window go, with all that it held.
-click Form1.Command14
-type Form3.txthelp "kept by the box"
+click Form1.Command14; type Form3.txthelp "kept by the box"
 close Form3 | question "File has been altered.…Naomi'Ruth ''friends''?" "Save File" -> yes
   Form3.lblname "NAME", txthelp "RichTextBox1\r\n", Form3 hidden
 @show "Naomi'Ruth ''friends''.not" | kept by the box
@@ -114,8 +99,7 @@ click Form3.f6
   Form3.txthelp "other\r\nmore\r\n"
 
 # What goes wrong is reported, and the program and the text stay: here, saving before any note was opened.
-@data small
-date 2026-11-16
+@data small; date 2026-11-16
 @write mine.not | mine
 @write folder/deep.not "deep"
 @write LOUD.NOT "loud"
@@ -128,18 +112,14 @@ click Form3.File1 "LOUD.NOT"
 # ODDITY(drive-fails)
 click Form3.f2
   Form3.Drive1: "/"
-choose Form3.Drive1 "/"
-set Form3.Drive1.Drive = "D:" | error: run-time error 424 "Object required"
+choose Form3.Drive1 "/"; set Form3.Drive1.Drive = "D:" | error: run-time error 424 "Object required"
   Form3.Dir1.Path "DATA"
 
 # Another folder shows its own notes. ODDITY(notes-folder-now): a note from the folder before is looked for
 # and written in the one that is shown.
-click Form3.File1 "mine.not"
-click Form3.f2
-set Form3.Dir1.Path = "folder"
+click Form3.File1 "mine.not"; click Form3.f2; set Form3.Dir1.Path = "folder"
   Form3.File1: "deep.not"
-type Form3.txthelp "mine, altered"
-click Form3.Command13 | run-time error 53 "File not found"
+type Form3.txthelp "mine, altered"; click Form3.Command13 | run-time error 53 "File not found"
   Form3.lblc "c"
 @write folder/mine.not | the other mine
 click Form3.Command13
@@ -149,32 +129,24 @@ click Form3.Command13
 
 # The chooser lists what is there when it opens; a note that goes away meanwhile, one without a name, and the name
 # that stands for none.
-click Form3.File1 "deep.not"
-click Form3.f2
-@delete folder/deep.not
+click Form3.File1 "deep.not"; click Form3.f2; @delete folder/deep.not
 click Form3.File1 "deep.not" | run-time error 53 "File not found"
   Form3.picopen shown, lblname "deep", txthelp "deep"
 @write folder/.not "nameless"
 @write folder/NAME.not "NAME"
-set Form3.Dir1.Path = "."
-set Form3.Dir1.Path = "folder"
+set Form3.Dir1.Path = "."; set Form3.Dir1.Path = "folder"
   Form3.File1: ".not", "mine.not", "NAME.not"
 click Form3.File1 ".not"
   Form3.lblname "", txthelp "deep"
-click Form3.f2
-click Form3.File1 "NAME.not"
+click Form3.f2; click Form3.File1 "NAME.not"
   Form3.txthelp "NAME", Title "Notes"
-click Form3.Command12
-click Form1.cc0 | message "Open file…" "Lectern 2"
+click Form3.Command12; click Form1.cc0 | message "Open file…" "Lectern 2"
 
 # A name that the file system refuses, and a folder that vanished.
 click Form3.Command2 | input … -> "what?" | run-time error 52 "Bad file name or number"
   Form3.lblname "NAME", picopen shown
-@delete folder
-click Form3.Command2 | input … -> "gone" | run-time error 76 "Path not found"
-click Form3.Command3
-type Form3.txthelp "still here"
-click Form3.f3 | run-time error 76 "Path not found"
+@delete folder; click Form3.Command2 | input … -> "gone" | run-time error 76 "Path not found"
+click Form3.Command3; type Form3.txthelp "still here"; click Form3.f3 | run-time error 76 "Path not found"
 click Form3.Command12 | question "File has been altered.…NAME?" "Save File" -> yes | run-time error 76 "Path not found"
   Form3 shown
 close Form3 | question "File has been altered.…NAME?" "Save File" -> yes | run-time error 76 "Path not found"

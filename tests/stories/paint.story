@@ -1,8 +1,6 @@
 @data gallery
 # A reader paints on a picture of the gallery: colours, brushes, zoom, the states that were kept.
-@copy picend.jpg cdx1.ico
-@copy picend.jpg cdx2.ico
-@copy picend.jpg cdx5.ico
+@copy picend.jpg cdx1.ico; @copy picend.jpg cdx2.ico; @copy picend.jpg cdx5.ico
 @write colors.dat | "16776960",255 | "X",65280 | "not a number",16711680
 click Form1.imgp(0)
   pick picture 2x1
@@ -14,11 +12,9 @@ click Form1.Command32
   Form4.clrboxs(1) "X", clrbox(1).BackColor 65280, clrbox(3).BackColor 255
 
 # A canvas of a size to paint on: the blank page.
-@copy picend.jpg newpic.jpg
-click Form4.Command5
+@copy picend.jpg newpic.jpg; click Form4.Command5
   Form4.picbox picture 1x1
-set Form4.picbox.Width = 600
-set Form4.picbox.Height = 600
+set Form4.picbox.Width = 600; set Form4.picbox.Height = 600
   Form4.picbox.Point(20,20) 16777215
 # Before a swatch or a brush is clicked, a stroke is seen and is no part of the picture.
 mousedown Form4.picbox 1 0 20 20
@@ -33,8 +29,7 @@ mousemove Form4.picbox 0 0 35 35
 mousemove Form4.picbox 2 0 35 35
   Form4.picbox.Point(35,35) 255, picbox.Point(27,28) 16777215, xpos "0"
 # A second colour on top takes its own away from the first: green's pen on red leaves what both let through.
-set Form4.clrboxs(1).Caption = "16711935"
-mousedown Form4.clrboxs(1) 1 0 5 5
+set Form4.clrboxs(1).Caption = "16711935"; mousedown Form4.clrboxs(1) 1 0 5 5
 mousedown Form4.picbox 1 0 20 20
   Form4.picbox.Point(20,20) 0
 
@@ -42,11 +37,9 @@ mousedown Form4.picbox 1 0 20 20
 # number leaves the old one.
 click Form4.picpbs(0)
   Form4.mde(0) "5", picpbs(0).BorderStyle 1, picpbs(5) picture 14x122, picpbs(5).Width 210
-set Form4.mde(0).Text = "wide"
-mousedown Form4.picbox 1 0 5 35
+set Form4.mde(0).Text = "wide"; mousedown Form4.picbox 1 0 5 35
   Form4.picbox.DrawWidth 15
-set Form4.mde(0).Text = "5"
-mousedown Form4.picbox 1 0 33 5
+set Form4.mde(0).Text = "5"; mousedown Form4.picbox 1 0 33 5
   Form4.picbox.DrawWidth 5, picbox.Point(35,5) 65280, picbox.Point(36,5) 16777215
 click Form4.picpbs(5)
   Form4.picpbs(0).BorderStyle 0, mde(0) "5"
@@ -59,12 +52,9 @@ click Form4.Command3
 set Form4.clrboxs(5).Caption = "changed"
 
 # Mixing. ODDITY(mixed-pair)
-click Form4.Command4
-scroll Form4.scr1(0) 25
-scroll Form4.scr1(2) 3
+click Form4.Command4; scroll Form4.scr1(0) 25; scroll Form4.scr1(2) 3
   Form4.clr1.BackColor 196633, clr2.BackColor 14876422, Text3 "196633"
-scroll Form4.scr1(0) 0
-scroll Form4.scr1(2) 0
+scroll Form4.scr1(0) 0; scroll Form4.scr1(2) 0
   Form4.clr2.BackColor 16777215
 click Form4.Clear
   Form4.Frame3 hidden
@@ -72,20 +62,15 @@ click Form4.Clear
 # Pan: two thousand at a step, and no stop. ODDITY(canvas-without-a-stop)
 click Form4.imgs(0)
   Form4.picbox.Left 4192.5
-set Form4.picbox.Left = 0
-click Form4.imgs(0)
+set Form4.picbox.Left = 0; click Form4.imgs(0)
   Form4.picbox.Left 2000
 click Form4.imgs(2)
   Form4.picbox.Left 2000
-set Form4.picbox.Left = 8000
-click Form4.imgs(2)
+set Form4.picbox.Left = 8000; click Form4.imgs(2)
   Form4.picbox.Left 6000
-set Form4.picbox.Top = 0
-click Form4.imgs(1)
-click Form4.imgs(1)
+set Form4.picbox.Top = 0; click Form4.imgs(1); click Form4.imgs(1)
   Form4.picbox.Top 2000
-set Form4.picbox.Top = 8000
-click Form4.imgs(3)
+set Form4.picbox.Top = 8000; click Form4.imgs(3)
   Form4.picbox.Top 6000
 
 # Opened once more, the canvas and the original are new, brush and palette stay.
@@ -95,31 +80,23 @@ click Form1.Command32
   Form4.picbox picture 2x1, clrboxs(4) "16711935", clrboxs(5) "changed", mde(0) "5"
 
 # The states: each click on a swatch keeps one, the newest in the last slot.
-@data gallery
-@copy picend.jpg cdx1.ico
-@copy picend.jpg cdx2.ico
+@data gallery; @copy picend.jpg cdx1.ico; @copy picend.jpg cdx2.ico
 @write colors.dat | "16776960",255
-click Form1.imgp(1)
-click Form1.Command32
+click Form1.imgp(1); click Form1.Command32
   Form4.picbox.Width 45, cmdm(1) disabled
 # A zoom ahead of the first colour paints into the picture.
-click Form4.cmdm(0)
-click Form4.cmdm(0)
+click Form4.cmdm(0); click Form4.cmdm(0)
   Form4.picbox.Image picture 12x4, picbox.Point(11,3) 5291540, picbox.AutoRedraw False
-click Form4.cmdm(1)
-click Form4.cmdm(1)
-click Form4.IMGSPB(0)
+click Form4.cmdm(1); click Form4.cmdm(1); click Form4.IMGSPB(0)
 mousedown Form4.clrboxs(0) 1 0 5 5
   Form4.IMGSPB(4) picture 3x1, IMGSPB(3) none
-@show TEST.jpg | …
+@files . | bookschap.txt | cdx1.ico | cdx2.ico | codex.cfg | colors.dat | picend.jpg | pics2.dat | TEST.jpg | tmppics2.dat
 mousedown Form4.clrboxs(0) 1 0 5 5
   Form4.IMGSPB(3) picture 3x1
 
 # Zoomed in twice: the drawing is baked and stretched, a little smaller than the canvas.
 # ODDITY(zoom-leaves-an-edge)
-set Form4.picbox.Width = 3000
-set Form4.picbox.Height = 3000
-mousedown Form4.picbox 1 0 100 100
+set Form4.picbox.Width = 3000; set Form4.picbox.Height = 3000; mousedown Form4.picbox 1 0 100 100
   Form4.picbox.Point(100,100) 255
 click Form4.cmdm(0)
   Form4.txt5 "1", picbox.Width 6000, picbox picture 200x200, picbox.Left 1207.5, picbox.Point(200,200) 255
@@ -129,22 +106,18 @@ click Form4.cmdm(0)
 click Form4.cmdm(0) | refused: disabled
   Form4.picbox.Width 12000, picbox.Left -1792.5, picbox.Point(0,0) 5291540
 # Above level 0 a state is kept without the scratch copy.
-@delete TEST.jpg
-mousedown Form4.clrboxs(0) 1 0 5 5
+@delete TEST.jpg; mousedown Form4.clrboxs(0) 1 0 5 5
   Form4.IMGSPB(4) picture 800x800
 @show TEST.jpg | missing
 # Going back shows the state in its own size; the level stays. ODDITY(level-outlives-going-back)
 click Form4.IMGSPB(0)
   Form4.picbox.Width 45, txt5 "2", cmdm(0) disabled
 # After a click on the newest state nothing is kept until another picture is set. ODDITY(newest-save-holds)
-click Form4.IMGSPB(4)
-mousedown Form4.picbox 1 0 30 30
-mousedown Form4.clrboxs(0) 1 0 5 5
+click Form4.IMGSPB(4); mousedown Form4.picbox 1 0 30 30; mousedown Form4.clrboxs(0) 1 0 5 5
   Form4.IMGSPB(3) picture 3x1
 click Form4.cmdm(1)
   Form4.picbox.Width 6000, txt5 "1"
-set Form4.picbox.Width = 4515.6
-click Form4.cmdm(1)
+set Form4.picbox.Width = 4515.6; click Form4.cmdm(1)
   Form4.picbox.Width 2258, cmdm(1) disabled
 # ODDITY(level-as-text)
 type Form4.txt5 "7"
@@ -154,8 +127,7 @@ click Form4.cmdm(0)
 
 # Clicking the original after strokes brings the picture back that was opened; a state that was never kept is a
 # white page.
-click Form4.IMGSPB(0)
-mousedown Form4.picbox 1 0 0 0
+click Form4.IMGSPB(0); mousedown Form4.picbox 1 0 0 0
   Form4.picbox.Point(0,0) 20
 click Form4.IMGSPB(0)
   Form4.picbox.Point(0,0) 5291540
@@ -163,30 +135,18 @@ click Form4.IMGSPB(1)
   Form4.picbox none, picbox.Image picture 3x1, picbox.Point(1,0) 16777215
 
 # A canvas of one pixel, zoomed in and out. A half of one pixel is none, and takes no paint.
-@restart
-click Form1.imgp(0)
-click Form1.Command32
 @copy picend.jpg newpic.jpg
-set Form4.picbox.Width = 15
-set Form4.picbox.Height = 15
-click Form4.Command5
-mousedown Form4.clrboxs(0) 1 0 5 5
-mousemove Form4.picbox 1 0 -400 90000
-click Form4.cmdm(0)
-click Form4.cmdm(0)
+@restart; click Form1.imgp(0); click Form1.Command32
+set Form4.picbox.Width = 15; set Form4.picbox.Height = 15; click Form4.Command5
+mousedown Form4.clrboxs(0) 1 0 5 5; mousemove Form4.picbox 1 0 -400 90000
+click Form4.cmdm(0); click Form4.cmdm(0)
   Form4.picbox.Width 60
-click Form4.cmdm(1)
-click Form4.cmdm(1)
+click Form4.cmdm(1); click Form4.cmdm(1)
   Form4.picbox.Width 15
-click! Form4.cmdm(1)
-click! Form4.cmdm(1)
-click! Form4.cmdm(1)
+click! Form4.cmdm(1); click! Form4.cmdm(1); click! Form4.cmdm(1)
   Form4.picbox.Width 1
 mousedown Form4.picbox 1 0 0 0
 
 # Without a picture: a white page of the design size.
-@data gallery
-@delete pics2.dat
-@copy picend.jpg cdx2.ico
-click! Form1.Command32
+@data gallery; @delete pics2.dat; @copy picend.jpg cdx2.ico; click! Form1.Command32
   Form4.picbox.Width 7995, picbox.Height 5445, picbox.Point(5,5) 16777215, IMGSPB(0) picture 533x363

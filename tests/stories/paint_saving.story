@@ -4,9 +4,7 @@
 @write colors.dat | "16776960",255
 click Form1.imgp(1)
   LBLPICP "flock", selfile(1) "Genesis 1: 2"
-click Form1.Command32
-mousedown Form4.clrboxs(0) 1 0 5 5
-mousedown Form4.picbox 1 0 1 0
+click Form1.Command32; mousedown Form4.clrboxs(0) 1 0 5 5; mousedown Form4.picbox 1 0 1 0
 click Form4.Command2 | input "Save Picture as" "Save Picture" "flock" -> ""
   Form4.MousePointer 1
 # ODDITY(name-for-a-place)
@@ -16,8 +14,7 @@ click Form4.Command2 | input … -> "painted"
 @changes pics2.dat | +14 "painted","Genesis 1: 2","PICTURES BY: A. Painter"
 @changes pics | +8 painted.JPG
 # It is opened again with the pixels that were painted, also after the program's next start.
-@restart
-click Form1.imgp(3)
+@restart; click Form1.imgp(3)
   LBLPICP "painted", lblvs "Genesis 1: 2", pick picture 3x1
 click Form1.Command32
   Form4.picbox.Point(2,0) 20
@@ -40,56 +37,39 @@ click Form4.Command2 | input … -> "painted "
 # is not.
 click Form4.Command2 | input … -> "a:b" | run-time error 52 "Bad file name or number" | end
 @changes pics2.dat | +17 "a:b","Genesis 1: 2","PICTURES BY: A. Painter"
-@restart
-click Form1.imgp(0)
-click Form1.Command32
+@restart; click Form1.imgp(0); click Form1.Command32
 click Form4.Command2 | input … "river" -> "a/b" | run-time error 76 "Path not found" | end
 @changes pics2.dat | +18 "a/b","Genesis 1: 1","PICTURES BY: A. Painter"
 @changes pics | unchanged
 
 # No catalogue, or one that its end cuts off: nothing is saved.
-@restart
-click Form1.imgp(0)
-click Form1.Command32
+@restart; click Form1.imgp(0); click Form1.Command32
 @write pics2.dat "\"river\",\"Genesis 1: 1\",\"A\"\r\n\"flock\",\"Genesis 1: 2\""
 click Form4.Command2 | input … -> "dusk" | run-time error 62 "Input past end of file" | end
 @changes pics2.dat | unchanged
-@restart
-click Form1.imgp(0)
-click Form1.Command32
-@delete pics2.dat
+@restart; click Form1.imgp(0); click Form1.Command32; @delete pics2.dat
 click Form4.Command2 | input … -> "dusk" | run-time error 53 "File not found" | end
 @show pics2.dat | missing
 
 # A pointer that is missing or no picture ends the program where it is wanted, at the opening or with a brush.
-@data gallery
-click Form1.imgp(0)
-click Form1.Command32 | run-time error 53 "File not found" | end
+@data gallery; click Form1.imgp(0); click Form1.Command32 | run-time error 53 "File not found" | end
 get Form1.lblc.Caption | ended
 @copy picend.jpg cdx2.ico
-@restart
-click Form1.imgp(0)
-click Form1.Command32
+@restart; click Form1.imgp(0); click Form1.Command32
   Form4.picpbs(5) picture 22x122
 click Form4.picpbs(1)
   Form4.picpbs(1).BorderStyle 1
 click Form4.picpbs(4) | run-time error 53 "File not found" | end
 @write cdx5.ico "no picture"
-@restart
-click Form1.imgp(0)
-click Form1.Command32
+@restart; click Form1.imgp(0); click Form1.Command32
 click Form4.picpbs(4) | run-time error 481 "Invalid picture" | end
 # So does a missing blank page.
-@restart
-click Form1.imgp(0)
-click Form1.Command32
+@restart; click Form1.imgp(0); click Form1.Command32
 click Form4.Command5 | run-time error 53 "File not found" | end
 
 # No palette: the swatches are as designed. A caption that is no number paints as 0, which takes nothing away. There
 # is nothing to replace.
-@restart
-click Form1.imgp(0)
-click Form1.Command32
+@restart; click Form1.imgp(0); click Form1.Command32
   Form4.clrboxs(0) "x", clrbox(0).BackColor 33023, clrboxs(1) " x", clrboxs(23) "X", clrbox(23).BackColor 255
 mousedown Form4.clrboxs(23) 1 0 5 5
   Form4.clr1.BackColor 0, clr2.BackColor 255
@@ -98,9 +78,7 @@ click Form4.Command3 | run-time error 53 "File not found" | end
 
 # A palette of three lines is saved with all 24.
 @write colors.dat | "1",2 | "3",4 | "5",6
-@restart
-click Form1.imgp(0)
-click Form1.Command32
+@restart; click Form1.imgp(0); click Form1.Command32
   Form4.clrboxs(2) "5", clrboxs(3) "X"
 click Form4.Command3
 @changes colors.dat
@@ -113,18 +91,14 @@ click Form4.Command3
   | "1",1 | "2",2 | "3",3 | "4",4 | "5",5 | "6",6 | "7",7 | "8",8 | "9",9 | "10",10 | "11",11 | "12",12
   | "13",13 | "14",14 | "15",15 | "16",16 | "17",17 | "18",18 | "19",19 | "20",20 | "21",21 | "22",22 | "23",23
   | "24",24 | "25",25
-@restart
-click Form1.imgp(0)
-click Form1.Command32
+@restart; click Form1.imgp(0); click Form1.Command32
   Form4.clrboxs(0) "1", clrboxs(23) "24", clrboxs(23).ForeColor 24
 click Form4.Command3
 @changes colors.dat | -25 "25",25
 
 # A palette with words and odd numbers, which ends amid a record.
 @write colors.dat "red\r\n\"green\",grass\r\n,\r\n\"\",\"7\"\r\n\"-5\",-7\r\n\"99999999999\",99999999999\r\n\"8\",8\r\n\"9\""
-@restart
-click Form1.imgp(0)
-click Form1.Command32
+@restart; click Form1.imgp(0); click Form1.Command32
   Form4.clrboxs(0) "red", clrbox(0).BackColor 0, clrboxs(1) "grass", clrboxs(2) "", clrboxs(3) "7"
   Form4.clrbox(3).BackColor -5, clrboxs(4) "X", clrbox(4).BackColor 255, clrboxs(5) "99999999999", clrboxs(6) "8"
   Form4.clrboxs(7) "X"

@@ -19,33 +19,26 @@ set Form1.lblc.Caption = "03"
 
 # ODDITY(blank-labels-on-book-change): another book empties the viewer's labels and leaves its picture, until a
 # chapter with a picture of its own comes.
-set Form1.lblbook.Caption = ""
-set Form1.lblbk.Caption = "Exodus"
+set Form1.lblbook.Caption = ""; set Form1.lblbk.Caption = "Exodus"
   LBLPICP "", lblvs "", pick picture 7x1, picnm 0
-click Form1.lst "Exodus"
-scroll Form1.scr 2
+click Form1.lst "Exodus"; scroll Form1.scr 2
   LBLPICP "river", pick picture 2x1
   lstmc(0): "cloud", "birds", "river", "staff", "well"
 # A book without pictures; and the other version, which has the same as this one.
 click Form1.lst "Jude"
   lstmc(0) empty, lbltm "0", picnm.Max -1
 @show tmppics2.dat | empty
-click Form1.lst "Genesis"
-click Form1.optn
+click Form1.lst "Genesis"; click Form1.optn
   lstmc(0).List(0) "river", lstmc(1).List(0) "Genesis 1: 1", lstmc(0).ListCount 7, picnm 0
 click Form1.optk
 
 # ODDITY(blank-behind-the-book): a verse found in the whole text brings its book with a blank behind the name, which
 # leaves no chapter to be read in its places; a click on the book in the list has them back.
-click Form1.Command16
-click Form1.op1
-type Form1.txts "cloud"
-click Form1.Command22
+click Form1.Command16; click Form1.op1; type Form1.txts "cloud"; click Form1.Command22
 run | ran 66 ticks
 click Form1.lsts "Exodus 1 1"
   lblbk "Exodus ", lstmc(0) empty, lblp(0) "end"
-click Form1.Command20
-click Form1.lst "Exodus"
+click Form1.Command20; click Form1.lst "Exodus"
   lstmc(0).ListCount 5
 
 # The strip shows five pictures of the book at a time, numbers above, chapter and verse below.
@@ -72,8 +65,7 @@ click Form1.Command37
 click Form1.imgp(3)
   selfile(0) "", lblp(3).ForeColor 255, picnm 5, LBLPICP "ark", picp shown
 # A page turn takes the mark away, keeps the record in hand, and moves the viewer nowhere.
-click Form1.imgp(0)
-click Form1.SSCommand4
+click Form1.imgp(0); click Form1.SSCommand4
   lblendpic "4", lblp(0).ForeColor -2147483630, selfile(0) "ark", LBLPICP "ark"
 # The first picture of all opens also where the viewer stands on it already.
 @restart
@@ -83,8 +75,7 @@ click Form1.imgp(0)
   LBLPICP "river", pick picture 2x1, lblvs "Genesis 1: 1"
 
 # A change of chapter moves the viewer and not the strip; a change of book goes back to the first page.
-click Form1.SSCommand3
-scroll Form1.scr 2
+click Form1.SSCommand3; scroll Form1.scr 2
   LBLPICP "tent", lblendpic "9"
 click Form1.lst "Exodus"
   lblendpic "4"
@@ -98,25 +89,21 @@ click Form1.SSCommand4
 # A book without pictures: five fillers, and neither the buttons nor the bar lead anywhere.
 click Form1.lst "Jude"
   lblp(0) "end", lblp(9) "end", imgp(4) picture 1x1
-click Form1.SSCommand3
-click Form1.SSCommand4
+click Form1.SSCommand3; click Form1.SSCommand4
   lblendpic "4", lblp(0) "end"
 scroll Form1.picnm 0 | refused: range
   LBLPICP ""
 
 # The bar walks through the book's pictures, whatever the chapter; the text stays where it is.
-@restart
-click Form1.imgp(2)
+@restart; click Form1.imgp(2)
   LBLPICP "dawn"
 scroll Form1.picnm 6
   LBLPICP "road", lblvs "Genesis 3: 1", pick picture 8x1, lblc "1"
 scroll Form1.picnm 7 | refused: range
 # Hidden, it goes on following the chapter. Escape closes it.
-click Form1.Command37
-scroll Form1.scr 2
+click Form1.Command37; scroll Form1.scr 2
   pick picture 5x1, picp hidden
-click Form1.imgp(0)
-key Form1.picnm 27
+click Form1.imgp(0); key Form1.picnm 27
   picp hidden
 
 # The slide show: the older listing starts it where the chapter has two pictures or more; closing the viewer or
@@ -129,25 +116,21 @@ run 2 | ran 2 ticks
   LBLPICP "dawn"
 run 2 | ran 2 ticks
   picnm 0, LBLPICP "river"
-click Form1.imgp(0)
-click Form1.Command37
+click Form1.imgp(0); click Form1.Command37
   tmrpic disabled
 call ListChapterPictures
   tmrpic enabled
 scroll Form1.scr 1
   tmrpic disabled
 # The timer that nothing starts shows an empty box and starts itself again.
-set Form1.tmrpb.Enabled = True
-tick | message "" "Lectern 2"
+set Form1.tmrpb.Enabled = True; tick | message "" "Lectern 2"
   tmrpb enabled
 
 # ODDITY(picture-missing-in-viewer): where the file is missing or is no picture, the name and the place are the new
 # ones, the picture is the one before.
-@restart
-@delete pics/road.jpg
+@restart; @delete pics/road.jpg
 @write pics/ark.jpg "not a picture"
-scroll Form1.scr 2
-click Form1.imgp(4)
+scroll Form1.scr 2; click Form1.imgp(4)
   pick picture 6x1
 scroll Form1.picnm 5
   LBLPICP "ark", lblvs "Genesis 3: 2", pick picture 6x1

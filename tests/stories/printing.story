@@ -1,13 +1,11 @@
 # A page is printed from the bookmarks; the notes are not what is on it.
-printer on
-click Form1.Command3
+printer on; click Form1.Command3
 # ODDITY(print-page-empty): with no bookmark in hand the note is NAME.NOT, and it is left as it is.
 click Form1.Command30
 @show NAME.NOT | empty
   Form2 shown, Text1 "Text1"
 @write NAME.NOT | kept, as it is
-type Form2.Text1 "For Sunday:\r\nRuth 1"
-click Form2.Command1 | print Form2 618x906
+type Form2.Text1 "For Sunday:\r\nRuth 1"; click Form2.Command1 | print Form2 618x906
   Form2.Height 7050, Text1.Height 5775, Command1 shown, Command2 shown
 click Form2.Command2
   Form2 hidden
@@ -16,13 +14,11 @@ click Form1.Command30
 @changes NAME.NOT | unchanged
 
 # The window comes back at its own height whatever it was before.
-set Form2.Height = 9000
-click Form2.Command1 | print Form2 618x906
+set Form2.Height = 9000; click Form2.Command1 | print Form2 618x906
   Form2.Height 7050
 
 # ODDITY(no-printer-untold)
-printer off
-click Form2.Command1
+printer off; click Form2.Command1
   Form2.Command1 shown, Text1.Height 5775
 close Form2
   Form2 hidden, Text1 "For Sunday:\r\nRuth 1"
@@ -32,8 +28,6 @@ close Form2
 click Form1.Command10 | input … -> "Ruth"
 click Form1.Command30
 @show Ruth.NOT | empty
-set Form1.LBLMRK(0).Caption = "when: now"
-click Form2.Command2
-click Form1.Command30
+set Form1.LBLMRK(0).Caption = "when: now"; click Form2.Command2; click Form1.Command30
   Form2 shown
 @files . | bookschap.txt | codex.cfg | NAME.NOT | Ruth.bkm | Ruth.NOT | tmppics2.dat

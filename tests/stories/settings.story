@@ -1,6 +1,5 @@
 # The start: window, folders, settings, lists. What is missing keeps nothing from starting.
-screen 30000 20000
-fonts "Arial" "Georgia" "Times New Roman"
+screen 30000 20000; fonts "Arial" "Georgia" "Times New Roman"
   Form1 shown, Left 8070, Top 4645, Width 13860, Dir3.Path "DATA\\KJV", Dirpics.Path "DATA"
   Combo1: "Arial", "Georgia", "Times New Roman"
   Combo3: "Regular", "Italic", "Bold", "Bold Italic"
@@ -11,11 +10,9 @@ fonts "Arial" "Georgia" "Times New Roman"
 click Form1.oo11
   Picture23 shown, Command3 enabled, Combo1 "Georgia", rtxt.FontName "Georgia", lblf(0).FontSize 12
 # A pick shows at once, on the samples and on both panes; typing alone does not.
-set Form1.Command22.MousePointer = 11
-choose Form1.Combo1 "Times New Roman"
+set Form1.Command22.MousePointer = 11; choose Form1.Combo1 "Times New Roman"
   Command22.MousePointer 0
-choose Form1.Combo2 "18"
-choose Form1.Combo3 "Bold Italic"
+choose Form1.Combo2 "18"; choose Form1.Combo3 "Bold Italic"
   lblf(1).FontName "Times New Roman", lblf(1).FontSize 18, lblf(1).FontItalic True, rtxt.FontName "Times New Roman"
   rtxt.FontSize 18, rtxt.FontBold True, RTXT2.FontItalic True
 type Form1.Combo2 "13.5"
@@ -28,20 +25,17 @@ choose Form1.Combo3 "Regular"
 click Form1.Command36
 @changes backup/codex.cfg codex.cfg | unchanged
 @show codex.cfg | "Times New Roman","13.5","Regular"
-choose Form1.Combo3 "Bold"
-click Form1.Command24
+choose Form1.Combo3 "Bold"; click Form1.Command24
   Picture23 hidden, rtxt.FontBold True
 @restart
   Combo1 "Times New Roman", rtxt.FontSize 13.5, rtxt.FontBold False
 
 # Front colours the panels, and Back the window; neither is there at the next start. ODDITY(front-colour)
-click Form1.oo11
-click Form1.Picture31
+click Form1.oo11; click Form1.Picture31
   Picture23.BackColor 33023, frmc.BackColor 33023, frmd.BackColor 33023, Picture17.BackColor 33023
   frmhelp.BackColor 33023, frms.BackColor 33023, frmscale.BackColor 33023, FRMMARK.BackColor 33023
   Picture1.BackColor -2147483633, BackColor -2147483633
-click Form1.Option3
-click Form1.Picture25
+click Form1.Option3; click Form1.Picture25
   BackColor 12632256, Picture23.BackColor 33023
 click Form1.Picture35
   BackColor -2147483643
@@ -49,35 +43,25 @@ click Form1.Picture35
   Picture23.BackColor -2147483633
 
 # ODDITY(close-unlocks): a tool button that another panel holds locked is free when this one closes.
-set Form1.Command3.Enabled = False
-click Form1.oo11
+set Form1.Command3.Enabled = False; click Form1.oo11
   Command3 disabled
 click Form1.Command24
   Command3 enabled
 
 # A size that is no number, or one that no font can have, leaves the panes as they are while the reader tries on.
-click Form1.oo11
-type Form1.Combo2 "large"
-choose Form1.Combo1 "Arial"
+click Form1.oo11; type Form1.Combo2 "large"; choose Form1.Combo1 "Arial"
   rtxt.FontName "Arial", rtxt.FontSize 13.5, lblf(0).FontSize 13.5
-type Form1.Combo2 "0"
-choose Form1.Combo3 "Italic"
+type Form1.Combo2 "0"; choose Form1.Combo3 "Italic"
   rtxt.FontItalic True, RTXT2.FontItalic True, rtxt.FontSize 13.5
 # Saved, it is the end; the file has it all the same. The next start stops at it, and the style behind it is
 # not tried; the samples look after themselves.
-type Form1.Combo2 "5000"
-click Form1.Command36 | run-time error 380 "Invalid property value" | end
+type Form1.Combo2 "5000"; click Form1.Command36 | run-time error 380 "Invalid property value" | end
 @show codex.cfg | "Arial","5000","Italic"
 @restart
   Combo2 "5000", rtxt.FontName "Arial", rtxt.FontItalic False, lblf(0).FontItalic True
-click Form1.oo11
-type Form1.Combo2 "large"
-click Form1.Command36 | run-time error 13 "Type mismatch" | end
+click Form1.oo11; type Form1.Combo2 "large"; click Form1.Command36 | run-time error 13 "Type mismatch" | end
 # There is nothing to replace: Save deletes before it writes.
-@restart
-start
-@delete codex.cfg
-click Form1.oo11
+@restart; start; @delete codex.cfg; click Form1.oo11
 click Form1.Command36 | run-time error 53 "File not found" | end
 @show codex.cfg | missing
 
@@ -87,25 +71,18 @@ click Form1.Command36 | run-time error 53 "File not found" | end
   rtxt.FontSize 0, lst.ListCount 66, lst.List(21) "Song of Solomon", lblbk "Genesis", lblc "1", rtxt ""
 @files . | codex.cfg | tmppics2.dat
 @show codex.cfg | "&HFF0000","&H80000005","Arial","10"
-click Form1.oo11
-choose Form1.Combo1 "Georgia"
-click Form1.Command36
+click Form1.oo11; choose Form1.Combo1 "Georgia"; click Form1.Command36
 @show codex.cfg | "Georgia","11","Regular"
 # Settings of 0 to 2 bytes get the default record behind them; three bytes stand.
 @write codex.cfg "ab"
-@restart
-start
+@restart; start
 @show codex.cfg | ab"&HFF0000","&H80000005","Arial","10"
 @write codex.cfg "abc"
-@restart
-start
+@restart; start
 @changes codex.cfg | unchanged
 # An older file: its font stands where the style is read, and the style stays.
 @write codex.cfg | "Arial","10","Verdana","12"
-@restart
-set Form1.rtxt.FontBold = True
-click Form1.oo11
-click Form1.Command36
+@restart; set Form1.rtxt.FontBold = True; click Form1.oo11; click Form1.Command36
   rtxt.FontBold True, rtxt.FontName "Arial"
 @show codex.cfg | "Arial","10","Verdana"
 # Two fields are too few: nothing is applied, and the start goes on.
@@ -114,37 +91,24 @@ click Form1.Command36
   Combo1 "", lblbk "Genesis"
 
 # The three ways out, and what each leaves of the settings.
-@data small
-set Form1.Combo1.Text = "Verdana"
-set Form1.Combo2.Text = "14"
-set Form1.Combo3.Text = "Bold"
+@data small; set Form1.Combo1.Text = "Verdana"; set Form1.Combo2.Text = "14"; set Form1.Combo3.Text = "Bold"
 click Form1.Command1 | end
 get Form1.lblc.Caption | ended
 @changes backup/codex.cfg codex.cfg | unchanged
 @show codex.cfg | "Verdana","14","Bold"
-@restart
-set Form1.Combo2.Text = "20"
-click Form1.oo12
-click Form1.Command1 | end
+@restart; set Form1.Combo2.Text = "20"; click Form1.oo12; click Form1.Command1 | end
 @changes codex.cfg | unchanged
-@restart
-close Form1 | end
+@restart; close Form1 | end
 @changes codex.cfg | unchanged
 # ODDITY(menu-exit-loses-settings)
-@restart
-click Form1.xx | run-time error 424 "Object required" | end
+@restart; click Form1.xx | run-time error 424 "Object required" | end
 @changes backup/codex.cfg codex.cfg | unchanged
 @show codex.cfg | empty
 # The next start gives the empty file its default record.
-@restart
-start
+@restart; start
 @show codex.cfg | "&HFF0000","&H80000005","Arial","10"
-click Form1.oo12
-click Form1.xx | end
+click Form1.oo12; click Form1.xx | end
 # No file to delete: the menu's exit fails before it makes one.
-@restart
-start
-@delete codex.cfg
-click Form1.xx | run-time error 53 "File not found" | end
+@restart; start; @delete codex.cfg; click Form1.xx | run-time error 53 "File not found" | end
 @show codex.cfg | missing
 @status | 0

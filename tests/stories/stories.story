@@ -26,8 +26,7 @@ menu
   | …
 
 # ODDITY(story-keeps-range): the chapter loads, the bar keeps to the book before.
-click Form1.lst "Jude"
-click Form1.ss3
+click Form1.lst "Jude"; click Form1.ss3
   lblbk "Genesis", lblbook "Genesis", lblc "2", rtxt "1   A stranger came by…Chapter 3\r\n", scr.Max 1, scr 1
 
 # The same story once more reads the book once more.
@@ -50,24 +49,19 @@ click Form1.ddd1
   lblbk "1-Samuel", lblc "16"
 
 # ODDITY(story-first-chapter): the birth of a child is looked for, and chapter 1 comes up; the bar follows.
-click Form1.lst "Exodus"
-click Form1.gg5
+click Form1.lst "Exodus"; click Form1.gg5
   lblbk "Luke", lblc "1", rtxt "1   Two old people by the river.\r\n2   They wait.\r\nChapter 2\r\n", scr.Max 2
 click Form1.gg1
   lblbk "John", lblc "1", rtxt "1   A man by the road.\r\nChapter 2\r\n"
 
 # From a book of one chapter, and from the book itself, it is chapter 1 all the same.
-click Form1.lst "Jude"
-click Form1.gg5
+click Form1.lst "Jude"; click Form1.gg5
   lblc "1", rtxt "1   Two old people by the river.\r\n2   They wait.\r\nChapter 2\r\n"
-scroll Form1.scr 2
-click Form1.gg5
+scroll Form1.scr 2; click Form1.gg5
   lblc "1"
 
 # With the search open the bar is not taken back: the old book's chapter 2 stays under the new name.
-click Form1.lst "Exodus"
-set Form1.frms.Visible = True
-click Form1.gg5
+click Form1.lst "Exodus"; set Form1.frms.Visible = True; click Form1.gg5
   lblbk "Luke", lblc "2", rtxt "1   A cloud stood over the road.…"
 set Form1.frms.Visible = False
 
