@@ -1,6 +1,8 @@
 #include "reader/chapter_store.h"
 
 #include "base/error_modes.h"
+#include "base/files/record_reader.h"
+#include "base/text/characters.h"
 #include "base/text/numbers.h"
 #include "reader/reader.h"
 
@@ -16,6 +18,22 @@ constexpr std::string_view kChapterMark = "Chap";
 bool IsChapterLine(std::string_view line) { return line.starts_with(kChapterMark); }
 
 }  // namespace
+
+std::vector<int> VersesOfChapters(const files::FileSystem& files, std::string_view path) {
+  files::Contents book;
+  files.Read(path, book);
+  files::RecordReader lines(book.Bytes());
+  std::vector<int> verses;
+  while (!lines.AtEnd()) {
+    const std::string_view line = lines.Line();
+    if (IsChapterLine(line)) {
+      verses.push_back(0);
+    } else if (!verses.empty() && text::StartsWithDigit(line) && line.substr(1, 1) != "-") {
+      ++verses.back();
+    }
+  }
+  return verses;
+}
 
 void ChapterStore::Load() {
   files::FileSlots& slots = reader_.form.Slots();

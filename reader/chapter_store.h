@@ -8,8 +8,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/error_modes.h"
+#include "base/files/file_system.h"
 
 namespace lectern::reader {
 
@@ -21,6 +24,9 @@ struct ShownChapter {
   std::string chapter;  // "" where the book has no such chapter: its last line then stands alone
   std::string version;  // "KJV"
 };
+
+// How many verses each chapter of a book's file has. Errors are those of reading the file.
+std::vector<int> VersesOfChapters(const files::FileSystem& files, std::string_view path);
 
 class ChapterStore {
  public:

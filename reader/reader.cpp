@@ -34,6 +34,26 @@ std::string Reader::BookFile(std::string_view stem) const {
 // Only the first option is ever read.
 const Version& Reader::CurrentVersion() const { return kVersions[optk.Value ? 0 : 1]; }
 
+FoundReference Reader::Find(std::string_view typed) const {
+  using Missing = FoundReference::Missing;
+  const auto read = ReadReference(typed);
+  if (!read) return {{}, Missing::kBook};
+  Reference at = read->reference;
+  std::vector<int> verses;  // of each chapter
+  const base::Ignoring ignore;
+  ignore(
+      [&] { verses = VersesOfChapters(form.Files(), BookFile(kCanon[static_cast<std::size_t>(at.book)])); });
+  if (verses.empty()) return {at, Missing::kBook};
+  if (verses.size() == 1 && at.verse == 0) at = {at.book, at.chapter == 0 ? 0 : 1, at.chapter};
+  const auto chapter = static_cast<std::size_t>(at.chapter);
+  // A range of verses is found by its first.
+  const bool is_readable =
+      read->rest.find_first_not_of(" .:,") == std::string_view::npos || read->rest[0] == '-';
+  if (chapter > verses.size() || (chapter == 0 && !is_readable)) return {at, Missing::kChapter};
+  if (!is_readable || (chapter > 0 && at.verse > verses[chapter - 1])) return {at, Missing::kVerse};
+  return {at, Missing::kNothing};
+}
+
 // The book stays, the chapter falls back to 1.
 void Reader::ChangeVersion(const Version& version) {
   LBLVR.Caption = std::string(version.name);

@@ -28,6 +28,7 @@
 #include "forms/window.h"
 #include "reader/chapter_store.h"
 #include "reader/panels.h"
+#include "reader/reference.h"
 #include "reader/versions.h"
 
 namespace lectern::reader {
@@ -90,6 +91,10 @@ class Reader {
 
   // The version that is set.
   const Version& CurrentVersion() const;
+
+  // Reads a reference that a person typed, and looks whether the text of the current version has the place.
+  // Of a book with a single chapter the only number is the verse.
+  FoundReference Find(std::string_view typed) const;
 
   // A file of the data folder, and one of the version that is set: "…\KJV\Exodus.txt", "…\NEW\NExodus.txt".
   std::string DataFile(std::string_view name) const;

@@ -8,6 +8,7 @@
 namespace lectern::reader {
 
 struct Version {
+  std::string_view option;       // the control that sets it
   std::string_view name;         // "King James Version"
   std::string_view label;        // the short name, beside its option
   std::string_view folder;       // of its books, in the data folder
@@ -16,8 +17,8 @@ struct Version {
 };
 
 inline constexpr std::array kVersions = {
-    Version{"King James Version", "KJV", "KJV", "", "CONCORD.DAT"},
-    Version{"Revised Standard Version", "NEW", "NEW", "N", "CONCORD2.DAT"},
+    Version{"optk", "King James Version", "KJV", "KJV", "", "CONCORD.DAT"},
+    Version{"optn", "Revised Standard Version", "NEW", "NEW", "N", "CONCORD2.DAT"},
 };
 
 }  // namespace lectern::reader

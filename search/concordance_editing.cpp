@@ -1,8 +1,7 @@
 #include "search/concordance_editing.h"
 
-#include <optional>
-
 #include "base/text/letter_case.h"
+#include "reader/reference.h"
 #include "search/concordance_file.h"
 #include "search/entry.h"
 
@@ -48,7 +47,7 @@ void ConcordanceEditing::AddEntry(const std::string& text) {
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForAppending(kConcordance, ConcordanceFile(reader_));
   slots.WriteRecord(kConcordance, search_.txts.Text(),
-                    entry->book + " " + entry->chapter + " " + entry->verse);
+                    reader::ReferenceText(entry->book, entry->chapter, entry->verse, ' '));
   slots.Close(kConcordance);
 }
 

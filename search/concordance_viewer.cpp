@@ -1,11 +1,8 @@
 #include "search/concordance_viewer.h"
 
-#include <optional>
-
-#include "base/text/characters.h"
 #include "base/text/letter_case.h"
-#include "base/text/numbers.h"
 #include "search/concordance_file.h"
+#include "search/entry.h"
 #include "search/highlight.h"
 
 namespace lectern::search {
@@ -13,25 +10,6 @@ namespace lectern::search {
 namespace {
 
 constexpr int kConcordance = 1;  // slot
-
-struct Passage {
-  std::string book;
-  std::string chapter;
-};
-
-// The book and the chapter of "1 Peter 2 6". The first character is passed over, so that the digit of a
-// numbered book is not taken for the chapter. Nothing where no chapter and verse stand behind a book.
-std::optional<Passage> ParseReference(std::string_view reference) {
-  const std::size_t start = text::ByteOf(reference, 2);
-  const std::size_t digit = reference.find_first_of("0123456789", start);
-  if (digit == std::string_view::npos) return std::nullopt;
-  const std::string_view before = reference.substr(0, digit);
-  const std::string_view rest = reference.substr(digit);
-  const std::size_t blank = rest.rfind(' ');
-  if (blank == std::string_view::npos) return std::nullopt;
-  return Passage{std::string(text::Left(before, text::Length(before) - 1)),
-                 std::string(rest.substr(0, blank))};
-}
 
 }  // namespace
 
@@ -96,9 +74,9 @@ void ConcordanceViewer::lstc_Click() {
 }
 
 void ConcordanceViewer::lstc2_Click() {
-  const std::optional<Passage> passage = ParseReference(lstc2.List(lstc2.SelectedIndex()));
-  if (!passage) return;
-  reader_.ShowPassage(passage->book, passage->chapter);
+  const std::optional<Entry> verse = ParseConcordanceReference(lstc2.List(lstc2.SelectedIndex()));
+  if (!verse) return;
+  reader_.ShowPassage(verse->book, verse->chapter);
   HighlightText(reader_.rtxt, lblw.Caption(), kMarkColour);
 }
 

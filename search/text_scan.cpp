@@ -8,6 +8,7 @@
 #include "base/files/text_encoding.h"
 #include "base/text/characters.h"
 #include "base/text/letter_case.h"
+#include "reader/reference.h"
 #include "search/term_finder.h"
 
 namespace lectern::search {
@@ -154,7 +155,7 @@ class Scan {
 
   void AddEntry() {
     if (entry_length_ == 0) {
-      entry_ = book_ + " " + std::to_string(chapter_) + " ";
+      entry_ = reader::ReferenceText(book_, std::to_string(chapter_), "", ' ');
       entry_length_ = entry_.size();
       entry_.resize(entry_length_ + kMostDigits);
     }

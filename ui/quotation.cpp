@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "base/text/characters.h"
+#include "reader/reference.h"
 
 namespace lectern::ui {
 
@@ -68,12 +69,13 @@ std::string Quotation(std::string_view text, std::size_t start, std::size_t leng
     if (first_verse.empty()) first_verse = line.number;
     last_verse = line.number;
   }
-  (quotation += " (") += place.book;
-  if (!place.chapter.empty()) {
-    (quotation += ' ') += place.chapter;
-    if (!first_verse.empty()) (quotation += ':') += first_verse;
-    if (last_verse != first_verse) (quotation += '-') += last_verse;
-  }
+  std::string verses(first_verse);
+  if (last_verse != first_verse) (verses += '-') += last_verse;
+  const std::string chapter = place.chapter.empty() ? "" : " " + place.chapter;
+  quotation += " (";
+  quotation += place.chapter.empty() || verses.empty()
+                   ? place.book + chapter
+                   : reader::ReferenceText(place.book, place.chapter, verses);
   if (!place.version.empty()) (quotation += ", ") += place.version;
   return quotation += ')';
 }

@@ -9,6 +9,7 @@
 #include "forms/list_box.h"
 #include "gallery/picture_record.h"
 #include "reader/canon.h"
+#include "reader/reference.h"
 #include "tests/kit/test_window.h"
 #include "tools/make_data/sources.h"
 #include "ui/headless/driver.h"
@@ -29,15 +30,12 @@ TEST(Gallery, HasPicturesForVersesOfEveryBook) {
     const gallery::PictureRecord record = gallery::ReadPictureRecord(slots, 1);
     EXPECT_TRUE(files.FileExists("pics\\" + record.name + ".jpg")) << record.name;
     EXPECT_TRUE(record.author.starts_with("PICTURES BY: ") && record.author.size() > 13) << record.name;
-    const std::size_t colon = record.place.rfind(": ");
-    const std::size_t blank = record.place.rfind(' ', colon - 1);
-    const int book = make_data::BookPosition(record.place.substr(0, blank));
-    ASSERT_GE(book, 0) << record.place;
-    EXPECT_EQ(reader::kCanon[static_cast<std::size_t>(book)], record.place.substr(0, blank));
+    const auto place = reader::ReadReference(record.place);
+    ASSERT_TRUE(place) << record.place;
+    const auto [book, chapter, verse] = place->reference;
+    EXPECT_TRUE(record.place.starts_with(reader::kCanon[static_cast<std::size_t>(book)])) << record.place;
     const make_data::Book& chapters = text.books[static_cast<std::size_t>(book)];
-    const auto chapter = chapters.find(std::stoi(record.place.substr(blank + 1)));
-    ASSERT_NE(chapter, chapters.end()) << record.place;
-    EXPECT_TRUE(chapter->second.contains(std::stoi(record.place.substr(colon + 2)))) << record.place;
+    EXPECT_TRUE(chapters.contains(chapter) && chapters.at(chapter).contains(verse)) << record.place;
     EXPECT_GE(book, last) << record.place << " stands behind a later book";
     last = book;
     books.insert(book);

@@ -98,27 +98,27 @@ std::vector<std::string> ConcordanceWords(const Version& version, std::size_t mo
   return words;
 }
 
-void BuildConcordance(const std::string& data_folder, WhichVersion which,
+void BuildConcordance(const std::string& data_folder, const reader::Version& version,
                       const std::vector<std::string>& words,
                       const std::function<void(std::size_t, std::size_t)>& progress) {
-  const bool second = which == WhichVersion::kSecond;
   // The tool makes its files in the folder that it reads the books from: it gets a folder of its own.
   const fs::path bench = fs::path(data_folder) / "making";
   fs::remove_all(bench);
   fs::create_directories(bench);
-  fs::create_directory_symlink(fs::path(data_folder) / "KJV", bench / "KJV");
-  fs::create_directory_symlink(fs::path(data_folder) / "NEW", bench / "NEW");
+  for (const reader::Version& each : reader::kVersions) {
+    fs::create_directory_symlink(fs::path(data_folder) / each.folder, bench / each.folder);
+  }
   std::string list;
   for (const std::string& word : words) list += word + "\r\n";
   WriteFile((bench / "conc.txt").string(), list);
-  const fs::path target = bench / (second ? "CONCORD2.DAT" : "CONCORD.DAT");
+  const fs::path target = bench / version.concordance;
   WriteFile(target.string(), "");
 
   std::string complaint;
   headless::Driver driver(bench.string(), [&complaint](const std::string& line) {
     if (line != "beep" && !line.starts_with("ran ")) complaint += line + "\n";
   });
-  if (second) driver.Execute("click Form1.optn");
+  driver.Execute("click Form1." + std::string(version.option));
   driver.Execute("click! Form1.Command27");
   const forms::Window& form = *driver.Program().Touch("Form1");
   const auto& done = dynamic_cast<const forms::Label&>(*form.Find("lbln"));
@@ -128,7 +128,7 @@ void BuildConcordance(const std::string& data_folder, WhichVersion which,
     }
   }
   std::string records = WithoutRepeatedBlock(ReadFile(target), words.back());
-  if (second) {
+  if (version.concordance == reader::kVersions[1].concordance) {
     // The program's own tool cuts the repeated block behind one certain record. It serves where that record
     // is the true end; a text whose last word goes on behind it keeps the rest.
     driver.Execute("click! Form1.Command18");
@@ -138,7 +138,7 @@ void BuildConcordance(const std::string& data_folder, WhichVersion which,
   fs::remove_all(bench);
   if (records.empty() || !complaint.empty())
     throw Obstacle("The concordance could not be built: " + complaint);
-  WriteFile(data_folder + (second ? "/CONCORD2.DAT" : "/CONCORD.DAT"), records);
+  WriteFile(data_folder + "/" + std::string(version.concordance), records);
   WriteFile(data_folder + "/conc.txt", list);
 }
 

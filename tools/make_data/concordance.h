@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "reader/versions.h"
 #include "tools/make_data/verses.h"
 
 namespace lectern::make_data {
@@ -15,8 +16,7 @@ std::vector<std::string> ConcordanceWords(const Version& version, std::size_t mo
 
 // Builds the concordance of one version in a folder that holds the texts: `conc.txt` and the concordance's
 // file. The version's books have to lie in the folder.
-enum class WhichVersion { kFirst, kSecond };
-void BuildConcordance(const std::string& data_folder, WhichVersion which,
+void BuildConcordance(const std::string& data_folder, const reader::Version& version,
                       const std::vector<std::string>& words,
                       const std::function<void(std::size_t done, std::size_t all)>& progress);
 

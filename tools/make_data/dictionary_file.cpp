@@ -7,6 +7,7 @@
 #include "base/text/characters.h"
 #include "base/text/letter_case.h"
 #include "reader/canon.h"
+#include "reader/reference.h"
 #include "tools/make_data/verse_finder.h"
 
 namespace lectern::make_data {
@@ -140,8 +141,7 @@ std::string DictionaryRecords(const std::vector<Topic>& topics, const Version& k
     const std::string definition = Definition(topic, wording);
     const VerseFinder::Verse* const use = finder.Use(topic);
     if (definition.empty() || use == nullptr) continue;
-    const std::string reference = std::string(reader::kCanon[static_cast<std::size_t>(use->book)]) + " " +
-                                  std::to_string(use->chapter) + ":" + std::to_string(use->verse);
+    const std::string reference = reader::ReferenceText({use->book, use->chapter, use->verse});
     std::string record;
     for (const std::string& field : {Wording::Heading(topic.heading), definition, *use->words, reference}) {
       record += (record.empty() ? "\"" : ",\"") + WithoutQuotes(field) + "\"";

@@ -13,7 +13,7 @@
 #include <unistd.h>
 #include <vector>
 
-#include "reader/canon.h"
+#include "reader/versions.h"
 #include "tools/make_data/book_files.h"
 #include "tools/make_data/concordance.h"
 #include "tools/make_data/dictionary_file.h"
@@ -55,8 +55,12 @@ class Steps {
   int shown_ = 0;
 };
 
-constexpr const char* kSecondFolder = "/NEW";
-constexpr const char* kSecondPrefix = "N";
+constexpr reader::Version kFirst = reader::kVersions[0];
+constexpr reader::Version kSecond = reader::kVersions[1];
+
+std::string FolderOf(const reader::Version& version, const std::string& data_folder) {
+  return data_folder + "/" + std::string(version.folder);
+}
 
 // The settings are the person's as soon as they are there.
 void MakeSettings(const std::string& folder) {
@@ -66,14 +70,13 @@ void MakeSettings(const std::string& folder) {
 }
 
 // A concordance that is there may hold what the person added: it is left alone.
-void MakeConcordance(const std::string& folder, const Version& version, WhichVersion which, std::size_t most,
-                     Steps& steps) {
-  const bool second = which == WhichVersion::kSecond;
-  if (std::filesystem::exists(folder + (second ? "/CONCORD2.DAT" : "/CONCORD.DAT"))) return;
-  std::vector<std::string> words = ConcordanceWords(version, most);
+void MakeConcordance(const std::string& folder, const Version& text, const reader::Version& version,
+                     std::size_t most, Steps& steps) {
+  if (std::filesystem::exists(folder + "/" + std::string(version.concordance))) return;
+  std::vector<std::string> words = ConcordanceWords(text, most);
   // The tool that cuts a concordance to its true end knows the second version's by this word.
-  if (second && std::erase(words, "zion") > 0) words.emplace_back("Zion");
-  BuildConcordance(folder, which, words,
+  if (version.folder == kSecond.folder && std::erase(words, "zion") > 0) words.emplace_back("Zion");
+  BuildConcordance(folder, version, words,
                    [&steps](std::size_t done, std::size_t all) { steps.Within(done, all); });
   std::cout << "\r        \r";
 }
@@ -89,12 +92,12 @@ void FlushToDisk(const std::string& folder) {
 void MakeAll(const std::string& folder, std::size_t concordance_words) {
   Steps steps;
   std::filesystem::create_directories(folder);
-  steps.Begin("King James Version", 4);
+  steps.Begin(std::string(kFirst.name), 4);
   const Version king_james = ReadKingJames();
-  WriteBooks(king_james, folder + "/KJV", "");
+  WriteBooks(king_james, FolderOf(kFirst, folder), std::string(kFirst.prefix));
   steps.Begin("World English Bible, for the second version", 4);
   const Version world_english = ReadWorldEnglish();
-  WriteStandIn(world_english, folder + kSecondFolder, kSecondPrefix);
+  WriteStandIn(world_english, FolderOf(kSecond, folder), std::string(kSecond.prefix));
   steps.Begin("Chapter counts", 4);
   WriteChapterCounts(king_james, folder);
   steps.Begin("Dictionary", 4);
@@ -108,9 +111,9 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   MakePaintFiles(folder);
   MakeSettings(folder);
   steps.Begin("Concordance of the first version", 36);
-  MakeConcordance(folder, king_james, WhichVersion::kFirst, concordance_words, steps);
+  MakeConcordance(folder, king_james, kFirst, concordance_words, steps);
   steps.Begin("Concordance of the second version", 36);
-  MakeConcordance(folder, world_english, WhichVersion::kSecond, concordance_words, steps);
+  MakeConcordance(folder, world_english, kSecond, concordance_words, steps);
   FlushToDisk(folder);
   Tell("The data folder is ready.");
 }
@@ -128,7 +131,7 @@ int Run(const std::vector<std::string>& arguments) {
   if (arguments.size() == 3 && arguments[0] == "--second") {
     const Version own = ReadOwnText(arguments[1]);
     const std::string folder = std::filesystem::absolute(arguments[2]).lexically_normal().string();
-    WriteBooks(own, folder + kSecondFolder, kSecondPrefix);
+    WriteBooks(own, FolderOf(kSecond, folder), std::string(kSecond.prefix));
     Tell("The second version is in place: " + std::to_string(own.VerseCount()) + " verses.");
     return 0;
   }

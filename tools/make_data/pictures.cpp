@@ -1,13 +1,13 @@
 #include "tools/make_data/pictures.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 #include <string_view>
 #include <tuple>
 #include <vector>
 
 #include "base/files/text_encoding.h"
+#include "reader/reference.h"
 #include "tools/make_data/book_files.h"
 #include "tools/make_data/drawings.h"
 #include "tools/make_data/picture_table.h"
@@ -34,22 +34,13 @@ struct Record {
   std::string line;
 };
 
-int NumberAt(std::string_view text) {
-  int number = 0;
-  std::from_chars(text.data(), text.data() + text.size(), number);
-  return number;
-}
-
 // The record of one place, "Genesis 3: 6".
 Record RecordOf(const Drawing& drawing, std::string_view place, const std::string& artist) {
-  const std::size_t colon = place.rfind(": ");
-  const std::size_t blank = place.rfind(' ', colon);
-  const int book = BookPosition(std::string(place.substr(0, blank)));
-  if (book < 0) throw Obstacle("No book of scripture: " + std::string(place));
+  const auto read = reader::ReadReference(place);
+  if (!read) throw Obstacle("No book of scripture: " + std::string(place));
   const std::string line =
       "\"" + std::string(drawing.name) + "\",\"" + std::string(place) + "\",\"PICTURES BY: " + artist + "\"";
-  return {book, NumberAt(place.substr(blank + 1)), NumberAt(place.substr(colon + 2)),
-          files::Encode(line) + "\r\n"};
+  return {read->reference.book, read->reference.chapter, read->reference.verse, files::Encode(line) + "\r\n"};
 }
 
 }  // namespace

@@ -1,14 +1,15 @@
 #include "tools/make_data/sources.h"
 
-#include <charconv>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <string_view>
 
 #include "base/files/record_reader.h"
 #include "base/files/text_encoding.h"
 #include "reader/canon.h"
+#include "reader/reference.h"
 #include "tools/make_data/markup.h"
 
 namespace lectern::make_data {
@@ -17,29 +18,15 @@ namespace {
 
 constexpr std::size_t kVerses = 31102;
 
-// "Ge1:1 In the …", "Genesis 1:1" and what follows; false where the line does not begin so.
-struct Reference {
-  int book = -1;
-  int chapter = 0;
-  int verse = 0;
-  std::string_view rest;
-};
+// The verse that a text begins with, "Ge1:1 In the …", "Genesis 1:1"; nothing where it begins otherwise.
+std::optional<reader::ReadReferenceResult> ReadVerseReference(std::string_view text) {
+  auto read = reader::ReadReference(text);
+  if (read && (read->reference.chapter == 0 || read->reference.verse == 0)) read.reset();
+  return read;
+}
 
-bool ParseReference(std::string_view line, Reference& reference) {
-  const std::size_t colon = line.find(':');
-  if (colon == std::string_view::npos || colon == 0) return false;
-  std::size_t digits = colon;
-  while (digits > 0 && line[digits - 1] >= '0' && line[digits - 1] <= '9') --digits;
-  std::string_view name = line.substr(0, digits);
-  while (name.ends_with(' ')) name.remove_suffix(1);
-  const char* const end = line.data() + line.size();
-  const auto [after_chapter, no_chapter] = std::from_chars(line.data() + digits, end, reference.chapter);
-  const auto [after_verse, no_verse] = std::from_chars(line.data() + colon + 1, end, reference.verse);
-  if (no_chapter != std::errc{} || no_verse != std::errc{}) return false;
-  reference.book = BookPosition(std::string(name));
-  reference.rest = {after_verse, static_cast<std::size_t>(end - after_verse)};
-  if (reference.rest.starts_with(' ')) reference.rest.remove_prefix(1);
-  return true;
+std::string& VerseAt(Version& version, const reader::Reference& at) {
+  return version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse];
 }
 
 Version EmptyVersion() { return {std::vector<Book>(reader::kCanon.size()), ""}; }
@@ -49,9 +36,8 @@ Version FromLines(std::string_view text) {
   Version version = EmptyVersion();
   files::RecordReader lines(text);
   while (!lines.AtEnd()) {
-    Reference at;
-    if (!ParseReference(lines.Line(), at) || at.book < 0) continue;
-    version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse] = PlainWords(at.rest);
+    const auto read = ReadVerseReference(lines.Line());
+    if (read) VerseAt(version, read->reference) = PlainWords(read->rest);
   }
   return version;
 }
@@ -94,13 +80,13 @@ Version ReadWorldEnglish() {
   Version version = EmptyVersion();
   version.chapter_remark = "(World English Bible)";
   files::RecordReader lines(text);
-  Reference at;
+  std::optional<reader::ReadReferenceResult> at;
   std::string markup;
   const auto put = [&] {
-    if (at.book >= 0 && at.chapter > 0 && at.verse > 0) {
+    if (at) {
       // What stands behind the end of a chapter is the matter between books: a glossary, an introduction.
       const std::string_view verse = std::string_view(markup).substr(0, markup.find("<chapter eID"));
-      version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse] = PlainWords(verse);
+      VerseAt(version, at->reference) = PlainWords(verse);
     }
     markup.clear();
   };
@@ -108,8 +94,7 @@ Version ReadWorldEnglish() {
     const std::string_view line = lines.Line();
     if (line.starts_with("$$$")) {
       put();
-      at = {};
-      ParseReference(line.substr(3), at);
+      at = ReadVerseReference(line.substr(3));
     } else {
       markup.append(line).append(1, ' ');
     }
@@ -129,29 +114,17 @@ std::string_view Attribute(std::string_view tag, std::string_view name) {
   return value.substr(0, value.find('"'));
 }
 
-// "Gen.1.1" of an OSIS document.
-bool ParseOsisId(std::string_view id, Reference& reference) {
-  id = id.substr(0, id.find(' '));  // of a verse that stands for several, the first
-  const std::size_t first = id.find('.');
-  const std::size_t second = id.find('.', first + 1);
-  if (first == std::string_view::npos || second == std::string_view::npos) return false;
-  const std::string name = std::string(id.substr(0, first)) + " " + std::string(id.substr(first + 1));
-  std::string plain = name;
-  plain[second] = ':';
-  return ParseReference(plain, reference);
-}
-
 // Verses are elements with their text inside, or marks at its beginning and end.
 Version FromOsis(std::string_view text) {
   Version version = EmptyVersion();
-  Reference at;
-  std::size_t start = std::string_view::npos;
+  std::optional<reader::ReadReferenceResult> at;
+  std::size_t start = 0;
   const auto put = [&](std::size_t end) {
-    if (start != std::string_view::npos && at.book >= 0) {
-      std::string& verse = version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse];
+    if (at) {
+      std::string& verse = VerseAt(version, at->reference);
       verse += (verse.empty() ? "" : " ") + PlainWords(text.substr(start, end - start));
     }
-    start = std::string_view::npos;
+    at.reset();
   };
   for (std::size_t open = text.find('<'); open != std::string_view::npos; open = text.find('<', open + 1)) {
     const std::size_t close = text.find('>', open);
@@ -160,7 +133,8 @@ Version FromOsis(std::string_view text) {
     if (!tag.starts_with("verse") && !tag.starts_with("/verse")) continue;
     put(open);
     const bool begins = tag.starts_with("verse") && Attribute(tag, "eID").empty();
-    if (begins && ParseOsisId(Attribute(tag, "osisID"), at)) start = close + 1;
+    if (begins) at = ReadVerseReference(Attribute(tag, "osisID"));  // of several, the first
+    start = close + 1;
   }
   return version;
 }

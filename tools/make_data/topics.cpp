@@ -1,10 +1,10 @@
 #include "tools/make_data/topics.h"
 
 #include <algorithm>
-#include <charconv>
 #include <map>
 
 #include "base/files/record_reader.h"
+#include "reader/reference.h"
 #include "tools/make_data/markup.h"
 #include "tools/make_data/sources.h"
 #include "tools/make_data/verses.h"
@@ -14,24 +14,6 @@ namespace lectern::make_data {
 namespace {
 
 constexpr std::string_view kHeadingMark = "$$$";
-
-// "Exod.6.16", "Num.17".
-struct Point {
-  int book = -1;
-  int chapter = 0;
-  int verse = 0;
-};
-
-Point ParsePoint(std::string_view id) {
-  Point point;
-  const std::size_t first = std::min(id.find('.'), id.size());
-  point.book = BookPosition(std::string(id.substr(0, first)));
-  const char* const end = id.data() + id.size();
-  if (first == id.size()) return point;
-  const auto [after, failure] = std::from_chars(id.data() + first + 1, end, point.chapter);
-  if (failure == std::errc{} && after != end && *after == '.') std::from_chars(after + 1, end, point.verse);
-  return point;
-}
 
 // The value behind `start` up to the next quote; empty where the tag does not begin so.
 std::string_view ValueOf(std::string_view tag, std::string_view start) {
@@ -76,10 +58,11 @@ class ItemReader {
 
   void TakePassage(std::string_view id) {
     const std::size_t dash = std::min(id.find('-'), id.size());
-    const Point first = ParsePoint(id.substr(0, dash));
-    const Point last = dash == id.size() ? first : ParsePoint(id.substr(dash + 1));
-    if (first.book < 0 || first.book != last.book) return;
-    item_.passages.push_back({first.book, first.chapter, first.verse, last.chapter, last.verse});
+    const auto first = reader::ReadReference(id.substr(0, dash));
+    const auto last = dash == id.size() ? first : reader::ReadReference(id.substr(dash + 1));
+    if (!first || !last || first->reference.book != last->reference.book) return;
+    item_.passages.push_back({first->reference.book, first->reference.chapter, first->reference.verse,
+                              last->reference.chapter, last->reference.verse});
   }
 
   void Finish() {

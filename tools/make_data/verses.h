@@ -25,8 +25,4 @@ struct Version {
   std::size_t VerseCount() const;
 };
 
-// The position in the canon of a book by one of its names or abbreviations ("Ge", "1Sm", "I Samuel",
-// "1Sam", "Revelation of John"); -1 where it is none of the 66.
-int BookPosition(const std::string& name);
-
 }  // namespace lectern::make_data
