@@ -40,25 +40,25 @@ forms::Picture Arrows() {
 
 }  // namespace
 
-Bookmarks::Bookmarks(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-                     reader::Menus& menus)
-    : reader_(the_reader), panels_(the_panels), tools_(the_tools) {
+Bookmarks::Bookmarks(reader::Reader& the_reader, forms::PictureBox& Picture1, forms::PictureBox& Picture2,
+                     forms::PictureBox& picp, reader::ToolButtons& the_tools, forms::Menu& xb)
+    : reader_(the_reader), Picture1_(Picture1), Picture2_(Picture2), picp_(picp), tools_(the_tools) {
   Label19_3.PutInArray(3);
   C_4.PutInArray(4);
-  panels_.Picture2.Picture = Arrows();
+  Picture2_.Picture = Arrows();
   tools_.Command3.Click = [this] { Command3_Click(); };
-  menus.xb.Click = [this] { xb_Click(); };
+  xb.Click = [this] { xb_Click(); };
   File1.Click = [this] { File1_Click(); };
   Command5.Click = [this] { Command5_Click(); };
   Command6.Click = [this] { Command6_Click(); };
   Command7.Click = [this] { Command7_Click(); };
   Command10.Click = [this] { Command10_Click(); };
   Command11.Click = [this] { Command11_Click(); };
-  panels_.Picture2.MouseMove = [this](const forms::MouseEvent&) { Picture2_MouseMove(); };
+  Picture2_.MouseMove = [this](const forms::MouseEvent&) { Picture2_MouseMove(); };
 }
 
 void Bookmarks::Command3_Click() {
-  panels_.picp.Visible = false;
+  picp_.Visible = false;
   xb_Click();
   tools_.Disable();
 }
@@ -66,7 +66,7 @@ void Bookmarks::Command3_Click() {
 // ODDITY(bookmark-doors): the menu's door leaves the picture open and the tool buttons enabled, the tool
 // button's own does not; it is meant.
 void Bookmarks::xb_Click() {
-  panels_.Picture1.Visible = true;
+  Picture1_.Visible = true;
   reader_.LBLMRK(1).Caption = reader_.Stem();
   reader_.LBLMRK(2).Caption = reader_.Chapter();
 }
@@ -76,19 +76,15 @@ void Bookmarks::File1_Click() {
   if (selected < 0) return;
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForReading(kBookmark, reader_.DataFile(File1.List(selected)));
-  const std::string name(slots.ReadField(kBookmark));
-  const std::string book(slots.ReadField(kBookmark));
-  const std::string chapter(slots.ReadField(kBookmark));
+  const reader::BookmarkRecord record = reader::ReadBookmarkRecord(slots, kBookmark);
   slots.Close(kBookmark);
-  reader_.LBLMRK(0).Caption = name;
-  reader_.LBLMRK(1).Caption = book;
-  reader_.LBLMRK(2).Caption = chapter;
+  reader_.TakeBookmark(record);
 }
 
 std::string Bookmarks::PathOf(const std::string& name) const { return reader_.DataFile(name + ".bkm"); }
 
 void Bookmarks::WritePlace(const std::string& name) {
-  reader_.form.Slots().WriteRecord(kBookmark, name, reader_.Book(), reader_.Chapter());
+  reader::WriteBookmarkRecord(reader_.form.Slots(), kBookmark, {name, reader_.Book(), reader_.Chapter()});
 }
 
 void Bookmarks::Command10_Click() {
@@ -101,9 +97,7 @@ void Bookmarks::Command10_Click() {
   WritePlace(name);
   slots.Close(kBookmark);
   File1.Refresh();
-  reader_.LBLMRK(0).Caption = name;
-  reader_.LBLMRK(1).Caption = reader_.Book();
-  reader_.LBLMRK(2).Caption = reader_.Chapter();
+  reader_.TakeBookmark({name, reader_.Book(), reader_.Chapter()});
 }
 
 // ODDITY(update-by-label): the file is the one that the label names. With no bookmark in hand that is
@@ -135,7 +129,7 @@ void Bookmarks::Command5_Click() {
 void Bookmarks::Command7_Click() { Leave(); }
 
 void Bookmarks::Leave() {
-  panels_.Picture1.Visible = false;
+  Picture1_.Visible = false;
   tools_.Enable();
 }
 

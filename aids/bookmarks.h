@@ -6,8 +6,8 @@
 #include "forms/buttons.h"
 #include "forms/folder_lists.h"
 #include "forms/label.h"
-#include "reader/menus.h"
-#include "reader/panels.h"
+#include "forms/menu.h"
+#include "forms/picture_box.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 
@@ -15,28 +15,30 @@ namespace lectern::aids {
 
 class Bookmarks {
   reader::Reader& reader_;
-  reader::Panels& panels_;
+  forms::PictureBox& Picture1_;
+  forms::PictureBox& Picture2_;
+  forms::PictureBox& picp_;
   reader::ToolButtons& tools_;
 
  public:
-  Bookmarks(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-            reader::Menus& menus);
+  Bookmarks(reader::Reader& the_reader, forms::PictureBox& Picture1, forms::PictureBox& Picture2,
+            forms::PictureBox& picp, reader::ToolButtons& the_tools, forms::Menu& xb);
 
   // Label19(3), the heading.
-  forms::Label Label19_3{panels_.Picture1, "Label19", {.caption = "BOOK MARKER"}};
-  forms::Label C_4{panels_.Picture1, "C", {.caption = "Chapter"}};  // C(4), stands before the chapter
+  forms::Label Label19_3{Picture1_, "Label19", {.caption = "BOOK MARKER"}};
+  forms::Label C_4{Picture1_, "C", {.caption = "Chapter"}};  // C(4), stands before the chapter
   // The stored bookmarks.
-  forms::FileListBox File1{panels_.Picture1, "File1", {.name = "Bookmarks", .pattern = "*.bkm"}};
+  forms::FileListBox File1{Picture1_, "File1", {.name = "Bookmarks", .pattern = "*.bkm"}};
   // Opens the chosen bookmark.
-  forms::CommandButton Command5{panels_.Picture1, "Command5", {.caption = "Open", .is_default = true}};
+  forms::CommandButton Command5{Picture1_, "Command5", {.caption = "Open", .is_default = true}};
   // Stores the place under the bookmark's name.
-  forms::CommandButton Command6{panels_.Picture1, "Command6", {.caption = "Update"}};
+  forms::CommandButton Command6{Picture1_, "Command6", {.caption = "Update"}};
   // Stores the place under a new name.
-  forms::CommandButton Command10{panels_.Picture1, "Command10", {.caption = "New"}};
+  forms::CommandButton Command10{Picture1_, "Command10", {.caption = "New"}};
   // Deletes the chosen bookmark.
-  forms::CommandButton Command11{panels_.Picture1, "Command11", {.caption = "Delete"}};
+  forms::CommandButton Command11{Picture1_, "Command11", {.caption = "Delete"}};
   // Closes the panel.
-  forms::CommandButton Command7{panels_.Picture1, "Command7", {.caption = "Close", .is_cancel = true}};
+  forms::CommandButton Command7{Picture1_, "Command7", {.caption = "Close", .is_cancel = true}};
 
  private:
   void Command3_Click();

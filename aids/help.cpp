@@ -17,14 +17,14 @@ constexpr std::string_view kDefaultHost = "www.example.org";
 
 }  // namespace
 
-Help::Help(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-           reader::Menus& menus)
-    : reader_(the_reader), panels_(the_panels), tools_(the_tools) {
+Help::Help(reader::Reader& the_reader, forms::PictureBox& frmhelp, reader::ToolButtons& the_tools,
+           forms::Menu& xh2, forms::Menu& aboutlt, forms::Menu& webb1, forms::Menu& webb2)
+    : reader_(the_reader), frmhelp_(frmhelp), tools_(the_tools) {
   Label19_4.PutInArray(4);
-  menus.xh2.Click = [this] { xh2_Click(); };
-  menus.aboutlt.Click = [this] { aboutlt_Click(); };
-  menus.webb1.Click = [this] { webb1_Click(); };
-  menus.webb2.Click = [this] { webb2_Click(); };
+  xh2.Click = [this] { xh2_Click(); };
+  aboutlt.Click = [this] { aboutlt_Click(); };
+  webb1.Click = [this] { webb1_Click(); };
+  webb2.Click = [this] { webb2_Click(); };
   lblhp.ForEach(
       [this](int index, forms::Label& label) { label.Click = [this, index] { lblhp_Click(index); }; });
   Command4.Click = [this] { Command4_Click(); };
@@ -51,7 +51,7 @@ void Help::LeaveAbout() {
   txthelp.FontSize.EditInPlace([](double& points) { points = 0; });
 }
 
-void Help::xh2_Click() { panels_.frmhelp.Visible = true; }
+void Help::xh2_Click() { frmhelp_.Visible = true; }
 
 void Help::lblhp_Click(int index) {
   if (index < 0 || index >= static_cast<int>(kTopicFiles.size())) return;
@@ -61,10 +61,10 @@ void Help::lblhp_Click(int index) {
 
 // ODDITY(help-close-unlocks): one of the two Close buttons enables the tool buttons, also where another open
 // panel has disabled them; it is meant.
-void Help::Command4_Click() { panels_.frmhelp.Visible = false; }
+void Help::Command4_Click() { frmhelp_.Visible = false; }
 
 void Help::Command44_Click() {
-  panels_.frmhelp.Visible = false;
+  frmhelp_.Visible = false;
   tools_.Enable();
 }
 
@@ -82,7 +82,7 @@ bool Help::OpenWebPage(const std::string& address) {
 }
 
 void Help::ShowNote(const std::string& text) {
-  panels_.frmhelp.Visible = true;
+  frmhelp_.Visible = true;
   ShowText(text);
 }
 

@@ -7,10 +7,10 @@
 
 #include "forms/buttons.h"
 #include "forms/label.h"
+#include "forms/menu.h"
+#include "forms/picture_box.h"
 #include "forms/rich_text_box.h"
 #include "forms/timer.h"
-#include "reader/menus.h"
-#include "reader/panels.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 
@@ -18,13 +18,13 @@ namespace lectern::aids {
 
 class Help {
   reader::Reader& reader_;
-  reader::Panels& panels_;
+  forms::PictureBox& frmhelp_;
   reader::ToolButtons& tools_;
   static constexpr forms::Colour kLink = forms::Rgb(28, 84, 150);
 
  public:
-  Help(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-       reader::Menus& menus);
+  Help(reader::Reader& the_reader, forms::PictureBox& frmhelp, reader::ToolButtons& the_tools,
+       forms::Menu& xh2, forms::Menu& aboutlt, forms::Menu& webb1, forms::Menu& webb2);
 
   // Hands an address to the default browser; whether it was accepted. One that does not begin with "http"
   // is replaced as a whole.
@@ -36,9 +36,9 @@ class Help {
   // The stored note on changing the book, in the pane, whether or not the panel is open.
   void HelpChangingBook();
 
-  forms::Label Label19_4{panels_.frmhelp, "Label19", {.caption = "HELP"}};  // Label19(4), the heading
+  forms::Label Label19_4{frmhelp_, "Label19", {.caption = "HELP"}};  // Label19(4), the heading
   // The topics.
-  forms::ControlArray<forms::Label> lblhp{panels_.frmhelp,
+  forms::ControlArray<forms::Label> lblhp{frmhelp_,
                                           "lblhp",
                                           {{.caption = "Book Mark", .fore_color = kLink},
                                            {.caption = "Search", .fore_color = kLink},
@@ -49,12 +49,12 @@ class Help {
                                            {.caption = "Trivia", .fore_color = kLink},
                                            {.caption = "Paint", .fore_color = kLink}}};
   // Text of the topic.
-  forms::RichTextBox txthelp{panels_.frmhelp, "txthelp", {.name = "Help text", .read_only = true}};
+  forms::RichTextBox txthelp{frmhelp_, "txthelp", {.name = "Help text", .read_only = true}};
   // Closes the panel.
-  forms::CommandButton Command4{panels_.frmhelp, "Command4", {.caption = "Close", .is_cancel = true}};
+  forms::CommandButton Command4{frmhelp_, "Command4", {.caption = "Close", .is_cancel = true}};
   // Closes the panel and unlocks the tool buttons.
   forms::CommandButton Command44{
-      panels_.frmhelp, "Command44", {.caption = "Close", .name = "Close, and unlock the tool buttons"}};
+      frmhelp_, "Command44", {.caption = "Close", .name = "Close, and unlock the tool buttons"}};
   forms::Timer Timer1{reader_.form, "Timer1"};  // never ticks
 
  private:

@@ -4,11 +4,11 @@
 
 namespace lectern::aids {
 
-NotesDoors::NotesDoors(reader::Panels& panels, reader::ToolButtons& tools, reader::Menus& menus,
+NotesDoors::NotesDoors(forms::PictureBox& picp, reader::ToolButtons& tools, forms::Menu& cc0,
                        std::function<Notes&()> notes) {
-  menus.cc0.Click = [notes] { notes().Open(); };
-  tools.Command14.Click = [notes = std::move(notes), &panels] {
-    panels.picp.Visible = false;
+  cc0.Click = [notes] { notes().Open(); };
+  tools.Command14.Click = [notes = std::move(notes), &picp] {
+    picp.Visible = false;
     notes().Open();
   };
 }

@@ -4,8 +4,8 @@
 #include <functional>
 
 #include "aids/notes.h"
-#include "reader/menus.h"
-#include "reader/panels.h"
+#include "forms/menu.h"
+#include "forms/picture_box.h"
 #include "reader/tool_buttons.h"
 
 namespace lectern::aids {
@@ -13,7 +13,7 @@ namespace lectern::aids {
 class NotesDoors {
  public:
   // `notes` makes the window of the notes where there is none yet.
-  NotesDoors(reader::Panels& panels, reader::ToolButtons& tools, reader::Menus& menus,
+  NotesDoors(forms::PictureBox& picp, reader::ToolButtons& tools, forms::Menu& cc0,
              std::function<Notes&()> notes);
 };
 

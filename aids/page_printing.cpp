@@ -12,9 +12,9 @@ constexpr int kNote = 1;  // slot
 
 }  // namespace
 
-PagePrinting::PagePrinting(reader::Reader& the_reader, reader::Panels& panels,
+PagePrinting::PagePrinting(reader::Reader& the_reader, forms::PictureBox& Picture1,
                            std::function<forms::Window&()> page)
-    : panels_(panels), reader_(the_reader), page_(std::move(page)) {
+    : Picture1_(Picture1), reader_(the_reader), page_(std::move(page)) {
   Command30.Click = [this] { Command30_Click(); };
 }
 

@@ -4,21 +4,21 @@
 #include <functional>
 
 #include "forms/buttons.h"
-#include "reader/panels.h"
+#include "forms/picture_box.h"
 #include "reader/reader.h"
 
 namespace lectern::aids {
 
 class PagePrinting {
-  reader::Panels& panels_;
+  forms::PictureBox& Picture1_;
   reader::Reader& reader_;
 
  public:
   // `page` makes the window of the page where there is none yet.
-  PagePrinting(reader::Reader& the_reader, reader::Panels& panels, std::function<forms::Window&()> page);
+  PagePrinting(reader::Reader& the_reader, forms::PictureBox& Picture1, std::function<forms::Window&()> page);
 
   // Opens the page to print.
-  forms::CommandButton Command30{panels_.Picture1, "Command30", {.caption = "Print Page"}};
+  forms::CommandButton Command30{Picture1_, "Command30", {.caption = "Print Page"}};
 
  private:
   void Command30_Click();

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "base/text/characters.h"
+#include "reader/versions.h"
 
 namespace lectern::gallery {
 
@@ -16,7 +17,7 @@ constexpr int kBook = 3;
 
 }  // namespace
 
-BookConverter::BookConverter(reader::Panels& panels) : panels_(panels), form_(RTB1.HostWindow()) {
+BookConverter::BookConverter(forms::Frame& Frame5) : Frame5_(Frame5), form_(RTB1.HostWindow()) {
   Dir2.Change = [this] { File2.Path = Dir2.Path; };
   Command33.Click = [this] { Command33_Click(); };
 }
@@ -63,8 +64,9 @@ std::string BookConverter::ReadBookName() {
   files::FileSlots& slots = form_.Slots();
   std::string line;
   int passed = 0;
+  const std::string header = "Codex, " + std::string(reader::kVersions[0].name);
   while (!slots.EndOfFile(kSource) && passed < 2) {
-    if (line == "Codex, King James Version") ++passed;
+    if (line == header) ++passed;
     line = slots.ReadLine(kSource);
     if (line.empty()) ++passed;
   }

@@ -15,26 +15,27 @@
 
 #include "forms/buttons.h"
 #include "forms/folder_lists.h"
+#include "forms/frame.h"
 #include "forms/label.h"
 #include "forms/rich_text_box.h"
-#include "reader/panels.h"
+#include "forms/window.h"
 
 namespace lectern::gallery {
 
 class BookConverter {
-  reader::Panels& panels_;
+  forms::Frame& Frame5_;
 
  public:
-  explicit BookConverter(reader::Panels& panels);
+  explicit BookConverter(forms::Frame& Frame5);
 
   // Where the book file goes.
-  forms::DirListBox Dir2{panels_.Frame5, "Dir2", {.name = "Folder for the book file"}};
-  forms::FileListBox File2{panels_.Frame5, "File2", {.name = "Files of that folder"}};  // the files there
-  forms::RichTextBox RTB1{panels_.Frame5, "RTB1", {.name = "Source of the book"}};      // the source
-  forms::RichTextBox RTB2{panels_.Frame5, "RTB2", {.name = "The book file"}};           // the result
-  forms::Label NME{panels_.Frame5, "NME", {.caption = "NME"}};                          // the book's name
+  forms::DirListBox Dir2{Frame5_, "Dir2", {.name = "Folder for the book file"}};
+  forms::FileListBox File2{Frame5_, "File2", {.name = "Files of that folder"}};  // the files there
+  forms::RichTextBox RTB1{Frame5_, "RTB1", {.name = "Source of the book"}};      // the source
+  forms::RichTextBox RTB2{Frame5_, "RTB2", {.name = "The book file"}};           // the result
+  forms::Label NME{Frame5_, "NME", {.caption = "NME"}};                          // the book's name
   // Converts the source.
-  forms::CommandButton Command33{panels_.Frame5, "Command33", {.caption = "CONVERT FILE"}};
+  forms::CommandButton Command33{Frame5_, "Command33", {.caption = "CONVERT FILE"}};
 
  private:
   void Command33_Click();

@@ -14,8 +14,9 @@ constexpr const char* kPastTheList = "end";
 
 }  // namespace
 
-Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, reader::Panels& the_panels)
-    : catalogue_(the_catalogue), viewer_(the_viewer), panels_(the_panels) {
+Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, forms::PictureBox& Picture5,
+                 forms::PictureBox& picp)
+    : catalogue_(the_catalogue), viewer_(the_viewer), Picture5_(Picture5), picp_(picp) {
   catalogue_.lblendpic.Change = [this] { lblendpic_Change(); };
   imgp.ForEach([this](int slot, forms::Image& image) {
     image.BorderStyle = 1;
@@ -92,7 +93,7 @@ void Browser::imgp_Click(int slot) {
     ignore([&] { viewer_.lblvs.Caption = catalogue_.selfile(1).Text; });
     ignore([&] { viewer_.pick.Picture = imgp(0).Picture; });
   }
-  ignore([&] { panels_.picp.Visible = true; });
+  ignore([&] { picp_.Visible = true; });
 }
 
 }  // namespace lectern::gallery

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "forms/image.h"
+#include "forms/picture_box.h"
 #include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"
 
@@ -20,19 +21,20 @@ inline constexpr forms::Colour kUnpickedColour = forms::kButtonText;
 class Browser {
   PictureCatalogue& catalogue_;
   Viewer& viewer_;
-  reader::Panels& panels_;
+  forms::PictureBox& Picture5_;
+  forms::PictureBox& picp_;
 
  public:
-  Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, reader::Panels& the_panels);
+  Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, forms::PictureBox& Picture5,
+          forms::PictureBox& picp);
 
   // Takes the mark from whichever picture is picked.
   void ResetPictureLabels();
 
   // To the page before.
-  forms::SSCommand SSCommand4{
-      panels_.Picture5, "SSCommand4", {.caption = "‹", .name = "Pictures before these"}};
+  forms::SSCommand SSCommand4{Picture5_, "SSCommand4", {.caption = "‹", .name = "Pictures before these"}};
   // The slots, left to right.
-  forms::ControlArray<forms::Image> imgp{panels_.Picture5,
+  forms::ControlArray<forms::Image> imgp{Picture5_,
                                          "imgp",
                                          {{.name = "First picture on the strip", .stretch = true},
                                           {.name = "Second picture on the strip", .stretch = true},
@@ -40,10 +42,9 @@ class Browser {
                                           {.name = "Fourth picture on the strip", .stretch = true},
                                           {.name = "Fifth picture on the strip", .stretch = true}}};
   // 0 to 4 below the slots, 5 to 9 above them.
-  forms::ControlArray<forms::Label> lblp{panels_.Picture5, "lblp", 2 * kSlotsOnPage};
+  forms::ControlArray<forms::Label> lblp{Picture5_, "lblp", 2 * kSlotsOnPage};
   // To the next page.
-  forms::SSCommand SSCommand3{
-      panels_.Picture5, "SSCommand3", {.caption = "›", .name = "Pictures after these"}};
+  forms::SSCommand SSCommand3{Picture5_, "SSCommand3", {.caption = "›", .name = "Pictures after these"}};
 
  private:
   void lblendpic_Change();

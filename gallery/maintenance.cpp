@@ -14,11 +14,16 @@ constexpr int kRemoved = 3;
 
 }  // namespace
 
-Maintenance::Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, reader::Panels& the_panels)
-    : catalogue_(the_catalogue), browser_(the_browser), panels_(the_panels), reader_(catalogue_.reader) {
+Maintenance::Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, forms::Frame& Frame5,
+                         forms::Frame& Frame6)
+    : catalogue_(the_catalogue),
+      browser_(the_browser),
+      Frame5_(Frame5),
+      Frame6_(Frame6),
+      reader_(catalogue_.reader) {
   catalogue_.Dirpics.Change = [this] { File3.Path = catalogue_.Dirpics.Path; };
-  Command26.Click = [this] { panels_.Frame5.Visible = true; };
-  Command46.Click = [this] { panels_.Frame5.Visible = false; };
+  Command26.Click = [this] { Frame5_.Visible = true; };
+  Command46.Click = [this] { Frame5_.Visible = false; };
   Label2.Click = [this] { HelpChangingBook(); };
   Command49.Click = [this] { Command49_Click(); };
   Command45.Click = [this] { Command45_Click(); };

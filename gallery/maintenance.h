@@ -13,6 +13,7 @@
 #include <functional>
 #include <string>
 
+#include "forms/frame.h"
 #include "gallery/browser.h"
 
 namespace lectern::gallery {
@@ -20,39 +21,38 @@ namespace lectern::gallery {
 class Maintenance {
   PictureCatalogue& catalogue_;
   Browser& browser_;
-  reader::Panels& panels_;
+  forms::Frame& Frame5_;
+  forms::Frame& Frame6_;
   reader::Reader& reader_;
 
  public:
-  Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, reader::Panels& the_panels);
+  Maintenance(PictureCatalogue& the_catalogue, Browser& the_browser, forms::Frame& Frame5,
+              forms::Frame& Frame6);
 
   // Writes the help's note on changing books into the help pane; the window that owns both joins it.
   std::function<void()> HelpChangingBook = [] {};
 
-  forms::CommandButton Command26{panels_.Frame5, "Command26", {.caption = "pictures"}};  // shows the panel
+  forms::CommandButton Command26{Frame5_, "Command26", {.caption = "pictures"}};  // shows the panel
   // Shows the help on changing books.
-  forms::Label Label2{panels_.Frame5, "Label2", {.caption = "pictures"}};
+  forms::Label Label2{Frame5_, "Label2", {.caption = "pictures"}};
   // Before the boxes of the picked record.
   forms::ControlArray<forms::Label> Label3{
-      panels_.Frame5,
-      "Label3",
-      {{.caption = "Name"}, {.caption = "Book Chapter: Verce"}, {.caption = "Author"}}};
+      Frame5_, "Label3", {{.caption = "Name"}, {.caption = "Book Chapter: Verce"}, {.caption = "Author"}}};
   // Files of the pictures.
-  forms::FileListBox File3{panels_.Frame6, "File3", {.name = "Files of the pictures"}};
+  forms::FileListBox File3{Frame6_, "File3", {.name = "Files of the pictures"}};
   // Moves the picked picture towards the start.
-  forms::SSCommand SSCommand1{
-      panels_.Frame5, "SSCommand1", {.caption = "‹", .name = "Move towards the start"}};
+  forms::SSCommand SSCommand1{Frame5_, "SSCommand1", {.caption = "‹", .name = "Move towards the start"}};
   // Moves it towards the end.
-  forms::SSCommand SSCommand2{panels_.Frame5, "SSCommand2", {.caption = "›", .name = "Move towards the end"}};
+  forms::SSCommand SSCommand2{Frame5_, "SSCommand2", {.caption = "›", .name = "Move towards the end"}};
   // Adds a picture to the catalogue.
-  forms::CommandButton Command49{panels_.Frame5, "Command49", {.caption = "Add 2 Picture File"}};
+  forms::CommandButton Command49{Frame5_, "Command49", {.caption = "Add 2 Picture File"}};
   // Removes a duplicate.
-  forms::CommandButton Command45{panels_.Frame5, "Command45", {.caption = "Remove Duplicate"}};
+  forms::CommandButton Command45{Frame5_, "Command45", {.caption = "Remove Duplicate"}};
   // Removes every record of the picture.
-  forms::CommandButton Command47{panels_.Frame5, "Command47", {.caption = "Remove All"}};
-  forms::CommandButton Command48{panels_.Frame5, "Command48", {.name = "No action"}};  // does nothing
+  forms::CommandButton Command47{Frame5_, "Command47", {.caption = "Remove All"}};
+  forms::CommandButton Command48{Frame5_, "Command48", {.name = "No action"}};  // does nothing
   // Closes the panel.
-  forms::CommandButton Command46{panels_.Frame5, "Command46", {.caption = "Close", .is_cancel = true}};
+  forms::CommandButton Command46{Frame5_, "Command46", {.caption = "Close", .is_cancel = true}};
 
  private:
   void Command49_Click();

@@ -12,8 +12,8 @@ constexpr int kEmpty = 2;  // slot
 
 }  // namespace
 
-OlderList::OlderList(PictureCatalogue& the_catalogue, reader::Panels& panels)
-    : panels_(panels), catalogue_(the_catalogue), reader_(catalogue_.reader) {
+OlderList::OlderList(PictureCatalogue& the_catalogue, forms::Frame& Frame5, forms::Frame& Frame6)
+    : Frame5_(Frame5), Frame6_(Frame6), catalogue_(the_catalogue), reader_(catalogue_.reader) {
   Command40.Click = [this] { Command40_Click(); };
 }
 

@@ -3,25 +3,27 @@
 // calls, can start the slide show.
 #pragma once
 
+#include "forms/frame.h"
 #include "gallery/picture_catalogue.h"
 
 namespace lectern::gallery {
 
 class OlderList {
-  reader::Panels& panels_;
+  forms::Frame& Frame5_;
+  forms::Frame& Frame6_;
   PictureCatalogue& catalogue_;
   reader::Reader& reader_;
 
  public:
-  OlderList(PictureCatalogue& the_catalogue, reader::Panels& panels);
+  OlderList(PictureCatalogue& the_catalogue, forms::Frame& Frame5, forms::Frame& Frame6);
 
   void ListChapterPictures();
 
-  forms::CommandButton Command40{panels_.Frame5, "Command40", {.caption = "list?"}};  // fills the two lists
+  forms::CommandButton Command40{Frame5_, "Command40", {.caption = "list?"}};  // fills the two lists
   // The book's pictures.
-  forms::ListBox List4{panels_.Frame6, "List4", {.name = "Older list of the book's pictures"}};
+  forms::ListBox List4{Frame6_, "List4", {.name = "Older list of the book's pictures"}};
   // The chapter's pictures.
-  forms::ListBox List5{panels_.Frame6, "List5", {.name = "Older list of the chapter's pictures"}};
+  forms::ListBox List5{Frame6_, "List5", {.name = "Older list of the chapter's pictures"}};
 
  private:
   void Command40_Click();

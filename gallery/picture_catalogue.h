@@ -14,8 +14,10 @@
 
 #include "forms/buttons.h"
 #include "forms/folder_lists.h"
+#include "forms/frame.h"
 #include "forms/label.h"
 #include "forms/list_box.h"
+#include "forms/picture_box.h"
 #include "forms/scroll_bar.h"
 #include "forms/text_box.h"
 #include "gallery/picture_record.h"
@@ -24,11 +26,14 @@
 namespace lectern::gallery {
 
 class PictureCatalogue {
-  reader::Panels& panels_;
+  forms::Frame& Frame5_;
+  forms::Frame& Frame6_;
+  forms::PictureBox& picp_;
 
  public:
-  PictureCatalogue(reader::Reader& the_reader, reader::Panels& panels)
-      : panels_(panels), reader(the_reader) {}
+  PictureCatalogue(reader::Reader& the_reader, forms::Frame& Frame5, forms::Frame& Frame6,
+                   forms::PictureBox& picp)
+      : Frame5_(Frame5), Frame6_(Frame6), picp_(picp), reader(the_reader) {}
 
   // Fills the lists with the pictures of the book that is open: to be called when the book or `pics2.dat` has
   // changed. The strip is then on its first page. Shows no failure.
@@ -58,21 +63,21 @@ class PictureCatalogue {
   reader::Reader& reader;
 
   // Name, place and author, index by index.
-  forms::ControlArray<forms::ListBox> lstmc{panels_.Frame6,
+  forms::ControlArray<forms::ListBox> lstmc{Frame6_,
                                             "lstmc",
                                             {{.name = "Names of the book's pictures"},
                                              {.name = "Places of the book's pictures"},
                                              {.name = "Authors of the book's pictures"}}};
-  forms::Label lbltm{panels_.Frame6, "lbltm"};  // the highest chapter with a picture
+  forms::Label lbltm{Frame6_, "lbltm"};  // the highest chapter with a picture
   // The record picked last: name, place, author.
   forms::ControlArray<forms::TextBox> selfile{
-      panels_.Frame5, "selfile", {{.name = "Name"}, {.name = "Place"}, {.name = "Author"}}};
+      Frame5_, "selfile", {{.name = "Name"}, {.name = "Place"}, {.name = "Author"}}};
   // The folder of the pictures.
-  forms::DirListBox Dirpics{panels_.Frame6, "Dirpics", {.name = "Folder of the pictures"}};
+  forms::DirListBox Dirpics{Frame6_, "Dirpics", {.name = "Folder of the pictures"}};
   // Index of the last slot on the strip's page.
-  forms::Label lblendpic{panels_.Frame5, "lblendpic", {.caption = "lblendpic"}};
+  forms::Label lblendpic{Frame5_, "lblendpic", {.caption = "lblendpic"}};
   // Index of the viewer's picture.
-  forms::HScrollBar picnm{panels_.picp, "picnm", {.name = "Picture of the book"}};
+  forms::HScrollBar picnm{picp_, "picnm", {.name = "Picture of the book"}};
 
  private:
   void ExtractBookPictures();

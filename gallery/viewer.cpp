@@ -4,8 +4,8 @@
 
 namespace lectern::gallery {
 
-Viewer::Viewer(PictureCatalogue& the_catalogue, reader::Panels& the_panels)
-    : catalogue_(the_catalogue), reader_(catalogue_.reader), panels_(the_panels) {
+Viewer::Viewer(PictureCatalogue& the_catalogue, forms::PictureBox& picp)
+    : catalogue_(the_catalogue), reader_(catalogue_.reader), picp_(picp) {
   pick.BorderStyle = 1;
   catalogue_.picnm.Change = [this] { picnm_Change(); };
   reader_.tmrpic.Tick = [this] { tmrpic_Timer(); };
@@ -45,7 +45,7 @@ void Viewer::tmrpb_Timer() {
 
 void Viewer::Command37_Click() {
   reader_.tmrpic.Enabled = false;
-  panels_.picp.Visible = false;
+  picp_.Visible = false;
 }
 
 }  // namespace lectern::gallery

@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "forms/image.h"
+#include "forms/picture_box.h"
 #include "forms/timer.h"
 #include "gallery/picture_catalogue.h"
 
@@ -16,23 +17,23 @@ namespace lectern::gallery {
 class Viewer {
   PictureCatalogue& catalogue_;
   reader::Reader& reader_;
-  reader::Panels& panels_;
+  forms::PictureBox& picp_;
 
  public:
-  Viewer(PictureCatalogue& the_catalogue, reader::Panels& the_panels);
+  Viewer(PictureCatalogue& the_catalogue, forms::PictureBox& picp);
 
   // Opens the paint window on the picture that is shown; the window that owns both joins it.
   std::function<void()> OpenPaint = [] {};
 
-  forms::Label LBLPICP{panels_.picp, "LBLPICP"};  // the picture's name
-  forms::Label lblvs{panels_.picp, "lblvs"};      // its place
+  forms::Label LBLPICP{picp_, "LBLPICP"};  // the picture's name
+  forms::Label lblvs{picp_, "lblvs"};      // its place
   // The picture, stretched whatever its proportions.
-  forms::Image pick{panels_.picp, "pick", {.name = "The picture", .stretch = true}};
+  forms::Image pick{picp_, "pick", {.name = "The picture", .stretch = true}};
   // Opens the picture in paint.
-  forms::CommandButton Command32{panels_.picp, "Command32", {.caption = "Paint"}};
+  forms::CommandButton Command32{picp_, "Command32", {.caption = "Paint"}};
   // Closes the panel.
-  forms::CommandButton Command37{panels_.picp, "Command37", {.caption = "Close Pictures", .is_cancel = true}};
-  forms::Timer tmrpb{panels_.picp, "tmrpb", {.enabled = false, .interval = 3000}};  // nothing enables it
+  forms::CommandButton Command37{picp_, "Command37", {.caption = "Close Pictures", .is_cancel = true}};
+  forms::Timer tmrpb{picp_, "tmrpb", {.enabled = false, .interval = 3000}};  // nothing enables it
 
  private:
   void picnm_Change();

@@ -44,7 +44,8 @@ void PictureSaving::Command2_Click() {
     place = name;
     files::FileSlots& slots = form_.Slots();
     slots.OpenForAppending(kCatalogue, gallery_.CatalogueFile());
-    slots.WriteRecord(kCatalogue, name, gallery_.selfile(1).Text(), gallery_.selfile(2).Text());
+    gallery::WritePictureRecord(slots, kCatalogue,
+                                {name, gallery_.selfile(1).Text(), gallery_.selfile(2).Text()});
     slots.Close(kCatalogue);
   }
   form_.SavePictureKeepingBackup(canvas_.picbox.Picture, gallery_.reader.DataFile("pics\\" + name + ".JPG"));
@@ -60,9 +61,7 @@ bool PictureSaving::IsInCatalogue(const std::string& name) {
   slots.OpenForReading(kCatalogue, gallery_.CatalogueFile());
   bool found = false;
   while (!found && !slots.EndOfFile(kCatalogue)) {
-    found = slots.ReadField(kCatalogue) == name;
-    slots.ReadField(kCatalogue);
-    slots.ReadField(kCatalogue);
+    found = gallery::ReadPictureRecord(slots, kCatalogue).name == name;
   }
   slots.Close(kCatalogue);
   return found;

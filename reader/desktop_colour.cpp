@@ -1,6 +1,9 @@
 #include "reader/desktop_colour.h"
 
+#include <utility>
+
 #include "base/text/numbers.h"
+#include "forms/window.h"
 
 namespace lectern::reader {
 
@@ -28,7 +31,8 @@ constexpr Swatch kSwatches[] = {
 
 }  // namespace
 
-DesktopColour::DesktopColour(Panels& the_panels) : panels_(the_panels) {
+DesktopColour::DesktopColour(forms::PictureBox& Picture23, std::vector<forms::PlacedControl*> coloured)
+    : Picture23_(Picture23), coloured_(std::move(coloured)) {
   for (const Swatch& swatch : kSwatches) {
     forms::PictureBox& box = swatches_.emplace_back(
         Picture24, swatch.control, forms::PictureBoxDesign{.name = swatch.name, .back_color = swatch.colour});
@@ -39,7 +43,7 @@ DesktopColour::DesktopColour(Panels& the_panels) : panels_(the_panels) {
 void DesktopColour::Swatch_Click(forms::PictureBox& swatch) {
   ChosenColour = std::to_string(swatch.BackColor);
   if (Option3.Value) {
-    panels_.Picture23.HostWindow().BackColor = text::ToLong(ChosenColour);
+    Picture23_.HostWindow().BackColor = text::ToLong(ChosenColour);
   } else {
     ApplyDesktopColour();
   }
@@ -47,11 +51,7 @@ void DesktopColour::Swatch_Click(forms::PictureBox& swatch) {
 
 // ODDITY(front-colour): what is called the front colour is the background of the panels; it is meant.
 void DesktopColour::ApplyDesktopColour() {
-  for (forms::PlacedControl* panel : std::initializer_list<forms::PlacedControl*>{
-           &panels_.Picture23, &panels_.frmc, &panels_.frmd, &panels_.Picture17, &panels_.frmhelp,
-           &panels_.frms, &panels_.frmscale, &panels_.FRMMARK}) {
-    panel->BackColor = text::ToLong(ChosenColour);
-  }
+  for (forms::PlacedControl* panel : coloured_) panel->BackColor = text::ToLong(ChosenColour);
 }
 
 }  // namespace lectern::reader

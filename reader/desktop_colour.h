@@ -4,27 +4,29 @@
 
 #include <deque>
 #include <string>
+#include <vector>
 
 #include "forms/buttons.h"
 #include "forms/picture_box.h"
-#include "reader/panels.h"
 
 namespace lectern::reader {
 
 class DesktopColour {
  public:
-  explicit DesktopColour(Panels& the_panels);
+  // `coloured` is what the panels' colour goes to.
+  DesktopColour(forms::PictureBox& Picture23, std::vector<forms::PlacedControl*> coloured);
 
  private:
   void Swatch_Click(forms::PictureBox& swatch);
   void ApplyDesktopColour();
 
-  Panels& panels_;
+  forms::PictureBox& Picture23_;
+  std::vector<forms::PlacedControl*> coloured_;
   // Colours the panels; set at the start.
-  forms::OptionButton Option2{panels_.Picture23, "Option2", {.caption = "Front Color", .checked = true}};
+  forms::OptionButton Option2{Picture23_, "Option2", {.caption = "Front Color", .checked = true}};
   // Colours the window.
-  forms::OptionButton Option3{panels_.Picture23, "Option3", {.caption = "Back Color"}};
-  forms::PictureBox Picture24{panels_.Picture23, "Picture24", {.name = "Colours"}};  // holds the swatches
+  forms::OptionButton Option3{Picture23_, "Option3", {.caption = "Back Color"}};
+  forms::PictureBox Picture24{Picture23_, "Picture24", {.name = "Colours"}};  // holds the swatches
   std::deque<forms::PictureBox> swatches_;
   std::string ChosenColour;  // a colour number as text, signed
 };

@@ -11,29 +11,25 @@ constexpr int kSettings = 1;  // slot
 
 }  // namespace
 
-Exits::Exits(Reader& the_reader, Menus& the_menus, ToolButtons& tools, SettingTexts the_settings)
-    : reader_(the_reader), menus_(the_menus), settings_(the_settings) {
+Exits::Exits(Reader& the_reader, Settings& the_settings, ToolButtons& tools, forms::Menu& xx,
+             forms::Menu& oo12)
+    : reader_(the_reader), settings_(the_settings), oo12_(oo12) {
   tools.Command1.Click = [this] { Command1_Click(); };
-  menus_.xx.Click = [this] { xx_Click(); };
-  menus_.oo12.Click = [this] { oo12_Click(); };
+  xx.Click = [this] { xx_Click(); };
+  oo12.Click = [this] { oo12_Click(); };
 }
 
 void Exits::Command1_Click() {
   const base::Ignoring ignore;
-  files::FileSlots& slots = reader_.form.Slots();
-  if (menus_.oo12.Checked) {
+  if (oo12_.Checked) {
     ignore([&] { reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("CODEX.CFG")); });
-    ignore([&] { slots.OpenForAppending(kSettings, reader_.DataFile("codex.cfg")); });
-    ignore([&] {
-      slots.WriteRecord(kSettings, settings_.Combo1.Text(), settings_.Combo2.Text(), settings_.Combo3.Text());
-    });
-    ignore([&] { slots.Close(kSettings); });
+    ignore([&] { settings_.AppendRecord(); });
   }
   throw base::ProgramEnd{};
 }
 
 void Exits::xx_Click() {
-  if (menus_.oo12.Checked) {
+  if (oo12_.Checked) {
     reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("CODEX.CFG"));
     reader_.form.Slots().OpenForAppending(kSettings, reader_.DataFile("codex.cfg"));
     // ODDITY(menu-exit-loses-settings): the first field of the record is a colour of something that does
@@ -43,7 +39,7 @@ void Exits::xx_Click() {
   throw base::ProgramEnd{};
 }
 
-void Exits::oo12_Click() { menus_.oo12.Checked = !menus_.oo12.Checked; }
+void Exits::oo12_Click() { oo12_.Checked = !oo12_.Checked; }
 
 void Exits::Form_Unload() { throw base::ProgramEnd{}; }
 

@@ -1,25 +1,18 @@
-// The ways out. The exit button saves the font settings; the exit entry of the menu means to, in an older
-// layout, and fails; the window's close box saves nothing. All end the program at once: no other window is
+// The ways out. The exit button saves the font settings; the exit entry of the menu tries to, in an older
+// layout, and fails; the window's close box saves nothing. Each ends the program at once: no other window is
 // asked, and no handler runs any more.
 #pragma once
 
-#include "forms/combo_box.h"
-#include "reader/menus.h"
+#include "forms/menu.h"
 #include "reader/reader.h"
+#include "reader/settings.h"
 #include "reader/tool_buttons.h"
 
 namespace lectern::reader {
 
-// The texts of the settings panel that are saved: font, size, style.
-struct SettingTexts {
-  forms::ComboBox& Combo1;
-  forms::ComboBox& Combo2;
-  forms::ComboBox& Combo3;
-};
-
 class Exits {
  public:
-  Exits(Reader& the_reader, Menus& the_menus, ToolButtons& tools, SettingTexts the_settings);
+  Exits(Reader& the_reader, Settings& the_settings, ToolButtons& tools, forms::Menu& xx, forms::Menu& oo12);
 
   [[noreturn]] void Form_Unload();
 
@@ -29,8 +22,8 @@ class Exits {
   void oo12_Click();
 
   Reader& reader_;
-  Menus& menus_;
-  SettingTexts settings_;
+  Settings& settings_;
+  forms::Menu& oo12_;  // whether the settings are saved
 };
 
 }  // namespace lectern::reader

@@ -11,14 +11,15 @@
 
 namespace lectern::reader {
 
-Reader::Reader(forms::Window& window, Panels& panels)
-    : panels_(panels), search_panel_(panels.frms), form(window) {
+Reader::Reader(forms::Window& window, forms::Frame& frms, forms::PictureBox& Picture1, forms::Frame& Frame1)
+    : frms_(frms), Picture1_(Picture1), Frame1_(Frame1), form(window) {
   lblc.Change = [this] { lblc_Change(); };
   lblbk.Change = [this] { lblbk_Change(); };
   lst.Click = [this] { lst_Click(); };
   scr.Change = [this] { scr_Change(); };
-  optk.Click = [this] { ChangeVersion(kVersions[0]); };
-  optn.Click = [this] { ChangeVersion(kVersions[1]); };
+  for (std::size_t i = 0; i < kVersions.size(); ++i) {
+    versions_.options[i].Click = [this, i] { ChangeVersion(kVersions[i]); };
+  }
   List1.DblClick = [this] { List1_DblClick(); };
   List1.KeyDown = [this](int code) {
     if (code == forms::kEnterKey) List1_DblClick();
@@ -30,9 +31,6 @@ std::string Reader::DataFile(std::string_view name) const { return (Dir1.Path + 
 std::string Reader::BookFile(std::string_view stem) const {
   return (Dir3.Path + "\\").append(CurrentVersion().prefix).append(stem).append(".txt");
 }
-
-// Only the first option is ever read.
-const Version& Reader::CurrentVersion() const { return kVersions[optk.Value ? 0 : 1]; }
 
 FoundReference Reader::Find(std::string_view typed) const {
   using Missing = FoundReference::Missing;
@@ -76,7 +74,7 @@ void Reader::lblbk_Change() {
   lblbk.Visible = true;
   const base::Ignoring ignore;
   ignore([&] {
-    if (!search_panel_.Visible) scr.Value = 1;
+    if (!frms_.Visible) scr.Value = 1;
   });
   LoadChapterRange();
   BookChanged();
@@ -143,7 +141,13 @@ void Reader::ShowChapterThenBook(const std::string& book, const std::string& cha
   lblbook.Caption = book;
   lblbk.Caption = book;
   // The name does not go back by itself where the bar stands at 1 or the book was open before.
-  if (!search_panel_.Visible) GoToChapter("1");
+  if (!frms_.Visible) GoToChapter("1");
+}
+
+void Reader::TakeBookmark(const BookmarkRecord& record) {
+  LBLMRK(0).Caption = record.name;
+  LBLMRK(1).Caption = record.book;
+  LBLMRK(2).Caption = record.chapter;
 }
 
 void Reader::RestoreBookmark() {

@@ -20,25 +20,28 @@
 
 #include "forms/buttons.h"
 #include "forms/folder_lists.h"
+#include "forms/frame.h"
 #include "forms/label.h"
 #include "forms/list_box.h"
+#include "forms/picture_box.h"
 #include "forms/rich_text_box.h"
 #include "forms/scroll_bar.h"
 #include "forms/timer.h"
 #include "forms/window.h"
+#include "reader/bookmark_record.h"
 #include "reader/chapter_store.h"
-#include "reader/panels.h"
 #include "reader/reference.h"
 #include "reader/versions.h"
 
 namespace lectern::reader {
 
 class Reader {
-  Panels& panels_;
-  forms::Frame& search_panel_;
+  forms::Frame& frms_;
+  forms::PictureBox& Picture1_;
+  forms::Frame& Frame1_;
 
  public:
-  Reader(forms::Window& window, Panels& panels);
+  Reader(forms::Window& window, forms::Frame& frms, forms::PictureBox& Picture1, forms::Frame& Frame1);
 
   // The position. A jump that is under way leaves the chapter empty for a moment.
   const std::string& Stem() const { return lblbook.Caption; }
@@ -71,6 +74,9 @@ class Reader {
   // follows goes back to chapter 1; only with the search panel open does that text stay.
   void ShowChapterThenBook(const std::string& book, const std::string& chapter);
 
+  // Shows a bookmark as the one in hand, in LBLMRK.
+  void TakeBookmark(const BookmarkRecord& record);
+
   // Goes to the place of the bookmark in hand. Everything follows; chapter 1 of the book loads on the way.
   void RestoreBookmark();
 
@@ -90,7 +96,7 @@ class Reader {
   void ShowGenesis();
 
   // The version that is set.
-  const Version& CurrentVersion() const;
+  const Version& CurrentVersion() const { return versions_.Current(); }
 
   // Reads a reference that a person typed, and looks whether the text of the current version has the place.
   // Of a book with a single chapter the only number is the verse.
@@ -102,22 +108,19 @@ class Reader {
 
   forms::Window& form;
 
-  forms::DirListBox Dir1{panels_.Frame1, "Dir1"};  // the data folder; all paths are built on it
-  forms::DirListBox Dir3{panels_.Frame1, "Dir3"};  // the folder of the version that is set
+  forms::DirListBox Dir1{Frame1_, "Dir1"};  // the data folder; all paths are built on it
+  forms::DirListBox Dir3{Frame1_, "Dir3"};  // the folder of the version that is set
 
-  forms::Label lblbook{form, "lblbook", {.visible = false}};  // stem of the book's file
-  forms::Label lblbk{form, "lblbk"};                          // the book's name as it is shown
-  forms::Label lblc{form, "lblc", {.caption = "00"}};         // the chapter; "" while a jump is under way
-  forms::Label LBLVR{form, "LBLVR", {.caption = "King James Version"}};  // name of the version
-  forms::Label Label30{form, "Label30", {.caption = "Book of"}};         // stands before the book
-  forms::Label Label21{form, "Label21", {.caption = "Chapter"}};         // stands before the chapter
+ private:
+  forms::Label lblbook{form, "lblbook", {.visible = false}};          // stem of the book's file
+  forms::Label lblbk{form, "lblbk"};                                  // the book's name as it is shown
+  forms::Label lblc{form, "lblc", {.caption = "00"}};                 // the chapter
+  forms::Label LBLVR{form, "LBLVR", {.caption = kVersions[0].name}};  // name of the version
+  forms::Label Label30{form, "Label30", {.caption = "Book of"}};      // stands before the book
+  forms::Label Label21{form, "Label21", {.caption = "Chapter"}};      // stands before the chapter
+  VersionOptions versions_{form};
 
-  // First version: the only one of the two that is ever read.
-  forms::OptionButton optk{form, "optk", {.name = "King James Version", .checked = true}};
-  forms::OptionButton optn{form, "optn", {.name = "Revised Standard Version"}};  // second version
-  forms::Label Label34{form, "Label34", {.caption = "KJV"}};  // beside optk: its short name
-  forms::Label Label35{form, "Label35", {.caption = "NEW"}};  // beside optn: its short name
-
+ public:
   forms::ListBox lst{form, "lst", {.name = "Books"}};  // the books, at once names and file stems
   // The chapter.
   forms::HScrollBar scr{form,
@@ -129,13 +132,12 @@ class Reader {
                          .key_back = "Ctrl+PgUp",
                          .key_on = "Ctrl+PgDown"}};
   forms::RichTextBox rtxt{form, "rtxt", {.name = "Text of the chapter", .read_only = true}};  // the text
-  forms::ListBox List1{form, "List1"};  // off the window; nothing fills it
+  forms::ListBox List1{form, "List1"};  // storage: nothing fills it
 
-  // What follows the chapter without being part of the position.
-  // The bookmark in hand: name, book, chapter.
+  // The bookmark in hand: name, book, chapter. The chapter follows the reader.
   forms::ControlArray<forms::Label> LBLMRK{
-      panels_.Picture1, "LBLMRK", {{.caption = "NAME"}, {.caption = "BOOK"}, {.caption = "CHAPTER"}}};
-  // Slide show of the book's pictures.
+      Picture1_, "LBLMRK", {{.caption = "NAME"}, {.caption = "BOOK"}, {.caption = "CHAPTER"}}};
+  // Slide show of the book's pictures, which a change of the chapter stops.
   forms::Timer tmrpic{form, "tmrpic", {.enabled = false, .interval = 5000}};
 
   // Joined by the window: the picture lists for the book that lblbk names, and the picture of a chapter that

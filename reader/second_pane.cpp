@@ -2,8 +2,8 @@
 
 namespace lectern::reader {
 
-SecondPane::SecondPane(Panels& panels) : panels_(panels) {
-  Command34.Click = [&panels] { panels.Picture4.Visible = false; };
+SecondPane::SecondPane(forms::PictureBox& Picture4) : Picture4_(Picture4) {
+  Command34.Click = [&Picture4] { Picture4.Visible = false; };
 }
 
 }  // namespace lectern::reader

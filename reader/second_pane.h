@@ -4,23 +4,22 @@
 
 #include "forms/buttons.h"
 #include "forms/label.h"
+#include "forms/picture_box.h"
 #include "forms/rich_text_box.h"
-#include "reader/panels.h"
 
 namespace lectern::reader {
 
 class SecondPane {
-  Panels& panels_;
+  forms::PictureBox& Picture4_;
 
  public:
-  explicit SecondPane(Panels& panels);
+  explicit SecondPane(forms::PictureBox& Picture4);
 
   // The text.
-  forms::RichTextBox RTXT2{
-      panels_.Picture4, "RTXT2", {.name = "Text of the other version", .read_only = true}};
-  forms::Label Label36{panels_.Picture4, "Label36"};  // name of the version
+  forms::RichTextBox RTXT2{Picture4_, "RTXT2", {.name = "Text of the other version", .read_only = true}};
+  forms::Label Label36{Picture4_, "Label36"};  // name of the version
   // Closes the pane.
-  forms::CommandButton Command34{panels_.Picture4, "Command34", {.caption = "Close", .is_cancel = true}};
+  forms::CommandButton Command34{Picture4_, "Command34", {.caption = "Close", .is_cancel = true}};
 };
 
 }  // namespace lectern::reader

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/error_modes.h"
 #include "base/text/numbers.h"
@@ -36,10 +38,15 @@ void SetStyle(forms::TextControl& control, std::string_view style) {
 
 }  // namespace
 
-Settings::Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pane, Menus& menus,
+Settings::Settings(Reader& the_reader, forms::PictureBox& Picture23,
+                   std::vector<forms::PlacedControl*> coloured, SecondPane& second_pane, forms::Menu& oo11,
                    ToolButtons& the_tools)
-    : reader_(the_reader), panels_(the_panels), tools_(the_tools), RTXT2(second_pane.RTXT2) {
-  menus.oo11.Click = [this] { oo11_Click(); };
+    : reader_(the_reader),
+      Picture23_(Picture23),
+      coloured_(std::move(coloured)),
+      tools_(the_tools),
+      RTXT2(second_pane.RTXT2) {
+  oo11.Click = [this] { oo11_Click(); };
   Combo1.Click = [this] { Combo1_Click(); };
   Combo2.Click = [this] { Combo_Click(); };
   Combo3.Click = [this] { Combo_Click(); };
@@ -47,11 +54,31 @@ Settings::Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pa
   Command24.Click = [this] { Command24_Click(); };
 }
 
+void Settings::PrepareFile() {
+  const base::Ignoring ignore;
+  files::FileSlots& slots = reader_.form.Slots();
+  const std::string path = reader_.DataFile("codex.cfg");
+  ignore([&] { slots.OpenForAppending(kSettings, path); });
+  ignore([&] {
+    constexpr std::uint64_t kShortest = 3;
+    if (reader_.form.Files().Length(path) >= kShortest) return;
+    // ODDITY(default-settings-misread): the default is of an older layout, colour, colour, font and size, and
+    // it is read as font, size and style; it is meant.
+    slots.WriteRecord(kSettings, "&HFF0000", "&H80000005", "Arial", "10");
+  });
+  ignore([&] { slots.Close(kSettings); });
+}
+
+void Settings::AppendRecord() {
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForAppending(kSettings, reader_.DataFile("codex.cfg"));
+  slots.WriteRecord(kSettings, Combo1.Text(), Combo2.Text(), Combo3.Text());
+  slots.Close(kSettings);
+}
+
 void Settings::ReadSettings() {
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForReading(kSettings, reader_.DataFile("codex.cfg"));
-  // ODDITY(default-settings-misread): the record that start-up writes into an empty file is of an older
-  // layout, colour, colour, font and size, and it is read as font, size and style; it is meant.
   const std::string font(slots.ReadField(kSettings));
   const std::string size(slots.ReadField(kSettings));
   const std::string style(slots.ReadField(kSettings));
@@ -117,22 +144,18 @@ void Settings::Combo_Click() {
   ApplyFontToPanes();
 }
 
-void Settings::oo11_Click() { panels_.Picture23.Visible = true; }
+void Settings::oo11_Click() { Picture23_.Visible = true; }
 
 void Settings::Command36_Click() {
-  files::FileSlots& slots = reader_.form.Slots();
-  const std::string path = reader_.DataFile("codex.cfg");
-  reader_.form.Files().DeleteKeepingBackup(path);
-  slots.OpenForAppending(kSettings, path);
-  slots.WriteRecord(kSettings, Combo1.Text(), Combo2.Text(), Combo3.Text());
-  slots.Close(kSettings);
+  reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("codex.cfg"));
+  AppendRecord();
   ReadSettings();
 }
 
 // ODDITY(close-unlocks): opening the panel locks no tool buttons, closing it sets them free all the same,
 // also those that another panel holds locked; it is meant.
 void Settings::Command24_Click() {
-  panels_.Picture23.Visible = false;
+  Picture23_.Visible = false;
   tools_.Enable();
 }
 

@@ -2,17 +2,18 @@
 // pick in one of the boxes shows at once, on two samples and in the panes of text; Save writes the file, and
 // Close takes nothing back.
 //
-// The file's record is font, size and style. Whoever reads it takes the first three fields for these,
-// whatever they are: a style that is none of the four leaves bold and italic alone.
+// The file's record is font, size and style. The first three fields are read as these, whatever they hold: an
+// unknown style leaves bold and italic alone.
 #pragma once
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "forms/combo_box.h"
 #include "forms/label.h"
+#include "forms/menu.h"
 #include "reader/desktop_colour.h"
-#include "reader/menus.h"
 #include "reader/reader.h"
 #include "reader/second_pane.h"
 #include "reader/tool_buttons.h"
@@ -21,24 +22,34 @@ namespace lectern::reader {
 
 class Settings {
   Reader& reader_;
-  Panels& panels_;
+  forms::PictureBox& Picture23_;
+  std::vector<forms::PlacedControl*> coloured_;
   ToolButtons& tools_;
   forms::RichTextBox& RTXT2;
 
  public:
-  Settings(Reader& the_reader, Panels& the_panels, SecondPane& second_pane, Menus& menus,
-           ToolButtons& the_tools);
+  // `coloured` is what a picked colour of the panels goes to.
+  Settings(Reader& the_reader, forms::PictureBox& Picture23, std::vector<forms::PlacedControl*> coloured,
+           SecondPane& second_pane, forms::Menu& oo11, ToolButtons& the_tools);
 
-  // Reads the file, puts its texts into the boxes and applies them. What fails is the caller's: a file that
-  // is missing or too short, and a size that no font can have, which leaves the style behind it untouched.
+  // Sees to it that there is a file: one that is missing, or too short to hold anything, gets the default
+  // record. Shows no failure.
+  void PrepareFile();
+
+  // Reads the file, puts its texts into the boxes and applies them. Errors: those of a
+  // file that is missing or too short, and 380 for a size that no font can have, which leaves the style
+  // alone.
   void ReadSettings();
+
+  // Appends the record of the three boxes to the file.
+  void AppendRecord();
 
   // Joined by the window: shows a pointer over the search button, which waits while a font is tried on.
   std::function<void(int pointer)> PointAtSearchButton = [](int) {};
 
-  forms::ComboBox Combo1{panels_.Picture23, "Combo1", {.name = "Font"}};   // font
-  forms::ComboBox Combo2{panels_.Picture23, "Combo2", {.name = "Size"}};   // size
-  forms::ComboBox Combo3{panels_.Picture23, "Combo3", {.name = "Style"}};  // style
+  forms::ComboBox Combo1{Picture23_, "Combo1", {.name = "Font"}};   // font
+  forms::ComboBox Combo2{Picture23_, "Combo2", {.name = "Size"}};   // size
+  forms::ComboBox Combo3{Picture23_, "Combo3", {.name = "Style"}};  // style
 
  private:
   void oo11_Click();
@@ -51,7 +62,7 @@ class Settings {
   void ApplyFontToPanes();
 
   // Heading, and what each box is for.
-  forms::ControlArray<forms::Label> lblsetting{panels_.Picture23,
+  forms::ControlArray<forms::Label> lblsetting{Picture23_,
                                                "lblsetting",
                                                {{.caption = "Fonts and desktop"},
                                                 {.caption = "Font"},
@@ -60,12 +71,12 @@ class Settings {
                                                 {.caption = "Colors"}}};
   // Samples of the font.
   forms::ControlArray<forms::Label> lblf{
-      panels_.Picture23, "lblf", {{.caption = "A B C D E F G"}, {.caption = "a b c d e f g"}}};
-  DesktopColour colours_{panels_};
+      Picture23_, "lblf", {{.caption = "A B C D E F G"}, {.caption = "a b c d e f g"}}};
+  DesktopColour colours_{Picture23_, coloured_};
   // Saves.
-  forms::CommandButton Command36{panels_.Picture23, "Command36", {.caption = "Save", .is_default = true}};
+  forms::CommandButton Command36{Picture23_, "Command36", {.caption = "Save", .is_default = true}};
   // Closes the panel.
-  forms::CommandButton Command24{panels_.Picture23, "Command24", {.caption = "Close", .is_cancel = true}};
+  forms::CommandButton Command24{Picture23_, "Command24", {.caption = "Close", .is_cancel = true}};
 
   std::string size_read_;  // what the settings file gave
   std::string style_read_;

@@ -13,15 +13,13 @@ constexpr int kSettings = 1;  // slot
 
 }  // namespace
 
-StartUp::StartUp(Reader& the_reader, StartUpControls the_controls)
-    : ReadSettings([] {}), reader_(the_reader), controls_(the_controls) {}
-
 void StartUp::Form_Load() {
   PlaceWindow();
   FindFolders();
   PlaceWindow();
-  LoadSettings();
+  settings_.PrepareFile();
   const base::Ignoring ignore;
+  ignore([&] { settings_.ReadSettings(); });
   ignore([&] { controls_.Dirpics.Path = reader_.Dir1.Path + "/Pics"; });
   FillLists();
   PlaceWindow();
@@ -50,34 +48,17 @@ void StartUp::FindFolders() {
   ignore([&] { controls_.File1.Path = reader_.Dir1.Path; });
 }
 
-// A settings file that is missing, or too short to hold anything, gets the default record: colour, colour,
-// font and size, of which the reader takes the first three for font, size and style.
-void StartUp::LoadSettings() {
-  const base::Ignoring ignore;
-  files::FileSlots& slots = reader_.form.Slots();
-  const std::string path = reader_.DataFile("codex.cfg");
-  ignore([&] { slots.OpenForAppending(kSettings, path); });
-  ignore([&] {
-    constexpr std::uint64_t kShortest = 3;
-    if (reader_.form.Files().Length(path) < kShortest) {
-      slots.WriteRecord(kSettings, "&HFF0000", "&H80000005", "Arial", "10");
-    }
-  });
-  ignore([&] { slots.Close(kSettings); });
-  ignore([&] { ReadSettings(); });
-}
-
 void StartUp::FillLists() {
   const base::Ignoring ignore;
   for (const std::string_view book : kCanon) reader_.lst.AddItem(std::string(book));
-  ignore([&] { reader_.form.Slots().Close(kSettings); });
+  reader_.form.Slots().Close(kSettings);  // a settings file that was too short was left open
   reader_.ClearPosition();
   ignore([&] { controls_.Text2.Text = ""; });
   for (int i = 0; i < reader_.LBLMRK.Count(); ++i) reader_.LBLMRK(i).Caption = "";
 
-  for (const std::string& font : reader_.form.Platform().FontNames()) controls_.Combo1.AddItem(font);
-  for (const char* size : {"8", "10", "12", "14", "18"}) controls_.Combo2.AddItem(size);
-  for (const char* style : {"Regular", "Italic", "Bold", "Bold Italic"}) controls_.Combo3.AddItem(style);
+  for (const std::string& font : reader_.form.Platform().FontNames()) settings_.Combo1.AddItem(font);
+  for (const char* size : {"8", "10", "12", "14", "18"}) settings_.Combo2.AddItem(size);
+  for (const char* style : {"Regular", "Italic", "Bold", "Bold Italic"}) settings_.Combo3.AddItem(style);
 }
 
 }  // namespace lectern::reader

@@ -83,10 +83,10 @@ constexpr Story kStories[] = {
 
 }  // namespace
 
-Stories::Stories(Reader& the_reader, Menus& menus) : reader_(the_reader) {
+Stories::Stories(Reader& the_reader, forms::Menu& dd1) : reader_(the_reader) {
   for (const Submenu& submenu : kSubmenus) {
     forms::Menu& list =
-        submenus_.emplace_back(menus.dd1, submenu.control, forms::MenuDesign{.caption = submenu.caption});
+        submenus_.emplace_back(dd1, submenu.control, forms::MenuDesign{.caption = submenu.caption});
     for (const Story& story : kStories) {
       if (list.Name() != story.submenu) continue;
       forms::Menu& entry =

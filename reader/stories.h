@@ -5,7 +5,7 @@
 
 #include <deque>
 
-#include "reader/menus.h"
+#include "forms/menu.h"
 #include "reader/reader.h"
 
 namespace lectern::reader {
@@ -14,7 +14,7 @@ struct Story;
 
 class Stories {
  public:
-  Stories(Reader& the_reader, Menus& menus);
+  Stories(Reader& the_reader, forms::Menu& dd1);
 
  private:
   void Entry_Click(const Story& story);

@@ -3,26 +3,26 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "reader/panels.h"
+#include "forms/picture_box.h"
 
 namespace lectern::reader {
 
 class ToolButtons {
-  Panels& panels_;
+  forms::PictureBox& Picture6_;
 
  public:
-  explicit ToolButtons(Panels& panels) : panels_(panels) {}
+  explicit ToolButtons(forms::PictureBox& Picture6) : Picture6_(Picture6) {}
 
   void Disable() { Set(false); }
   void Enable() { Set(true); }
 
-  forms::CommandButton Command3{panels_.Picture6, "Command3", {.caption = "&Book Mark"}};     // bookmarks
-  forms::CommandButton Command16{panels_.Picture6, "Command16", {.caption = "&Search"}};      // text search
-  forms::CommandButton Command8{panels_.Picture6, "Command8", {.caption = "&Concordance"}};   // concordance
-  forms::CommandButton Command2{panels_.Picture6, "Command2", {.caption = "Tri&via"}};        // trivia
-  forms::CommandButton Command14{panels_.Picture6, "Command14", {.caption = "&Notes"}};       // notes
-  forms::CommandButton Command17{panels_.Picture6, "Command17", {.caption = "&Dictionary"}};  // dictionary
-  forms::CommandButton Command1{panels_.Picture6, "Command1", {.caption = "E&xit"}};          // exit
+  forms::CommandButton Command3{Picture6_, "Command3", {.caption = "&Book Mark"}};     // bookmarks
+  forms::CommandButton Command16{Picture6_, "Command16", {.caption = "&Search"}};      // text search
+  forms::CommandButton Command8{Picture6_, "Command8", {.caption = "&Concordance"}};   // concordance
+  forms::CommandButton Command2{Picture6_, "Command2", {.caption = "Tri&via"}};        // trivia
+  forms::CommandButton Command14{Picture6_, "Command14", {.caption = "&Notes"}};       // notes
+  forms::CommandButton Command17{Picture6_, "Command17", {.caption = "&Dictionary"}};  // dictionary
+  forms::CommandButton Command1{Picture6_, "Command1", {.caption = "E&xit"}};          // exit
 
  private:
   void Set(bool enabled);

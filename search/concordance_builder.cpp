@@ -14,9 +14,9 @@ constexpr int kTarget = 5;
 
 }  // namespace
 
-ConcordanceBuilder::ConcordanceBuilder(reader::Reader& the_reader, reader::Panels& the_panels,
-                                       TextSearch& the_search)
-    : reader_(the_reader), panels_(the_panels), search_(the_search) {
+ConcordanceBuilder::ConcordanceBuilder(reader::Reader& the_reader, forms::Frame& frms, forms::Frame& frmscale,
+                                       forms::Frame& Frame2, TextSearch& the_search)
+    : reader_(the_reader), frms_(frms), frmscale_(frmscale), Frame2_(Frame2), search_(the_search) {
   Command27.Click = [this] { Command27_Click(); };
   Command23.Click = [this] { Timer2.Enabled = false; };
   Timer2.Tick = [this] { Timer2_Timer(); };
@@ -26,10 +26,10 @@ ConcordanceBuilder::ConcordanceBuilder(reader::Reader& the_reader, reader::Panel
 void ConcordanceBuilder::Command27_Click() {
   // The first run needs a file to be there.
   reader_.form.Files().DeleteKeepingBackup(ConcordanceFile(reader_));
-  panels_.frms.Visible = true;
+  frms_.Visible = true;
   search_.txts.Text = "";
   search_.lsts.Clear();
-  panels_.frmscale.Visible = true;
+  frmscale_.Visible = true;
   Timer2.Enabled = true;
   lbln.Caption = "-1";
   search_.pbar.Max = reader_.lst.ListCount() - 1;
@@ -37,7 +37,7 @@ void ConcordanceBuilder::Command27_Click() {
 }
 
 void ConcordanceBuilder::Timer2_Timer() {
-  panels_.frmscale.Visible = true;
+  frmscale_.Visible = true;
   if (search_.tmrb.Enabled) return;  // a word is still being looked up
   const base::Ignoring ignore;
   search_.pbar.Value = 0;
@@ -85,7 +85,7 @@ void ConcordanceBuilder::WriteResults() {
   files::FileSlots& slots = reader_.form.Slots();
   ignore([&] { slots.OpenForAppending(kTarget, ConcordanceFile(reader_)); });
   for (int i = 0; i < search_.lsts.ListCount(); ++i) {
-    ignore([&] { slots.WriteRecord(kTarget, search_.txts.Text(), search_.lsts.List(i)); });
+    ignore([&] { WriteConcordanceRecord(slots, kTarget, {search_.txts.Text(), search_.lsts.List(i)}); });
   }
   ignore([&] { slots.Close(kTarget); });
 }
@@ -95,16 +95,16 @@ void ConcordanceBuilder::List2_Click() {
   const int selected = List2.SelectedIndex();
   if (selected >= 0) Text2.Text = List2.List(selected);
   files::FileSlots& slots = reader_.form.Slots();
-  std::string fields[3];
+  reader::BookmarkRecord record;
   slots.OpenForReading(kBookmarks, reader_.DataFile("BKMK.DAT"));
   while (!slots.EndOfFile(kBookmarks)) {
-    for (std::string& field : fields) field = slots.ReadField(kBookmarks);
-    if (Text2.Text != fields[0]) continue;
-    for (int i = 0; i < 3; ++i) reader_.LBLMRK(i).Caption = fields[i];
+    record = reader::ReadBookmarkRecord(slots, kBookmarks);
+    if (Text2.Text != record.name) continue;
+    reader_.TakeBookmark(record);
     break;
   }
   slots.Close(kBookmarks);
-  reader_.NameBook(fields[1]);
+  reader_.NameBook(record.book);
 }
 
 }  // namespace lectern::search

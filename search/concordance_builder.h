@@ -7,9 +7,9 @@
 #pragma once
 
 #include "forms/buttons.h"
+#include "forms/frame.h"
 #include "forms/progress_bar.h"
 #include "forms/text_box.h"
-#include "reader/panels.h"
 #include "reader/reader.h"
 #include "search/text_search.h"
 
@@ -17,22 +17,25 @@ namespace lectern::search {
 
 class ConcordanceBuilder {
   reader::Reader& reader_;
-  reader::Panels& panels_;
+  forms::Frame& frms_;
+  forms::Frame& frmscale_;
+  forms::Frame& Frame2_;
   TextSearch& search_;
 
  public:
-  ConcordanceBuilder(reader::Reader& the_reader, reader::Panels& the_panels, TextSearch& the_search);
+  ConcordanceBuilder(reader::Reader& the_reader, forms::Frame& frms, forms::Frame& frmscale,
+                     forms::Frame& Frame2, TextSearch& the_search);
 
-  forms::CommandButton Command27{panels_.Frame2, "Command27", {.caption = "Make"}};    // starts the builder
-  forms::CommandButton Command23{panels_.Frame2, "Command23", {.caption = "Cancel"}};  // cancels it
-  forms::ListBox List2{panels_.Frame2, "List2", {.name = "Words to be looked up"}};    // the words to look up
+  forms::CommandButton Command27{Frame2_, "Command27", {.caption = "Make"}};    // starts the builder
+  forms::CommandButton Command23{Frame2_, "Command23", {.caption = "Cancel"}};  // cancels it
+  forms::ListBox List2{Frame2_, "List2", {.name = "Words to be looked up"}};    // the words to look up
   // Index of the current word; "-1" before the list is loaded.
-  forms::Label lbln{panels_.Frame2, "lbln", {.caption = "-1"}};
-  forms::Label Label32{panels_.Frame2, "Label32"};                            // how far the builder has come
-  forms::ProgressBar pbar2{panels_.Frame2, "pbar2", {.name = "Words done"}};  // words done
+  forms::Label lbln{Frame2_, "lbln", {.caption = "-1"}};
+  forms::Label Label32{Frame2_, "Label32"};                            // how far the builder has come
+  forms::ProgressBar pbar2{Frame2_, "pbar2", {.name = "Words done"}};  // words done
   // The chosen word; the number of hits of a build in one pass.
-  forms::TextBox Text2{panels_.Frame2, "Text2", {.name = "Hits"}};
-  forms::TextBox Text1{panels_.Frame2, "Text1", {.name = "Text1"}};  // nothing uses it
+  forms::TextBox Text2{Frame2_, "Text2", {.name = "Hits"}};
+  forms::TextBox Text1{Frame2_, "Text1", {.name = "Text1"}};  // nothing uses it
   // Looks up the next word when the search is idle.
   forms::Timer Timer2{reader_.form, "Timer2", {.enabled = false, .interval = 1}};
 

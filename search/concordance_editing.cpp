@@ -14,11 +14,12 @@ constexpr int kWorkFile = 2;
 
 }  // namespace
 
-ConcordanceEditing::ConcordanceEditing(reader::Reader& the_reader, reader::Panels& the_panels,
+ConcordanceEditing::ConcordanceEditing(reader::Reader& the_reader, forms::Frame& frmc, forms::Frame& Frame2,
                                        reader::ErrorReport& the_report, TextSearch& the_search,
                                        ResultNavigation& the_results, ConcordanceViewer& the_viewer)
     : reader_(the_reader),
-      panels_(the_panels),
+      frmc_(frmc),
+      Frame2_(Frame2),
       report_(the_report),
       search_(the_search),
       results_(the_results),
@@ -46,8 +47,9 @@ void ConcordanceEditing::AddEntry(const std::string& text) {
   if (!entry) return;
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForAppending(kConcordance, ConcordanceFile(reader_));
-  slots.WriteRecord(kConcordance, search_.txts.Text(),
-                    reader::ReferenceText(entry->book, entry->chapter, entry->verse, ' '));
+  WriteConcordanceRecord(
+      slots, kConcordance,
+      {search_.txts.Text(), reader::ReferenceText(entry->book, entry->chapter, entry->verse, ' ')});
   slots.Close(kConcordance);
 }
 
@@ -75,18 +77,17 @@ void ConcordanceEditing::Command21_Click() {
   // deleted; it is meant.
   reader_.form.Platform().Message(
       last + " has been removed from the Concordance. You can add words to Concordance with search feature.");
-  panels_.frmc.Visible = true;
+  frmc_.Visible = true;
   search_.Command22.MousePointer = forms::kPointerDefault;
 }
 
 // Copies the records of all words but one, which goes in whatever case it stands.
 void ConcordanceEditing::CopyOtherWords(const std::string& word) {
   files::FileSlots& slots = reader_.form.Slots();
-  std::string record_word;
+  ConcordanceRecord record;
   while (!slots.EndOfFile(kConcordance)) {
-    record_word = slots.ReadField(kConcordance);
-    const std::string_view reference = slots.ReadField(kConcordance);
-    if (text::Upper(record_word) != word) slots.WriteRecord(kWorkFile, record_word, reference);
+    ReadConcordanceRecord(slots, kConcordance, record);
+    if (text::Upper(record.word) != word) WriteConcordanceRecord(slots, kWorkFile, record);
   }
 }
 
@@ -97,11 +98,11 @@ void ConcordanceEditing::Command18_Click() {
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForReading(kConcordance, reader_.DataFile(reader::kVersions[1].concordance));
   slots.OpenForAppending(kWorkFile, reader_.DataFile("CONCORD22.DAT"));
+  ConcordanceRecord record;
   while (!slots.EndOfFile(kConcordance) && search_.SearchBookIndex != kStop) {
-    const std::string word(slots.ReadField(kConcordance));
-    const std::string_view reference = slots.ReadField(kConcordance);
-    if (word == "Zion" && reference == "1 Peter 2 6") search_.SearchBookIndex = kStop;
-    slots.WriteRecord(kWorkFile, word, reference);
+    ReadConcordanceRecord(slots, kConcordance, record);
+    if (record.word == "Zion" && record.reference == "1 Peter 2 6") search_.SearchBookIndex = kStop;
+    WriteConcordanceRecord(slots, kWorkFile, record);
   }
   slots.Close(kConcordance);
   slots.Close(kWorkFile);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "forms/buttons.h"
+#include "forms/frame.h"
 #include "reader/error_report.h"
 #include "search/concordance_viewer.h"
 #include "search/result_navigation.h"
@@ -12,21 +13,23 @@ namespace lectern::search {
 
 class ConcordanceEditing {
   reader::Reader& reader_;
-  reader::Panels& panels_;
+  forms::Frame& frmc_;
+  forms::Frame& Frame2_;
   reader::ErrorReport& report_;
   TextSearch& search_;
   ResultNavigation& results_;
   ConcordanceViewer& viewer_;
 
  public:
-  ConcordanceEditing(reader::Reader& the_reader, reader::Panels& the_panels, reader::ErrorReport& the_report,
-                     TextSearch& the_search, ResultNavigation& the_results, ConcordanceViewer& the_viewer);
+  ConcordanceEditing(reader::Reader& the_reader, forms::Frame& frmc, forms::Frame& Frame2,
+                     reader::ErrorReport& the_report, TextSearch& the_search, ResultNavigation& the_results,
+                     ConcordanceViewer& the_viewer);
 
   // Deletes the chosen word.
-  forms::CommandButton Command21{panels_.frmc, "Command21", {.caption = "Delete Word/Phrase"}};
+  forms::CommandButton Command21{frmc_, "Command21", {.caption = "Delete Word/Phrase"}};
   // On the builder's panel: cuts the file back to its true end.
   forms::CommandButton Command18{
-      panels_.Frame2, "Command18", {.caption = "Command18", .name = "Cut the file back to its true end"}};
+      Frame2_, "Command18", {.caption = "Command18", .name = "Cut the file back to its true end"}};
 
  private:
   void cmdadd_Click();

@@ -8,18 +8,26 @@ std::string ConcordanceFile(const reader::Reader& reader) {
   return reader.DataFile(reader.CurrentVersion().concordance);
 }
 
+void ReadConcordanceRecord(files::FileSlots& slots, int slot, ConcordanceRecord& record) {
+  record.word = slots.ReadField(slot);
+  record.reference = slots.ReadField(slot);
+}
+
+void WriteConcordanceRecord(files::FileSlots& slots, int slot, const ConcordanceRecord& record) {
+  slots.WriteRecord(slot, record.word, record.reference);
+}
+
 // ODDITY(concordance-limit): the words behind the limit are not shown, without a word about it; being counted
 // in the order of the file, they are the ones that a person added. It is meant.
 std::string FillWordList(files::FileSlots& slots, int slot, forms::ListBox& list) {
   std::string last;
-  std::string word;
+  ConcordanceRecord record;
   for (int count = 0; count < kMostWords && !slots.EndOfFile(slot);) {
-    word = slots.ReadField(slot);
-    slots.ReadField(slot);
-    if (word == last) continue;
-    list.AddItem(text::Upper(word));
+    ReadConcordanceRecord(slots, slot, record);
+    if (record.word == last) continue;
+    list.AddItem(text::Upper(record.word));
     ++count;
-    last = word;
+    last = record.word;
   }
   return last;
 }

@@ -13,12 +13,11 @@ constexpr int kConcordance = 1;  // slot
 
 }  // namespace
 
-ConcordanceViewer::ConcordanceViewer(reader::Reader& the_reader, reader::Panels& the_panels,
-                                     reader::ToolButtons& the_tools, reader::Menus& menus,
-                                     TextSearch& the_search)
-    : reader_(the_reader), panels_(the_panels), tools_(the_tools), search_(the_search) {
+ConcordanceViewer::ConcordanceViewer(reader::Reader& the_reader, forms::Frame& frmc, forms::PictureBox& picp,
+                                     reader::ToolButtons& the_tools, forms::Menu& cc1, TextSearch& the_search)
+    : reader_(the_reader), frmc_(frmc), picp_(picp), tools_(the_tools), search_(the_search) {
   tools_.Command8.Click = [this] { Command8_Click(); };
-  menus.cc1.Click = [this] { cc1_Click(); };
+  cc1.Click = [this] { cc1_Click(); };
   lstc.Click = [this] { lstc_Click(); };
   lstc2.Click = [this] { lstc2_Click(); };
   Command9.Click = [this] { Command9_Click(); };
@@ -26,13 +25,13 @@ ConcordanceViewer::ConcordanceViewer(reader::Reader& the_reader, reader::Panels&
 
 // The one tool button that locks nothing.
 void ConcordanceViewer::Command8_Click() {
-  panels_.picp.Visible = false;
-  panels_.frmc.Visible = true;
+  picp_.Visible = false;
+  frmc_.Visible = true;
   LoadConcordanceWords();
 }
 
 void ConcordanceViewer::cc1_Click() {
-  panels_.frmc.Visible = true;
+  frmc_.Visible = true;
   LoadConcordanceWords();
 }
 
@@ -57,16 +56,16 @@ void ConcordanceViewer::lstc_Click() {
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForReading(kConcordance, ConcordanceFile(reader_));
   text::TextList references;
+  ConcordanceRecord record;
   std::string last;  // the records of a word stand together: it is compared once
   bool last_fits = wanted.empty();
   while (!slots.EndOfFile(kConcordance)) {
-    const std::string_view word = slots.ReadField(kConcordance);
-    if (word != last) {
-      last = word;
+    ReadConcordanceRecord(slots, kConcordance, record);
+    if (record.word != last) {
+      last = record.word;
       last_fits = text::Upper(last) == wanted;
     }
-    const std::string_view reference = slots.ReadField(kConcordance);
-    if (last_fits) references.Add(reference);
+    if (last_fits) references.Add(record.reference);
   }
   text6.Caption = std::to_string(references.Count());
   lstc2.AddItems(references);
@@ -83,7 +82,7 @@ void ConcordanceViewer::lstc2_Click() {
 void ConcordanceViewer::Command9_Click() {
   lstc.Clear();
   reader_.ReturnToChapter1();
-  panels_.frmc.Visible = false;
+  frmc_.Visible = false;
   tools_.Enable();
 }
 

@@ -3,8 +3,9 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "reader/menus.h"
-#include "reader/panels.h"
+#include "forms/frame.h"
+#include "forms/menu.h"
+#include "forms/picture_box.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 #include "search/text_search.h"
@@ -13,25 +14,25 @@ namespace lectern::search {
 
 class ConcordanceViewer {
   reader::Reader& reader_;
-  reader::Panels& panels_;
+  forms::Frame& frmc_;
+  forms::PictureBox& picp_;
   reader::ToolButtons& tools_;
   TextSearch& search_;
 
  public:
-  ConcordanceViewer(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-                    reader::Menus& menus, TextSearch& the_search);
+  ConcordanceViewer(reader::Reader& the_reader, forms::Frame& frmc, forms::PictureBox& picp,
+                    reader::ToolButtons& the_tools, forms::Menu& cc1, TextSearch& the_search);
 
-  forms::Label lblwords{panels_.frmc, "lblwords", {.caption = "Words"}};  // heading of the words
+  forms::Label lblwords{frmc_, "lblwords", {.caption = "Words"}};  // heading of the words
   // The words, in upper case.
-  forms::ListBox lstc{panels_.frmc, "lstc", {.name = "Words of the concordance", .sorted = true}};
-  forms::Label lblw{panels_.frmc, "lblw", {.caption = "click on word"}};  // the chosen word
+  forms::ListBox lstc{frmc_, "lstc", {.name = "Words of the concordance", .sorted = true}};
+  forms::Label lblw{frmc_, "lblw", {.caption = "click on word"}};  // the chosen word
   // Stands before the number of verses.
-  forms::Label lblmatches2{panels_.frmc, "lblmatches2", {.caption = "Matches "}};
-  forms::Label text6{panels_.frmc, "text6", {.caption = "00"}};                 // number of its verses
-  forms::ListBox lstc2{panels_.frmc, "lstc2", {.name = "Verses of the word"}};  // its verses
+  forms::Label lblmatches2{frmc_, "lblmatches2", {.caption = "Matches "}};
+  forms::Label text6{frmc_, "text6", {.caption = "00"}};                 // number of its verses
+  forms::ListBox lstc2{frmc_, "lstc2", {.name = "Verses of the word"}};  // its verses
   // Closes the panel.
-  forms::CommandButton Command9{
-      panels_.frmc, "Command9", {.caption = "Close Concordance", .is_cancel = true}};
+  forms::CommandButton Command9{frmc_, "Command9", {.caption = "Close Concordance", .is_cancel = true}};
 
   void LoadConcordanceWords();
 

@@ -6,13 +6,28 @@ namespace {
 
 constexpr int kWords = 1;  // slot
 
+struct Record {
+  std::string word;
+  std::string definition;
+  std::string verse;  // that uses the word
+  std::string place;  // of the verse
+};
+
+// Reads the next record into one that is used again and again.
+void ReadRecord(files::FileSlots& slots, Record& record) {
+  for (std::string* field : {&record.word, &record.definition, &record.verse, &record.place}) {
+    *field = slots.ReadField(kWords);
+  }
+}
+
 }  // namespace
 
-Dictionary::Dictionary(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-                       reader::Menus& menus, reader::ErrorReport& the_error_report)
-    : reader_(the_reader), panels_(the_panels), tools_(the_tools), error_report_(the_error_report) {
+Dictionary::Dictionary(reader::Reader& the_reader, forms::Frame& frmd, forms::PictureBox& picp,
+                       reader::ToolButtons& the_tools, forms::Menu& cc2,
+                       reader::ErrorReport& the_error_report)
+    : reader_(the_reader), frmd_(frmd), picp_(picp), tools_(the_tools), error_report_(the_error_report) {
   tools_.Command17.Click = [this] { Command17_Click(); };
-  menus.cc2.Click = [this] { cc2_Click(); };
+  cc2.Click = [this] { cc2_Click(); };
   lstd.MouseDown = [this](const forms::MouseEvent&) { lstd_MouseDown(); };
   lstd.Click = [this] { lstd_Click(); };
   dwd.Change = [this] { dwd2.Caption = dwd.Caption; };
@@ -27,12 +42,12 @@ std::string Dictionary::DataFile() const { return reader_.DataFile("cdxdic.dat")
 // is meant.
 bool Dictionary::LoadWords() {
   files::FileSlots& slots = reader_.form.Slots();
+  Record record;
   try {
     slots.OpenForReading(kWords, DataFile());
     while (!slots.EndOfFile(kWords)) {
-      const std::string word(slots.ReadField(kWords));
-      for (int rest = 0; rest < 3; ++rest) slots.ReadField(kWords);
-      lstd.AddItem(word);
+      ReadRecord(slots, record);
+      lstd.AddItem(record.word);
     }
     slots.Close(kWords);
     return true;
@@ -46,13 +61,13 @@ bool Dictionary::LoadWords() {
 // Whether the panel is open now: it stays closed where the words cannot be read.
 bool Dictionary::Open() {
   const bool loaded = LoadWords();
-  if (loaded) panels_.frmd.Visible = true;
+  if (loaded) frmd_.Visible = true;
   tools_.Command17.MousePointer = forms::kPointerDefault;
   return loaded;
 }
 
 void Dictionary::Command17_Click() {
-  panels_.picp.Visible = false;
+  picp_.Visible = false;
   if (Open()) tools_.Disable();
 }
 
@@ -70,15 +85,13 @@ void Dictionary::lstd_Click() {
   }
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForReading(kWords, DataFile());
+  Record record;
   bool found = false;
   while (!found && !slots.EndOfFile(kWords)) {
-    const std::string word(slots.ReadField(kWords));
-    const std::string definition(slots.ReadField(kWords));
-    const std::string verse(slots.ReadField(kWords));
-    const std::string place(slots.ReadField(kWords));
-    if (dwd.Caption != word) continue;
-    ddf.Caption = definition;
-    dex.Caption = verse + " :  " + place;
+    ReadRecord(slots, record);
+    if (dwd.Caption != record.word) continue;
+    ddf.Caption = record.definition;
+    dex.Caption = record.verse + " :  " + record.place;
     found = true;
   }
   slots.Close(kWords);
@@ -86,7 +99,7 @@ void Dictionary::lstd_Click() {
 }
 
 void Dictionary::Command19_Click() {
-  panels_.frmd.Visible = false;
+  frmd_.Visible = false;
   tools_.Enable();
 }
 

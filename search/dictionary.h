@@ -4,10 +4,12 @@
 // The file is read again for every opening and every click. Of two records of one word the first is shown.
 #pragma once
 
+#include "forms/frame.h"
 #include "forms/label.h"
+#include "forms/menu.h"
+#include "forms/picture_box.h"
 #include "forms/shape.h"
 #include "reader/error_report.h"
-#include "reader/menus.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 
@@ -15,8 +17,8 @@ namespace lectern::search {
 
 class Dictionary {
  public:
-  Dictionary(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-             reader::Menus& menus, reader::ErrorReport& the_error_report);
+  Dictionary(reader::Reader& the_reader, forms::Frame& frmd, forms::PictureBox& picp,
+             reader::ToolButtons& the_tools, forms::Menu& cc2, reader::ErrorReport& the_error_report);
 
  private:
   void Command17_Click();
@@ -30,33 +32,31 @@ class Dictionary {
   std::string DataFile() const;
 
   reader::Reader& reader_;
-  reader::Panels& panels_;
+  forms::Frame& frmd_;
+  forms::PictureBox& picp_;
   reader::ToolButtons& tools_;
   reader::ErrorReport& error_report_;
 
   // The words, in file order.
-  forms::ListBox lstd{panels_.frmd, "lstd", {.name = "Words of the dictionary"}};
+  forms::ListBox lstd{frmd_, "lstd", {.name = "Words of the dictionary"}};
 
   // Each text stands twice, the second one below and a little aside, as the shadow of the first.
   // Shadow of dwd.
-  forms::Label dwd2{
-      panels_.frmd, "dwd2", {.caption = "Word", .is_echo = true, .fore_color = forms::kButtonShadow}};
+  forms::Label dwd2{frmd_, "dwd2", {.caption = "Word", .is_echo = true, .fore_color = forms::kButtonShadow}};
   // Shadow of ddf.
   forms::Label ddf2{
-      panels_.frmd, "ddf2", {.caption = "Definition", .is_echo = true, .fore_color = forms::kButtonShadow}};
+      frmd_, "ddf2", {.caption = "Definition", .is_echo = true, .fore_color = forms::kButtonShadow}};
   // Shadow of dex.
-  forms::Label dex2{panels_.frmd,
-                    "dex2",
-                    {.caption = "used in a verce", .is_echo = true, .fore_color = forms::kButtonShadow}};
-  forms::Line linedic{panels_.frmd, "linedic"};                      // between the definition and the verse
-  forms::Label dwd{panels_.frmd, "dwd", {.caption = "Word"}};        // the chosen word
-  forms::Label ddf{panels_.frmd, "ddf", {.caption = "Definition"}};  // its definition
+  forms::Label dex2{
+      frmd_, "dex2", {.caption = "used in a verce", .is_echo = true, .fore_color = forms::kButtonShadow}};
+  forms::Line linedic{frmd_, "linedic"};                      // between the definition and the verse
+  forms::Label dwd{frmd_, "dwd", {.caption = "Word"}};        // the chosen word
+  forms::Label ddf{frmd_, "ddf", {.caption = "Definition"}};  // its definition
   // A verse that uses it, and its reference. ODDITY(kept-spelling).
-  forms::Label dex{panels_.frmd, "dex", {.caption = "used in a verce"}};
+  forms::Label dex{frmd_, "dex", {.caption = "used in a verce"}};
 
   // Closes the panel.
-  forms::CommandButton Command19{
-      panels_.frmd, "Command19", {.caption = "Close Dictionary", .is_cancel = true}};
+  forms::CommandButton Command19{frmd_, "Command19", {.caption = "Close Dictionary", .is_cancel = true}};
 };
 
 }  // namespace lectern::search

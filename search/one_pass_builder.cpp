@@ -16,9 +16,9 @@ constexpr int kTruth = -1;  // what a true comparison counts as
 
 }  // namespace
 
-OnePassBuilder::OnePassBuilder(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search,
+OnePassBuilder::OnePassBuilder(reader::Reader& the_reader, forms::Frame& Frame2, TextSearch& the_search,
                                ConcordanceBuilder& the_builder)
-    : panels_(panels), reader_(the_reader), search_(the_search), builder_(the_builder) {
+    : Frame2_(Frame2), reader_(the_reader), search_(the_search), builder_(the_builder) {
   Command13.Click = [this] { Command13_Click(); };
 }
 

@@ -3,25 +3,25 @@
 // the data folder itself. Kept as a tool of whoever prepares the data.
 #pragma once
 
+#include "forms/frame.h"
 #include "search/concordance_builder.h"
 
 namespace lectern::search {
 
 class OnePassBuilder {
-  reader::Panels& panels_;
+  forms::Frame& Frame2_;
   reader::Reader& reader_;
   TextSearch& search_;
   ConcordanceBuilder& builder_;
 
  public:
-  OnePassBuilder(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search,
+  OnePassBuilder(reader::Reader& the_reader, forms::Frame& Frame2, TextSearch& the_search,
                  ConcordanceBuilder& the_builder);
 
   // Builds the concordance in one pass.
-  forms::CommandButton Command13{
-      panels_.Frame2, "Command13", {.caption = "Command13", .name = "Build in one pass"}};
-  forms::Label books{panels_.Frame2, "books"};                                // the book that is read
-  forms::ProgressBar pbar3{panels_.Frame2, "pbar3", {.name = "Books done"}};  // books done
+  forms::CommandButton Command13{Frame2_, "Command13", {.caption = "Command13", .name = "Build in one pass"}};
+  forms::Label books{Frame2_, "books"};                                // the book that is read
+  forms::ProgressBar pbar3{Frame2_, "pbar3", {.name = "Books done"}};  // books done
 
  private:
   void Command13_Click();

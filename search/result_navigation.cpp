@@ -5,8 +5,8 @@
 
 namespace lectern::search {
 
-ResultNavigation::ResultNavigation(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search)
-    : panels_(panels), reader_(the_reader), search_(the_search) {
+ResultNavigation::ResultNavigation(reader::Reader& the_reader, forms::Frame& frmc, TextSearch& the_search)
+    : frmc_(frmc), reader_(the_reader), search_(the_search) {
   search_.lsts.Click = [this] { lsts_Click(); };
 }
 

@@ -2,6 +2,7 @@
 // terms in it.
 #pragma once
 
+#include "forms/frame.h"
 #include "forms/label.h"
 #include "reader/reader.h"
 #include "search/text_search.h"
@@ -9,15 +10,15 @@
 namespace lectern::search {
 
 class ResultNavigation {
-  reader::Panels& panels_;
+  forms::Frame& frmc_;
   reader::Reader& reader_;
   TextSearch& search_;
 
  public:
-  ResultNavigation(reader::Reader& the_reader, reader::Panels& panels, TextSearch& the_search);
+  ResultNavigation(reader::Reader& the_reader, forms::Frame& frmc, TextSearch& the_search);
 
   // On the concordance's panel: the chosen entry.
-  forms::Label LBLCC{panels_.frmc, "LBLCC", {.caption = "Genesis", .visible = false}};
+  forms::Label LBLCC{frmc_, "LBLCC", {.caption = "Genesis", .visible = false}};
 
  private:
   void lsts_Click();

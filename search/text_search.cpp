@@ -16,11 +16,12 @@ constexpr int kBook = 1;  // slot
 
 }  // namespace
 
-TextSearch::TextSearch(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-                       reader::Menus& menus)
-    : reader_(the_reader), panels_(the_panels), tools_(the_tools) {
+TextSearch::TextSearch(reader::Reader& the_reader, forms::Frame& frms, forms::Frame& frmscale,
+                       forms::Frame& Frame2, forms::PictureBox& picp, reader::ToolButtons& the_tools,
+                       forms::Menu& cc3)
+    : reader_(the_reader), frms_(frms), frmscale_(frmscale), Frame2_(Frame2), picp_(picp), tools_(the_tools) {
   tools_.Command16.Click = [this] { Command16_Click(); };
-  menus.cc3.Click = [this] { cc3_Click(); };
+  cc3.Click = [this] { cc3_Click(); };
   txts.Change = [this] { txts_Change(txts); };
   txts2.Change = [this] { txts_Change(txts2); };
   Command22.Click = [this] { Command22_Click(); };
@@ -34,8 +35,8 @@ TextSearch::TextSearch(reader::Reader& the_reader, reader::Panels& the_panels, r
 }
 
 void TextSearch::Command16_Click() {
-  panels_.picp.Visible = false;
-  panels_.frms.Visible = true;
+  picp_.Visible = false;
+  frms_.Visible = true;
   lsts.Clear();
   text5.Caption = "";
   txts.SetFocus();
@@ -43,7 +44,7 @@ void TextSearch::Command16_Click() {
 }
 
 void TextSearch::cc3_Click() {
-  panels_.frms.Visible = true;
+  frms_.Visible = true;
   lsts.Clear();
   text5.Caption = "";
 }
@@ -52,7 +53,7 @@ void TextSearch::cc3_Click() {
 void TextSearch::txts_Change(const forms::TextBox& box) {
   if (box.Text == "") return;
   Command22.Enabled = true;
-  panels_.frmscale.Visible = false;
+  frmscale_.Visible = false;
   lsts.Clear();
   text5.Caption = "";
 }
@@ -60,7 +61,7 @@ void TextSearch::txts_Change(const forms::TextBox& box) {
 void TextSearch::Command22_Click() {
   if (txts.Text == "" && txts2.Text == "") return;
   if (op1.Value) {
-    panels_.frmscale.Visible = true;
+    frmscale_.Visible = true;
   } else {
     Command22.MousePointer = kPointerHourglass;
   }
@@ -74,7 +75,7 @@ void TextSearch::Command22_Click() {
     return;
   }
   ScanOpenBook();
-  panels_.frmscale.Visible = false;
+  frmscale_.Visible = false;
   reader_.form.Platform().Beep();
   reader_.form.Platform().Beep();
   Command22.Enabled = false;
@@ -117,7 +118,7 @@ void TextSearch::tmrb_Timer() {
   if (SearchBookIndex > reader_.lst.ListCount() - 1) {
     tmrb.Enabled = false;
     SearchBookIndex = 0;
-    panels_.frmscale.Visible = false;
+    frmscale_.Visible = false;
     Command22.Enabled = false;
     Command22.MousePointer = kPointerDefault;
   }
@@ -126,7 +127,7 @@ void TextSearch::tmrb_Timer() {
 void TextSearch::Command25_Click() {
   tmrb.Enabled = false;
   SearchBookIndex = 0;
-  panels_.frmscale.Visible = false;
+  frmscale_.Visible = false;
   Command22.MousePointer = kPointerDefault;
 }
 
@@ -144,8 +145,8 @@ void TextSearch::Command20_Click() {
   tmrb.Enabled = false;
   lsts.Clear();
   reader_.ReturnToChapter1();
-  panels_.frms.Visible = false;
-  panels_.frmscale.Visible = false;
+  frms_.Visible = false;
+  frmscale_.Visible = false;
   Command22.MousePointer = kPointerDefault;
   tools_.Enable();
 }

@@ -10,10 +10,11 @@
 #include <string>
 
 #include "forms/buttons.h"
+#include "forms/frame.h"
+#include "forms/menu.h"
+#include "forms/picture_box.h"
 #include "forms/progress_bar.h"
 #include "forms/text_box.h"
-#include "reader/menus.h"
-#include "reader/panels.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 
@@ -21,43 +22,46 @@ namespace lectern::search {
 
 class TextSearch {
   reader::Reader& reader_;
-  reader::Panels& panels_;
+  forms::Frame& frms_;
+  forms::Frame& frmscale_;
+  forms::Frame& Frame2_;
+  forms::PictureBox& picp_;
   reader::ToolButtons& tools_;
 
  public:
-  TextSearch(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-             reader::Menus& menus);
+  TextSearch(reader::Reader& the_reader, forms::Frame& frms, forms::Frame& frmscale, forms::Frame& Frame2,
+             forms::PictureBox& picp, reader::ToolButtons& the_tools, forms::Menu& cc3);
 
-  forms::Label lblfor{panels_.frms, "lblfor", {.caption = "for"}};    // before the first term
-  forms::TextBox txts{panels_.frms, "txts", {.name = "Search for"}};  // first term
-  forms::Label lbland{panels_.frms, "lbland", {.caption = "and"}};    // before the second term
-  forms::TextBox txts2{panels_.frms, "txts2", {.name = "and"}};       // second term
+  forms::Label lblfor{frms_, "lblfor", {.caption = "for"}};    // before the first term
+  forms::TextBox txts{frms_, "txts", {.name = "Search for"}};  // first term
+  forms::Label lbland{frms_, "lbland", {.caption = "and"}};    // before the second term
+  forms::TextBox txts2{frms_, "txts2", {.name = "and"}};       // second term
   // Searches the open book.
-  forms::SSOption SSOption1{panels_.frms, "SSOption1", {.caption = "Book", .checked = true}};
+  forms::SSOption SSOption1{frms_, "SSOption1", {.caption = "Book", .checked = true}};
   // Searches the whole text; the only one of the two that is read.
-  forms::SSOption op1{panels_.frms, "op1", {.caption = "Codex"}};
+  forms::SSOption op1{frms_, "op1", {.caption = "Codex"}};
   // Starts the search.
-  forms::CommandButton Command22{panels_.frms, "Command22", {.caption = "Search", .is_default = true}};
+  forms::CommandButton Command22{frms_, "Command22", {.caption = "Search", .is_default = true}};
   // Tells how long a search takes.
-  forms::CommandButton Command15{panels_.frms, "Command15", {.caption = "How long will it take?"}};
+  forms::CommandButton Command15{frms_, "Command15", {.caption = "How long will it take?"}};
   // Stands before the number of verses found.
-  forms::Label lblmatches{panels_.frms, "lblmatches", {.caption = "Matches"}};
-  forms::Label text5{panels_.frms, "text5", {.caption = "00"}};         // number of verses found
-  forms::ListBox lsts{panels_.frms, "lsts", {.name = "Verses found"}};  // the verses found
+  forms::Label lblmatches{frms_, "lblmatches", {.caption = "Matches"}};
+  forms::Label text5{frms_, "text5", {.caption = "00"}};         // number of verses found
+  forms::ListBox lsts{frms_, "lsts", {.name = "Verses found"}};  // the verses found
   // Adds the verses found to the concordance.
-  forms::CommandButton cmdadd{panels_.frms, "cmdadd", {.caption = "Add to Concordance", .enabled = false}};
+  forms::CommandButton cmdadd{frms_, "cmdadd", {.caption = "Add to Concordance", .enabled = false}};
   // Closes the panel.
-  forms::CommandButton Command20{panels_.frms, "Command20", {.caption = "Close Search", .is_cancel = true}};
+  forms::CommandButton Command20{frms_, "Command20", {.caption = "Close Search", .is_cancel = true}};
 
-  forms::Label text7{panels_.frmscale, "text7", {.caption = "Chapter"}};  // the book that is read next
-  forms::ProgressBar pbar{panels_.frmscale, "pbar", {.name = "Books searched"}};  // books read so far
+  forms::Label text7{frmscale_, "text7", {.caption = "Chapter"}};          // the book that is read next
+  forms::ProgressBar pbar{frmscale_, "pbar", {.name = "Books searched"}};  // books read so far
   // Cancels the search.
-  forms::CommandButton Command25{panels_.frmscale, "Command25", {.caption = "Cancel"}};
+  forms::CommandButton Command25{frmscale_, "Command25", {.caption = "Cancel"}};
 
   // Reads one book of the whole text at each tick.
   forms::Timer tmrb{reader_.form, "tmrb", {.enabled = false, .interval = 1}};
   // On the builder's panel: the length of its caption is the margin of the whole-text scan.
-  forms::Label wrd{panels_.Frame2, "wrd", {.caption = "Label32"}};
+  forms::Label wrd{Frame2_, "wrd", {.caption = "Label32"}};
 
   int SearchBookIndex = 0;  // the next book of a scan of the whole text
 

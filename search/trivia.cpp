@@ -10,11 +10,15 @@ constexpr int kQuestions = 1;  // slot
 
 }  // namespace
 
-Trivia::Trivia(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-               reader::Menus& menus, reader::ErrorReport& the_error_report)
-    : reader_(the_reader), panels_(the_panels), tools_(the_tools), error_report_(the_error_report) {
+Trivia::Trivia(reader::Reader& the_reader, forms::PictureBox& Picture17, forms::PictureBox& picp,
+               reader::ToolButtons& the_tools, forms::Menu& cc4, reader::ErrorReport& the_error_report)
+    : reader_(the_reader),
+      Picture17_(Picture17),
+      picp_(picp),
+      tools_(the_tools),
+      error_report_(the_error_report) {
   tools_.Command2.Click = [this] { Command2_Click(); };
-  menus.cc4.Click = [this] { cc4_Click(); };
+  cc4.Click = [this] { cc4_Click(); };
   Command29.Click = [this] { Command29_Click(); };
   Command31.Click = [this] { Command31_Click(); };
   Command28.Click = [this] { Command28_Click(); };
@@ -105,15 +109,15 @@ void Trivia::Command31_Click() {
 }
 
 void Trivia::Command2_Click() {
-  panels_.picp.Visible = false;
-  panels_.Picture17.Visible = true;
+  picp_.Visible = false;
+  Picture17_.Visible = true;
   tools_.Disable();
 }
 
-void Trivia::cc4_Click() { panels_.Picture17.Visible = true; }
+void Trivia::cc4_Click() { Picture17_.Visible = true; }
 
 void Trivia::Command28_Click() {
-  panels_.Picture17.Visible = false;
+  Picture17_.Visible = false;
   tools_.Enable();
 }
 

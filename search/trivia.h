@@ -7,8 +7,9 @@
 #include <cstdint>
 
 #include "forms/label.h"
+#include "forms/menu.h"
+#include "forms/picture_box.h"
 #include "reader/error_report.h"
-#include "reader/menus.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 
@@ -16,8 +17,8 @@ namespace lectern::search {
 
 class Trivia {
  public:
-  Trivia(reader::Reader& the_reader, reader::Panels& the_panels, reader::ToolButtons& the_tools,
-         reader::Menus& menus, reader::ErrorReport& the_error_report);
+  Trivia(reader::Reader& the_reader, forms::PictureBox& Picture17, forms::PictureBox& picp,
+         reader::ToolButtons& the_tools, forms::Menu& cc4, reader::ErrorReport& the_error_report);
 
  private:
   // What a question and its answer are read into.
@@ -39,21 +40,22 @@ class Trivia {
   std::string DataFile() const;
 
   reader::Reader& reader_;
-  reader::Panels& panels_;
+  forms::PictureBox& Picture17_;
+  forms::PictureBox& picp_;
   reader::ToolButtons& tools_;
   reader::ErrorReport& error_report_;
 
-  forms::Label lbltrivia{panels_.Picture17, "lbltrivia", {.caption = "CODEX TRIVIA"}};  // heading
+  forms::Label lbltrivia{Picture17_, "lbltrivia", {.caption = "CODEX TRIVIA"}};  // heading
   // The question, which is the key to its answer.
-  forms::Label Label25{panels_.Picture17, "Label25", {.caption = "Press Question to begin"}};
-  forms::Label Label26{panels_.Picture17, "Label26"};  // the answer
+  forms::Label Label25{Picture17_, "Label25", {.caption = "Press Question to begin"}};
+  forms::Label Label26{Picture17_, "Label26"};  // the answer
   // Numbers of the questions asked, the oldest first.
-  forms::ListBox List3{panels_.Picture17, "List3", {.visible = false, .name = "Questions asked"}};
+  forms::ListBox List3{Picture17_, "List3", {.visible = false, .name = "Questions asked"}};
   // Asks the next question.
-  forms::CommandButton Command29{panels_.Picture17, "Command29", {.caption = "Question", .is_default = true}};
-  forms::CommandButton Command31{panels_.Picture17, "Command31", {.caption = "Answer"}};  // shows the answer
+  forms::CommandButton Command29{Picture17_, "Command29", {.caption = "Question", .is_default = true}};
+  forms::CommandButton Command31{Picture17_, "Command31", {.caption = "Answer"}};  // shows the answer
   // Closes the panel.
-  forms::CommandButton Command28{panels_.Picture17, "Command28", {.caption = "Close", .is_cancel = true}};
+  forms::CommandButton Command28{Picture17_, "Command28", {.caption = "Close", .is_cancel = true}};
 
   std::int16_t QuestionNumber = 0;
 };

@@ -7,7 +7,6 @@ namespace lectern::ui {
 
 Form1::Form1(forms::Services services, const OtherWindows& others)
     : Window(services, "Form1", base::kProgramName), others_(others) {
-  start_up_.ReadSettings = [this] { settings_.ReadSettings(); };
   settings_.PointAtSearchButton = [this](int pointer) { text_search_.Command22.MousePointer = pointer; };
   text_search_.ShowHelpNote = [this](const std::string& text) { help_.ShowNote(text); };
   viewer_.OpenPaint = [this, open_paint = others.OpenPaint] { open_paint(viewer_.pick.Picture); };

@@ -18,8 +18,6 @@
 #include "reader/chapter_counts.h"
 #include "reader/error_report.h"
 #include "reader/exits.h"
-#include "reader/menus.h"
-#include "reader/panels.h"
 #include "reader/reader.h"
 #include "reader/second_pane.h"
 #include "reader/settings.h"
@@ -34,6 +32,8 @@
 #include "search/result_navigation.h"
 #include "search/text_search.h"
 #include "search/trivia.h"
+#include "ui/menus.h"
+#include "ui/panels.h"
 
 namespace lectern::ui {
 
@@ -59,39 +59,43 @@ class Form1 : public forms::Window {
   gallery::Viewer& PictureViewer() { return viewer_; }
 
  private:
-  reader::Menus menus_{*this};
-  reader::Panels panels_{*this};
-  reader::ToolButtons tools_{panels_};
-  reader::Reader reader_{*this, panels_};
-  reader::SecondPane second_pane_{panels_};
-  reader::Settings settings_{reader_, panels_, second_pane_, menus_, tools_};
+  Menus menus_{*this};
+  Panels panels_{*this};
+  reader::ToolButtons tools_{panels_.Picture6};
+  reader::Reader reader_{*this, panels_.frms, panels_.Picture1, panels_.Frame1};
+  reader::SecondPane second_pane_{panels_.Picture4};
+  reader::Settings settings_{reader_,      panels_.Picture23, panels_.Coloured(),
+                             second_pane_, menus_.oo11,       tools_};
   reader::ErrorReport error_report_{reader_};
   reader::ChapterCounts chapter_counts_{reader_};
-  reader::Stories stories_{reader_, menus_};
-  search::TextSearch text_search_{reader_, panels_, tools_, menus_};
-  search::ResultNavigation result_navigation_{reader_, panels_, text_search_};
-  search::ConcordanceViewer concordance_viewer_{reader_, panels_, tools_, menus_, text_search_};
+  reader::Stories stories_{reader_, menus_.dd1};
+  search::TextSearch text_search_{reader_,      panels_.frms, panels_.frmscale, panels_.Frame2,
+                                  panels_.picp, tools_,       menus_.cc3};
+  search::ResultNavigation result_navigation_{reader_, panels_.frmc, text_search_};
+  search::ConcordanceViewer concordance_viewer_{reader_, panels_.frmc, panels_.picp,
+                                                tools_,  menus_.cc1,   text_search_};
   search::ConcordanceEditing concordance_editing_{
-      reader_, panels_, error_report_, text_search_, result_navigation_, concordance_viewer_};
-  search::ConcordanceBuilder concordance_builder_{reader_, panels_, text_search_};
-  search::OnePassBuilder one_pass_builder_{reader_, panels_, text_search_, concordance_builder_};
-  search::Dictionary dictionary_{reader_, panels_, tools_, menus_, error_report_};
-  search::Trivia trivia_{reader_, panels_, tools_, menus_, error_report_};
-  aids::Bookmarks bookmarks_{reader_, panels_, tools_, menus_};
-  aids::PagePrinting page_printing_{reader_, panels_, others_.Form2};
-  aids::NotesDoors notes_doors_{panels_, tools_, menus_, others_.notes};
-  aids::Help help_{reader_, panels_, tools_, menus_};
-  gallery::PictureCatalogue pictures_{reader_, panels_};
-  gallery::Viewer viewer_{pictures_, panels_};
-  gallery::Browser browser_{pictures_, viewer_, panels_};
-  gallery::Maintenance maintenance_{pictures_, browser_, panels_};
+      reader_,      panels_.frmc,       panels_.Frame2,     error_report_,
+      text_search_, result_navigation_, concordance_viewer_};
+  search::ConcordanceBuilder concordance_builder_{reader_, panels_.frms, panels_.frmscale, panels_.Frame2,
+                                                  text_search_};
+  search::OnePassBuilder one_pass_builder_{reader_, panels_.Frame2, text_search_, concordance_builder_};
+  search::Dictionary dictionary_{reader_, panels_.frmd, panels_.picp, tools_, menus_.cc2, error_report_};
+  search::Trivia trivia_{reader_, panels_.Picture17, panels_.picp, tools_, menus_.cc4, error_report_};
+  aids::Bookmarks bookmarks_{reader_, panels_.Picture1, panels_.Picture2, panels_.picp, tools_, menus_.xb};
+  aids::PagePrinting page_printing_{reader_, panels_.Picture1, others_.Form2};
+  aids::NotesDoors notes_doors_{panels_.picp, tools_, menus_.cc0, others_.notes};
+  aids::Help help_{reader_, panels_.frmhelp, tools_, menus_.xh2, menus_.aboutlt, menus_.webb1, menus_.webb2};
+  gallery::PictureCatalogue pictures_{reader_, panels_.Frame5, panels_.Frame6, panels_.picp};
+  gallery::Viewer viewer_{pictures_, panels_.picp};
+  gallery::Browser browser_{pictures_, viewer_, panels_.Picture5, panels_.picp};
+  gallery::Maintenance maintenance_{pictures_, browser_, panels_.Frame5, panels_.Frame6};
   gallery::OldCatalogue old_catalogue_{pictures_, viewer_};
-  gallery::OlderList older_list_{pictures_, panels_};
-  gallery::BookConverter book_converter_{panels_};
-  reader::StartUp start_up_{reader_,
-                            {pictures_.Dirpics, bookmarks_.File1, concordance_builder_.Text2,
-                             settings_.Combo1, settings_.Combo2, settings_.Combo3}};
-  reader::Exits exits_{reader_, menus_, tools_, {settings_.Combo1, settings_.Combo2, settings_.Combo3}};
+  gallery::OlderList older_list_{pictures_, panels_.Frame5, panels_.Frame6};
+  gallery::BookConverter book_converter_{panels_.Frame5};
+  reader::StartUp start_up_{
+      reader_, settings_, {pictures_.Dirpics, bookmarks_.File1, concordance_builder_.Text2}};
+  reader::Exits exits_{reader_, settings_, tools_, menus_.xx, menus_.oo12};
 };
 
 }  // namespace lectern::ui

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/kit/test_window.h"
+#include "ui/panels.h"
 
 namespace lectern {
 namespace {
@@ -10,8 +11,8 @@ namespace {
 // ODDITY(concordance-missing): a missing file of any name is told as the concordance's.
 TEST(ErrorReport, TellsAMissingFileAndAnyOtherFailure) {
   TestWindow test;
-  reader::Panels panels(test.form);
-  reader::Reader reader(test.form, panels);
+  ui::Panels panels(test.form);
+  reader::Reader reader(test.form, panels.frms, panels.Picture1, panels.Frame1);
   reader::ErrorReport report(reader);
   reader.List1.Visible = false;
 

@@ -2,6 +2,7 @@
 
 #include "reader/reader.h"
 #include "tests/kit/test_window.h"
+#include "ui/panels.h"
 
 namespace lectern {
 namespace {
@@ -58,8 +59,8 @@ TEST(Reference, SaysWhatTheTextDoesNotHave) {
   TestWindow test;
   test.folder.Write("KJV/John.txt", "Chapter 1\r\n1   a\r\n2   b\r\nChapter 2\r\n1   c\r\n");
   test.folder.Write("KJV/Jude.txt", "Chapter 1\r\n1   a\r\n2   b\r\n3   c\r\n");
-  reader::Panels panels(test.form);
-  reader::Reader reader(test.form, panels);
+  ui::Panels panels(test.form);
+  reader::Reader reader(test.form, panels.frms, panels.Picture1, panels.Frame1);
   reader.Dir3.Path = reader.DataFile("KJV");
   const struct {
     const char* typed;

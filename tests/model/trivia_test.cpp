@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/kit/test_window.h"
+#include "ui/menus.h"
+#include "ui/panels.h"
 
 namespace lectern {
 namespace {
@@ -22,12 +24,12 @@ struct Game {
   }
 
   TestWindow test;
-  reader::Panels panels{test.form};
-  reader::ToolButtons tools{panels};
-  reader::Menus menus{test.form};
-  reader::Reader reader{test.form, panels};
+  ui::Panels panels{test.form};
+  reader::ToolButtons tools{panels.Picture6};
+  ui::Menus menus{test.form};
+  reader::Reader reader{test.form, panels.frms, panels.Picture1, panels.Frame1};
   reader::ErrorReport error_report{reader};
-  search::Trivia trivia{reader, panels, tools, menus, error_report};
+  search::Trivia trivia{reader, panels.Picture17, panels.picp, tools, menus.cc4, error_report};
   forms::ListBox& history{dynamic_cast<forms::ListBox&>(*test.form.Find("List3"))};
 };
 

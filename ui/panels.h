@@ -1,20 +1,24 @@
-// The panels of the main window: what the features lie in. Those that open over the reading area are hidden
-// at the start; the frames that stand beyond the right edge are the program's storage and the keeper's
-// bench, and no reader comes to them.
+// The panels of the main window, in which the features lie. Those that open over the reading area are hidden
+// at the start; the frames beyond the right edge are the program's storage and the keeper's bench.
 #pragma once
+
+#include <vector>
 
 #include "forms/frame.h"
 #include "forms/label.h"
 #include "forms/picture_box.h"
 #include "forms/window.h"
 
-namespace lectern::reader {
+namespace lectern::ui {
 
 class Panels {
   forms::Window& form_;
 
  public:
   explicit Panels(forms::Window& form);
+
+  // What a colour picked on the settings panel colours, in this order.
+  std::vector<forms::PlacedControl*> Coloured();
 
   forms::PictureBox Picture6{form_, "Picture6"};  // the row of tool buttons
   forms::PictureBox Picture5{form_, "Picture5"};  // the strip of pictures
@@ -48,4 +52,4 @@ class Panels {
   forms::Frame Frame6{Frame5, "Frame6", {.caption = "needs"}};  // storage in Frame5: the picture lists
 };
 
-}  // namespace lectern::reader
+}  // namespace lectern::ui

@@ -1,11 +1,11 @@
-// The menu bar of the main window. The entries stand here in the order in which they show; each feature
-// joins its handlers to its own, and the stories add theirs under dd1.
+// The menu bar of the main window. The entries stand here in the order in which they show. Each feature is
+// given its own and joins its handlers to them; the stories add theirs under dd1.
 #pragma once
 
 #include "forms/menu.h"
 #include "forms/window.h"
 
-namespace lectern::reader {
+namespace lectern::ui {
 
 class Menus {
   forms::Window& form_;
@@ -42,4 +42,4 @@ class Menus {
   forms::Menu xh2{xh, "xh2", {.caption = "Help"}};           // opens the help
 };
 
-}  // namespace lectern::reader
+}  // namespace lectern::ui
