@@ -58,12 +58,13 @@ std::string OutputOf(const std::string& command, const std::string& program, con
     throw Obstacle("The program '" + program + "' is missing. " + install);
   }
   std::FILE* const pipe = ::popen((command + " 2>/dev/null").c_str(), "r");
-  if (pipe == nullptr) throw Obstacle("'" + program + "' could not be started. " + install);
+  if (pipe == nullptr) throw Obstacle("The program '" + program + "' cannot be started. " + install);
   std::string output;
   char buffer[1 << 16];
   while (const std::size_t taken = std::fread(buffer, 1, sizeof buffer, pipe)) output.append(buffer, taken);
-  ::pclose(pipe);
-  if (output.empty()) throw Obstacle("'" + program + "' gives nothing. " + install);
+  const bool succeeded = ::pclose(pipe) == 0;
+  if (!succeeded) throw Obstacle("The program '" + program + "' failed. " + install);
+  if (output.empty()) throw Obstacle("The program '" + program + "' printed nothing. " + install);
   return output;
 }
 
