@@ -14,6 +14,7 @@ SaveSlots::SaveSlots(forms::Window& the_form, Canvas& the_canvas, Zoom& the_zoom
 
 void SaveSlots::TakeSnapshot(const std::string& scratch_file) {
   forms::PictureBox& picbox = canvas_.picbox;
+  // ODDITY(first-strokes-fade): until the first state is kept, strokes reach only the screen.
   picbox.AutoRedraw = true;
   if (zoom_.txt5.Text == "0" && picbox.Picture()) {
     const base::Ignoring ignore;

@@ -16,7 +16,7 @@ click Form1.Command32
   Form4.picbox picture 1x1
 set Form4.picbox.Width = 600; set Form4.picbox.Height = 600
   Form4.picbox.Point(20,20) 16777215
-# Before a swatch or a brush is clicked, a stroke is seen and is no part of the picture.
+# Before a swatch or a brush is clicked, a stroke is seen but not part of the picture. ODDITY(first-strokes-fade)
 mousedown Form4.picbox 1 0 20 20
   Form4.picbox.Point(20,20) 16777215
 mousedown Form4.clrboxs(0) 1 0 5 5
