@@ -17,8 +17,8 @@ Version ReadWorldEnglish();
 // A person's own second version: one verse a line ("Ge1:1 In the …"), or OSIS XML.
 Version ReadOwnText(const std::string& path);
 
-// The output of a command of the distribution; an Obstacle that names the package where the command is missing,
-// fails or prints nothing.
+// The output of a command of the distribution; an Obstacle that names the package where the command is
+// missing, fails or prints nothing.
 std::string OutputOf(const std::string& command, const std::string& program, const std::string& packages);
 
 // The font that a serif text shows in on this machine.
