@@ -54,7 +54,6 @@ void Help::LeaveAbout() {
 void Help::xh2_Click() { frmhelp_.Visible = true; }
 
 void Help::lblhp_Click(int index) {
-  if (index < 0 || index >= static_cast<int>(kTopicFiles.size())) return;
   txthelp.LoadFile(reader_.DataFile(kTopicFiles[static_cast<std::size_t>(index)]));
   LeaveAbout();
 }

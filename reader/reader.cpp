@@ -1,6 +1,6 @@
 #include "reader/reader.h"
 
-#include <algorithm>
+#include <cassert>
 
 #include "base/error_modes.h"
 #include "base/text/characters.h"
@@ -57,6 +57,21 @@ void Reader::ChangeVersion(const Version& version) {
   LBLVR.Caption = std::string(version.name);
   Dir3.Path = DataFile(version.folder);
   Reload("1");
+}
+
+void Reader::ReportError(const base::RunTimeError& error) {
+  List1.Visible = true;
+  base::Platform& platform = form.Platform();
+  if (error.Is(base::ErrorNumber::kFileNotFound)) {
+    // ODDITY(concordance-missing): every missing file is told as the concordance's; it is meant.
+    platform.Message(std::string(kVersions[0].concordance) + " missing from " + Dir1.Path);
+  } else {
+    platform.Message(
+        "An error (" + std::to_string(error.number()) +
+        " ) has occured during proccessing your request. Click HELP, for information on possible "
+        "sources causing the error. ");
+  }
+  platform.Beep();
 }
 
 void Reader::lblc_Change() {
@@ -130,6 +145,7 @@ void Reader::ShowPassage(const std::string& book, const std::string& chapter) {
 // ODDITY(blank-behind-the-book): the name gets its trailing blank, so that the catalogue does not know the
 // book and the chapter bar keeps the range of the one before; it is meant.
 void Reader::ShowFoundPassage(const std::string& name_with_blank, const std::string& chapter) {
+  assert(!name_with_blank.empty());
   const std::size_t length = text::Length(name_with_blank);
   ShowPassage(std::string(text::Left(name_with_blank, length - 1)), chapter);
   lblbk.Caption = "";

@@ -68,6 +68,7 @@ class Reader {
   // The same for an entry of a search, whose name ends in the blank that stands in front of its chapter. The
   // name keeps the blank, so that no chapter count is found and the bar keeps its range, but the picture
   // lists are filled anew. The open search panel keeps the bar from going back to chapter 1.
+  // Requires: the name is not empty.
   void ShowFoundPassage(const std::string& name_with_blank, const std::string& chapter);
 
   // Goes to a book with its chapter written first. The chapter loads in the book before, and the name that
@@ -101,6 +102,9 @@ class Reader {
   // Reads a reference that a person typed, and looks whether the text of the current version has the place.
   // Of a book with a single chapter the only number is the verse.
   FoundReference Find(std::string_view typed) const;
+
+  // The general report of a failure, at the end of error paths all over the window: a message and a beep.
+  void ReportError(const base::RunTimeError& error);
 
   // A file of the data folder, and one of the version that is set: "…\KJV\Exodus.txt", "…\NEW\NExodus.txt".
   std::string DataFile(std::string_view name) const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <charconv>
 #include <limits>
 
@@ -192,6 +193,7 @@ std::string ReferenceText(std::string_view book, std::string_view chapter, std::
 }
 
 std::string ReferenceText(const Reference& reference) {
+  assert(reference.book >= 0 && reference.book < static_cast<int>(kCanon.size()));
   const std::string book(kCanon[static_cast<std::size_t>(reference.book)]);
   if (reference.chapter == 0) return book;
   const std::string chapter = std::to_string(reference.chapter);

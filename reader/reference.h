@@ -30,6 +30,7 @@ std::optional<ReadReferenceResult> ReadReference(std::string_view text);
 // "1 Peter 2:6", or with another character between chapter and verse.
 std::string ReferenceText(std::string_view book, std::string_view chapter, std::string_view verse,
                           char between = ':');
+// Requires: the book is one of the canon.
 std::string ReferenceText(const Reference& reference);  // without the parts that are not given
 
 // What a person typed, held against the text.

@@ -25,7 +25,12 @@ class ToolButtons {
   forms::CommandButton Command1{Picture6_, "Command1", {.caption = "E&xit"}};          // exit
 
  private:
-  void Set(bool enabled);
+  void Set(bool enabled) {
+    for (forms::CommandButton* button :
+         {&Command3, &Command16, &Command8, &Command2, &Command14, &Command17}) {
+      button->Enabled = enabled;
+    }
+  }
 };
 
 }  // namespace lectern::reader

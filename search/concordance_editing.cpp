@@ -15,12 +15,11 @@ constexpr int kWorkFile = 2;
 }  // namespace
 
 ConcordanceEditing::ConcordanceEditing(reader::Reader& the_reader, forms::Frame& frmc, forms::Frame& Frame2,
-                                       reader::ErrorReport& the_report, TextSearch& the_search,
-                                       ResultNavigation& the_results, ConcordanceViewer& the_viewer)
+                                       TextSearch& the_search, ResultNavigation& the_results,
+                                       ConcordanceViewer& the_viewer)
     : reader_(the_reader),
       frmc_(frmc),
       Frame2_(Frame2),
-      report_(the_report),
       search_(the_search),
       results_(the_results),
       viewer_(the_viewer) {
@@ -38,7 +37,7 @@ void ConcordanceEditing::cmdadd_Click() {
     for (int i = 0; i < search_.lsts.ListCount(); ++i) AddEntry(search_.lsts.List(i));
     reader_.form.Platform().Message(text::Upper(search_.txts.Text()) + " has been added to the Concordance");
   } catch (const base::RunTimeError& error) {
-    report_.ReportError(error);
+    reader_.ReportError(error);
   }
 }
 

@@ -4,7 +4,7 @@
 
 #include "forms/buttons.h"
 #include "forms/frame.h"
-#include "reader/error_report.h"
+#include "reader/reader.h"
 #include "search/concordance_viewer.h"
 #include "search/result_navigation.h"
 #include "search/text_search.h"
@@ -15,15 +15,13 @@ class ConcordanceEditing {
   reader::Reader& reader_;
   forms::Frame& frmc_;
   forms::Frame& Frame2_;
-  reader::ErrorReport& report_;
   TextSearch& search_;
   ResultNavigation& results_;
   ConcordanceViewer& viewer_;
 
  public:
   ConcordanceEditing(reader::Reader& the_reader, forms::Frame& frmc, forms::Frame& Frame2,
-                     reader::ErrorReport& the_report, TextSearch& the_search, ResultNavigation& the_results,
-                     ConcordanceViewer& the_viewer);
+                     TextSearch& the_search, ResultNavigation& the_results, ConcordanceViewer& the_viewer);
 
   // Deletes the chosen word.
   forms::CommandButton Command21{frmc_, "Command21", {.caption = "Delete Word/Phrase"}};

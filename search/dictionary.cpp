@@ -23,9 +23,8 @@ void ReadRecord(files::FileSlots& slots, Record& record) {
 }  // namespace
 
 Dictionary::Dictionary(reader::Reader& the_reader, forms::Frame& frmd, forms::PictureBox& picp,
-                       reader::ToolButtons& the_tools, forms::Menu& cc2,
-                       reader::ErrorReport& the_error_report)
-    : reader_(the_reader), frmd_(frmd), picp_(picp), tools_(the_tools), error_report_(the_error_report) {
+                       reader::ToolButtons& the_tools, forms::Menu& cc2)
+    : reader_(the_reader), frmd_(frmd), picp_(picp), tools_(the_tools) {
   tools_.Command17.Click = [this] { Command17_Click(); };
   cc2.Click = [this] { cc2_Click(); };
   lstd.MouseDown = [this](const forms::MouseEvent&) { lstd_MouseDown(); };
@@ -53,7 +52,7 @@ bool Dictionary::LoadWords() {
     return true;
   } catch (const base::RunTimeError& error) {
     slots.Close(kWords);
-    error_report_.ReportError(error);
+    reader_.ReportError(error);
     return false;
   }
 }

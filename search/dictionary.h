@@ -9,7 +9,6 @@
 #include "forms/menu.h"
 #include "forms/picture_box.h"
 #include "forms/shape.h"
-#include "reader/error_report.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 
@@ -18,7 +17,7 @@ namespace lectern::search {
 class Dictionary {
  public:
   Dictionary(reader::Reader& the_reader, forms::Frame& frmd, forms::PictureBox& picp,
-             reader::ToolButtons& the_tools, forms::Menu& cc2, reader::ErrorReport& the_error_report);
+             reader::ToolButtons& the_tools, forms::Menu& cc2);
 
  private:
   void Command17_Click();
@@ -35,7 +34,6 @@ class Dictionary {
   forms::Frame& frmd_;
   forms::PictureBox& picp_;
   reader::ToolButtons& tools_;
-  reader::ErrorReport& error_report_;
 
   // The words, in file order.
   forms::ListBox lstd{frmd_, "lstd", {.name = "Words of the dictionary"}};

@@ -1,5 +1,7 @@
 #include "search/one_pass_builder.h"
 
+#include <cassert>
+
 #include "base/text/characters.h"
 #include "base/text/letter_case.h"
 #include "base/text/numbers.h"
@@ -71,6 +73,7 @@ void OnePassBuilder::TakeFindings(const std::string& word, const std::string& bo
     const std::string_view entry = findings.entries[i];
     const std::size_t verse = entry.rfind(' ');
     const std::size_t chapter = entry.rfind(' ', verse - 1);
+    assert(verse != std::string_view::npos && chapter != std::string_view::npos);
     reader_.form.Slots().WriteRecord(kTarget, " " + text::Upper(word), book,
                                      text::RoundToLong(text::LeadingDigits(entry.substr(chapter + 1))),
                                      text::RoundToLong(text::LeadingDigits(entry.substr(verse + 1))));

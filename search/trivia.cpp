@@ -11,12 +11,8 @@ constexpr int kQuestions = 1;  // slot
 }  // namespace
 
 Trivia::Trivia(reader::Reader& the_reader, forms::PictureBox& Picture17, forms::PictureBox& picp,
-               reader::ToolButtons& the_tools, forms::Menu& cc4, reader::ErrorReport& the_error_report)
-    : reader_(the_reader),
-      Picture17_(Picture17),
-      picp_(picp),
-      tools_(the_tools),
-      error_report_(the_error_report) {
+               reader::ToolButtons& the_tools, forms::Menu& cc4)
+    : reader_(the_reader), Picture17_(Picture17), picp_(picp), tools_(the_tools) {
   tools_.Command2.Click = [this] { Command2_Click(); };
   cc4.Click = [this] { cc4_Click(); };
   Command29.Click = [this] { Command29_Click(); };
@@ -89,7 +85,7 @@ void Trivia::Command29_Click() {
     AskQuestion();
   } catch (const base::RunTimeError& error) {
     Command29.MousePointer = forms::kPointerDefault;
-    error_report_.ReportError(error);
+    reader_.ReportError(error);
   }
 }
 

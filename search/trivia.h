@@ -9,7 +9,6 @@
 #include "forms/label.h"
 #include "forms/menu.h"
 #include "forms/picture_box.h"
-#include "reader/error_report.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 
@@ -18,7 +17,7 @@ namespace lectern::search {
 class Trivia {
  public:
   Trivia(reader::Reader& the_reader, forms::PictureBox& Picture17, forms::PictureBox& picp,
-         reader::ToolButtons& the_tools, forms::Menu& cc4, reader::ErrorReport& the_error_report);
+         reader::ToolButtons& the_tools, forms::Menu& cc4);
 
  private:
   // What a question and its answer are read into.
@@ -43,7 +42,6 @@ class Trivia {
   forms::PictureBox& Picture17_;
   forms::PictureBox& picp_;
   reader::ToolButtons& tools_;
-  reader::ErrorReport& error_report_;
 
   forms::Label lbltrivia{Picture17_, "lbltrivia", {.caption = "CODEX TRIVIA"}};  // heading
   // The question, which is the key to its answer.

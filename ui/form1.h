@@ -16,12 +16,10 @@
 #include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"
 #include "reader/chapter_counts.h"
-#include "reader/error_report.h"
-#include "reader/exits.h"
 #include "reader/reader.h"
 #include "reader/second_pane.h"
+#include "reader/session.h"
 #include "reader/settings.h"
-#include "reader/start_up.h"
 #include "reader/stories.h"
 #include "reader/tool_buttons.h"
 #include "search/concordance_builder.h"
@@ -66,7 +64,6 @@ class Form1 : public forms::Window {
   reader::SecondPane second_pane_{panels_.Picture4};
   reader::Settings settings_{reader_,      panels_.Picture23, panels_.Coloured(),
                              second_pane_, menus_.oo11,       tools_};
-  reader::ErrorReport error_report_{reader_};
   reader::ChapterCounts chapter_counts_{reader_};
   reader::Stories stories_{reader_, menus_.dd1};
   search::TextSearch text_search_{reader_,      panels_.frms, panels_.frmscale, panels_.Frame2,
@@ -74,14 +71,13 @@ class Form1 : public forms::Window {
   search::ResultNavigation result_navigation_{reader_, panels_.frmc, text_search_};
   search::ConcordanceViewer concordance_viewer_{reader_, panels_.frmc, panels_.picp,
                                                 tools_,  menus_.cc1,   text_search_};
-  search::ConcordanceEditing concordance_editing_{
-      reader_,      panels_.frmc,       panels_.Frame2,     error_report_,
-      text_search_, result_navigation_, concordance_viewer_};
+  search::ConcordanceEditing concordance_editing_{reader_,      panels_.frmc,       panels_.Frame2,
+                                                  text_search_, result_navigation_, concordance_viewer_};
   search::ConcordanceBuilder concordance_builder_{reader_, panels_.frms, panels_.frmscale, panels_.Frame2,
                                                   text_search_};
   search::OnePassBuilder one_pass_builder_{reader_, panels_.Frame2, text_search_, concordance_builder_};
-  search::Dictionary dictionary_{reader_, panels_.frmd, panels_.picp, tools_, menus_.cc2, error_report_};
-  search::Trivia trivia_{reader_, panels_.Picture17, panels_.picp, tools_, menus_.cc4, error_report_};
+  search::Dictionary dictionary_{reader_, panels_.frmd, panels_.picp, tools_, menus_.cc2};
+  search::Trivia trivia_{reader_, panels_.Picture17, panels_.picp, tools_, menus_.cc4};
   aids::Bookmarks bookmarks_{reader_, panels_.Picture1, panels_.Picture2, panels_.picp, tools_, menus_.xb};
   aids::PagePrinting page_printing_{reader_, panels_.Picture1, others_.Form2};
   aids::NotesDoors notes_doors_{panels_.picp, tools_, menus_.cc0, others_.notes};

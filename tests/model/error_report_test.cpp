@@ -1,7 +1,6 @@
-#include "reader/error_report.h"
-
 #include <gtest/gtest.h>
 
+#include "reader/reader.h"
 #include "tests/kit/test_window.h"
 #include "ui/panels.h"
 
@@ -13,17 +12,16 @@ TEST(ErrorReport, TellsAMissingFileAndAnyOtherFailure) {
   TestWindow test;
   ui::Panels panels(test.form);
   reader::Reader reader(test.form, panels.frms, panels.Picture1, panels.Frame1);
-  reader::ErrorReport report(reader);
   reader.List1.Visible = false;
 
-  report.ReportError(base::RunTimeError(base::ErrorNumber::kFileNotFound));
+  reader.ReportError(base::RunTimeError(base::ErrorNumber::kFileNotFound));
   EXPECT_EQ(test.events,
             (std::vector<std::string>{
                 "message \"CONCORD.DAT missing from " + test.folder.Path() + "\" \"Lectern 2\"", "beep"}));
   EXPECT_TRUE(reader.List1.Visible);
 
   test.events.clear();
-  report.ReportError(base::RunTimeError(base::ErrorNumber::kFileAlreadyOpen));
+  reader.ReportError(base::RunTimeError(base::ErrorNumber::kFileAlreadyOpen));
   EXPECT_EQ(
       test.events[0],
       "message \"An error (55 ) has occured during proccessing your request. Click HELP, for information on "

@@ -28,8 +28,7 @@ struct Game {
   reader::ToolButtons tools{panels.Picture6};
   ui::Menus menus{test.form};
   reader::Reader reader{test.form, panels.frms, panels.Picture1, panels.Frame1};
-  reader::ErrorReport error_report{reader};
-  search::Trivia trivia{reader, panels.Picture17, panels.picp, tools, menus.cc4, error_report};
+  search::Trivia trivia{reader, panels.Picture17, panels.picp, tools, menus.cc4};
   forms::ListBox& history{dynamic_cast<forms::ListBox&>(*test.form.Find("List3"))};
 };
 
