@@ -64,7 +64,7 @@ void Bookmarks::Command3_Click() {
 }
 
 // ODDITY(bookmark-doors): the menu's door leaves the picture open and the tool buttons enabled, the tool
-// button's own does not; it is meant.
+// button's own does not.
 void Bookmarks::xb_Click() {
   Picture1_.Visible = true;
   reader_.LBLMRK(1).Caption = reader_.Stem();
@@ -91,7 +91,7 @@ void Bookmarks::Command10_Click() {
   const std::string name = AskForName(reader_.form.Platform(), "Enter a name for bookmark", "Enter Name");
   if (name.empty()) return;
   // ODDITY(new-keeps-place): under a name that exists the record goes behind the one that is there, which
-  // alone is ever read, so that the old place stays in force; it is meant. Update replaces a place.
+  // alone is ever read, so that the old place stays in force. Update replaces a place.
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForAppending(kBookmark, PathOf(name));
   WritePlace(name);
@@ -102,7 +102,7 @@ void Bookmarks::Command10_Click() {
 
 // ODDITY(update-by-label): the file is the one that the label names. With no bookmark in hand that is
 // `.bkm`; after a Delete it comes back; where a file's first field is not its name, another file is
-// written. The labels stay. It is meant.
+// written. The labels stay.
 void Bookmarks::Command6_Click() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
@@ -134,7 +134,7 @@ void Bookmarks::Leave() {
 }
 
 // ODDITY(sweeping-chapters): every movement of the pointer over the box is a chapter further, and nothing
-// stops it behind the last one; it is meant.
+// stops it behind the last one.
 void Bookmarks::Picture2_MouseMove() { reader_.StepToNextChapter(); }
 
 }  // namespace lectern::aids

@@ -59,7 +59,7 @@ void Help::lblhp_Click(int index) {
 }
 
 // ODDITY(help-close-unlocks): one of the two Close buttons enables the tool buttons, also where another open
-// panel has disabled them; it is meant.
+// panel has disabled them.
 void Help::Command4_Click() { frmhelp_.Visible = false; }
 
 void Help::Command44_Click() {
@@ -76,7 +76,7 @@ bool Help::OpenWebPage(const std::string& address) {
   constexpr std::string_view kScheme = "http";
   const bool has_scheme = text::EqualFolded(std::string_view(address).substr(0, kScheme.size()), kScheme);
   // ODDITY(bare-address-replaced): an address without its "http" is not completed but replaced by the default
-  // host; it is meant.
+  // host.
   return reader_.form.Platform().OpenInBrowser(has_scheme ? address : "http://" + std::string(kDefaultHost));
 }
 

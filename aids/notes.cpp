@@ -85,11 +85,11 @@ void Notes::HideChooser() {
 }
 
 // ODDITY(notes-folder-now): a note is written to the folder that the chooser shows now, not to the one that
-// it came from; it is meant.
+// it came from.
 std::string Notes::PathOf(const std::string& name) const { return Dir1.Path + "\\" + name + ".not"; }
 
 // ODDITY(note-grows): the line end behind the text is written each time, also where the text has brought
-// the one from the last time; so a note grows by an empty line with each load and save. It is meant.
+// the one from the last time; so a note grows by an empty line with each load and save.
 void Notes::AppendText(const std::string& name) {
   files::FileSlots& slots = form.Slots();
   slots.OpenForAppending(kNote, PathOf(name));
@@ -122,7 +122,7 @@ void Notes::Command2_Click() {
   if (name.empty()) return;
   // ODDITY(new-note-copies): a new note begins as a copy of what the editor holds; where there is a note of
   // that name, the text goes to its end, and where that is the note that is open, the editor goes on
-  // showing the old text. It is meant.
+  // showing the old text.
   AppendText(name);
   lblname.Caption = name;
   File1.Refresh();
@@ -136,7 +136,7 @@ void Notes::SaveNoteFile() {
 }
 
 // ODDITY(unsaved-stays-unsaved): a No leaves the text and its mark as they are, and the question comes again
-// at the next leaving; it is meant.
+// at the next leaving.
 void Notes::ConfirmSaveNote() {
   const std::string question =
       "File has been altered. Do you want to save changes to the file: " + lblname.Caption + "?";
@@ -156,13 +156,13 @@ void Notes::f4_Click() {
   if (!form.Platform().Question("Do you want to delete file: " + lblname.Caption + "?", "Delete File"))
     return;
   // ODDITY(deleted-note-stays): the note's name and text stay in the editor; saving it then fails, as there
-  // is no file to replace. It is meant.
+  // is no file to replace.
   form.Files().DeleteKeepingBackup(PathOf(lblname.Caption));
   ShowChooser();
 }
 
 // ODDITY(notes-print-nothing): what is printed is one empty line, and on the window's own face, where it is
-// not to be seen; it is meant.
+// not to be seen.
 void Notes::f6_Click() {
   constexpr double kLineHeight = 195;  // twips, in the window's font
   form.CurrentX = 0;
@@ -170,7 +170,7 @@ void Notes::f6_Click() {
 }
 
 // ODDITY(drive-fails): the choice of a drive is handed to something that does not exist; the folder is
-// chosen in its own list. It is meant.
+// chosen in its own list.
 void Notes::Drive1_Change() { throw base::RunTimeError(base::ErrorNumber::kObjectRequired); }
 
 // What a person sees in the title bar: which note this is, and whether something in it is not saved yet.

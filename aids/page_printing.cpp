@@ -20,7 +20,6 @@ PagePrinting::PagePrinting(reader::Reader& the_reader, forms::PictureBox& Pictur
 
 // ODDITY(print-page-empty): the button sees to it that there is a note of the bookmark's name, or of the name
 // NAME, and reads its first field; but nothing of it comes to the page, which shows what it showed before.
-// It is meant.
 void PagePrinting::Command30_Click() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();

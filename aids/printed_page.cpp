@@ -25,7 +25,7 @@ void PrintedPage::Command1_Click() {
   Command2.Visible = false;
   form.Height = kPrintedHeight;
   Text1.Height = Text1.Height + kMoreText;
-  // ODDITY(no-printer-untold): where no printer answers nothing is printed, and nothing is told; it is meant.
+  // ODDITY(no-printer-untold): where no printer answers nothing is printed, and nothing is told.
   ignore([&] { form.Platform().PrintForm(form); });
   Text1.Height = Text1.Height - kMoreText;
   form.Height = kHeight;

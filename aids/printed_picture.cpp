@@ -8,7 +8,7 @@ PrintedPicture::PrintedPicture(forms::Window& window) : form(window) {
   Command1.Click = [this] { Command1_Click(); };
 }
 
-// ODDITY(print-button-on-picture): the button stays where it is and so comes onto the paper; it is meant.
+// ODDITY(print-button-on-picture): the button stays where it is and so comes onto the paper.
 void PrintedPicture::Command1_Click() {
   try {
     form.Platform().PrintForm(form);
@@ -23,7 +23,7 @@ void PrintedPicture::PrintPaintPicture(const forms::Picture& picture) {
   Image1.Picture = picture;
   form.Visible = true;
   // ODDITY(print-picture-cut): the window gets the picture's size, frame and title bar included, so that the
-  // picture's right and lower edges lie outside; it is meant.
+  // picture's right and lower edges lie outside.
   form.Height = Image1.Height;
   form.Width = Image1.Width;
   form.Left = (screen.width - Image1.Width) / 2;

@@ -34,7 +34,7 @@ void BookConverter::Command33_Click() {
   slots.OpenForReading(kSource, scratch);
   NME.Caption = ReadBookName();
   const std::string book_file = Dir2.Path + "\\" + NME.Caption() + ".TXT";
-  // ODDITY(converted-twice-doubles): opened behind what an earlier conversion wrote. It is meant.
+  // ODDITY(converted-twice-doubles): opened behind what an earlier conversion wrote.
   slots.OpenForAppending(kBook, book_file);
   slots.PrintLine(kBook, NME.Caption());
   ConvertVerses();
@@ -80,7 +80,7 @@ void BookConverter::ConvertVerses() {
     std::string line(slots.ReadLine(kSource));
     if (line.starts_with('-')) {
       // ODDITY(dash-counts-a-chapter): a rule between chapters counts as one, and the number of the next is
-      // one too high. It is meant; readers count chapter lines and never read the number.
+      // one too high; readers count chapter lines and never read the number.
       ++chapter;
     } else if (line.starts_with('[')) {
       line = WholeVerse(line.substr(1));

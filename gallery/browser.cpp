@@ -30,7 +30,7 @@ void Browser::lblendpic_Change() {
   if (catalogue_.lblendpic.Caption == "") return;
   const int base = catalogue_.PageStart();
   // ODDITY(missing-picture-stops-the-page): a picture that cannot be loaded leaves the slots from there on as
-  // they were, and on a page turn it ends the program. It is meant.
+  // they were, and on a page turn it ends the program.
   for (int slot = 0; slot < kSlotsOnPage; ++slot) ShowSlot(slot, base + slot);
   ResetPictureLabels();
 }
@@ -44,7 +44,7 @@ void Browser::ShowSlot(int slot, int index) {
     return;
   }
   const std::string& name = catalogue_.lstmc(0).List(index);
-  // ODDITY(nameless-slot): a record without a name leaves its slot as it was. It is meant.
+  // ODDITY(nameless-slot): a record without a name leaves its slot as it was.
   if (name.empty()) return;
   const std::size_t book_length = text::Length(catalogue_.reader.Book());
   imgp(slot).Picture = form.LoadPicture(catalogue_.PictureFile(name));
@@ -59,7 +59,7 @@ void Browser::ResetPictureLabels() {
 void Browser::SSCommand3_Click() {
   forms::Label& lblendpic = catalogue_.lblendpic;
   // ODDITY(page-of-fillers): only a filler in the last slot stops it, so that a book of just five pictures,
-  // or ten, has one more page with nothing but fillers. It is meant.
+  // or ten, has one more page with nothing but fillers.
   if (Below(kSlotsOnPage - 1).Caption == kPastTheList) return;
   if (lblendpic.Caption == "lblendpic") {
     lblendpic.Caption = std::to_string(kFirstPage);
@@ -85,7 +85,7 @@ void Browser::imgp_Click(int slot) {
   }
   ignore([&] { Below(slot).ForeColor = kPickedColour; });
   // ODDITY(filler-opens-viewer): of a filler the bar refuses the index; the picked record is emptied, and
-  // the viewer opens with what it showed. It is meant.
+  // the viewer opens with what it showed.
   ignore([&] { catalogue_.picnm.Value = index; });
   // The bar may stand on picture 0 already, and then nothing has changed.
   if (slot == 0 && catalogue_.lblendpic.Caption == std::to_string(kFirstPage)) {

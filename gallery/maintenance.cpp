@@ -37,7 +37,7 @@ Maintenance::Picked Maintenance::FindPicked() {
   for (int i = kSlotsOnPage - 1; i >= 0; --i) {
     if (browser_.lblp(i).ForeColor == kPickedColour) slot = i;
   }
-  // ODDITY(no-pick-is-the-first): with no picture picked the tools take the first of the page. It is meant.
+  // ODDITY(no-pick-is-the-first): with no picture picked the tools take the first of the page.
   return {slot, catalogue_.PageStart() + slot};
 }
 
@@ -55,7 +55,7 @@ void Maintenance::Rewrite(const std::function<void(const PictureRecord&)>& decid
   const std::string page = catalogue_.lblendpic.Caption;
   const std::string fresh = reader_.DataFile("pics22.dat");
   // ODDITY(leftover-of-a-failed-rewrite): what an action that failed left in the new file stays at its top,
-  // so that those records stand twice in the catalogue. It is meant.
+  // so that those records stand twice in the catalogue.
   slots.OpenForAppending(kNew, fresh);
   slots.OpenForReading(kOld, catalogue_.CatalogueFile());
   while (!slots.EndOfFile(kOld)) {
@@ -79,7 +79,7 @@ void Maintenance::Command49_Click() {
   const std::string page = catalogue_.lblendpic.Caption;
   slots.OpenForAppending(kOld, catalogue_.CatalogueFile());
   // ODDITY(doubled-credit): the third box is meant for a bare name; after a click on a picture it holds a
-  // whole credit line, and the prefix stands twice. It is meant.
+  // whole credit line, and the prefix stands twice.
   WritePictureRecord(
       slots, kOld,
       {catalogue_.selfile(0).Text, catalogue_.selfile(1).Text, "PICTURES BY: " + catalogue_.selfile(2).Text});
@@ -115,7 +115,7 @@ void Maintenance::Command47_Click() {
     slots.Close(kRemoved);
     // ODDITY(remove-all-wants-a-path): the picture that is moved away lies in the folder of the text, in a
     // folder of its name, and is called "jpg"; where there is none, the action fails, the catalogue staying
-    // as it was, and ends the program. It is meant.
+    // as it was, and ends the program.
     reader_.form.Files().Rename(reader_.Dir3.Path + "\\" + kept_name + "\\jpg",
                                 reader_.Dir3.Path + "\\rem\\" + kept_name + "\\jpg");
   });
@@ -146,7 +146,7 @@ void Maintenance::Move(const std::string& held_name, const std::string& trigger_
 }
 
 // ODDITY(mark-after-a-move): the mark goes with the picture but from the first slot, where it is lost; from
-// the last slot it goes to the number above the first one, which stays red. It is meant.
+// the last slot it goes to the number above the first one, which stays red.
 void Maintenance::SSCommand1_Click() {
   const Picked picked = FindPicked();
   Move(NameAt(picked.index - 1), NameAt(picked.index));

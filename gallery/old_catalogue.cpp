@@ -36,7 +36,7 @@ void OldCatalogue::ConvertPicsDat() {
   while (!slots.EndOfFile(kOld)) {
     std::string line(slots.ReadLine(kOld));
     // ODDITY(short-names-are-skipped): a name of five letters or fewer is taken for no line at all, and the
-    // place behind it for a name. It is meant.
+    // place behind it for a name.
     constexpr std::size_t kTooShort = 5;
     if (text::Length(line) <= kTooShort || line.starts_with("'''''")) continue;
     if (line.starts_with("PICTU")) {

@@ -24,7 +24,7 @@ void OlderList::Command40_Click() {
   List4.Clear();
   List5.Clear();
   // ODDITY(older-list-doubles): the work file still holds what the last change of book put there, so that
-  // each picture stands twice. It is meant.
+  // each picture stands twice.
   const int highest = catalogue_.CopyBookRecords();
   ignore([&] { slots.OpenForAppending(kEmpty, empty_file); });
   const double chapter = text::LeadingDigits(reader_.Chapter());

@@ -69,7 +69,7 @@ void PictureCatalogue::ExtractBookPictures() {
   const int highest = CopyBookRecords();
   ignore([&] { lbltm.Caption = std::to_string(highest); });
   // ODDITY(blank-labels-on-book-change): where the viewer did not stand on picture 0 it looks up picture 0
-  // in lists that are empty yet: its labels go blank and the old picture stays. It is meant.
+  // in lists that are empty yet: its labels go blank and the old picture stays.
   ignore([&] { picnm.Value = 0; });
 }
 

@@ -10,7 +10,7 @@ namespace lectern::gallery {
 
 bool IsInBook(std::string_view place, std::string_view book) {
   // ODDITY(book-by-prefix): only the beginning is compared, so that the pictures of a book whose name begins
-  // like this one's come along. It is meant.
+  // like this one's come along.
   return place.starts_with(book);
 }
 

@@ -21,7 +21,7 @@ void Viewer::picnm_Change() {
   const int index = catalogue_.picnm.Value;
   const std::string& name = catalogue_.lstmc(0).List(index);
   // ODDITY(picture-missing-in-viewer): where the file is missing or is no picture, the picture before stays,
-  // under the new name and place. It is meant.
+  // under the new name and place.
   ignore([&] { pick.Picture = reader_.form.LoadPicture(catalogue_.PictureFile(name)); });
   ignore([&] { LBLPICP.Caption = name; });
   ignore([&] { lblvs.Caption = catalogue_.lstmc(1).List(index); });

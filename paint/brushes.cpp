@@ -31,7 +31,7 @@ void Brushes::ShowPointer(int brush) {
 }
 
 // ODDITY(pointer-of-another-brush): the first stroke has the width of the third brush under the pointer of
-// the second; it is meant.
+// the second.
 void Brushes::ShowFirstPointer() { ShowPointer(1); }
 
 // A click on the box of the chosen brush clears the marks and chooses nothing.

@@ -68,7 +68,7 @@ void Canvas::picbox_MouseMove(forms::MouseEvent mouse) {
 }
 
 // ODDITY(canvas-without-a-stop): the last step may leave a gap at an edge, and a picture that fits can be
-// pushed out of the middle; nothing stops it, and it is meant.
+// pushed out of the middle; nothing stops it.
 void Canvas::imgs_Click(int index) {
   constexpr int kLeft = 0;
   constexpr int kAbove = 1;

@@ -56,7 +56,7 @@ void Palette::LoadColours() {
 }
 
 // ODDITY(first-pen): the first pen is not the first swatch's but the number of its shape, a near black, while
-// the colour in hand shows the first swatch; it is meant.
+// the colour in hand shows the first swatch.
 void Palette::TakeFirstPair() {
   pen_.clr1.BackColor = clrbox(0).FigureKind();
   clr2.BackColor = clrbox(0).BackColor;
@@ -77,7 +77,7 @@ void Palette::clrboxs_MouseDown(int index, const forms::MouseEvent& mouse) {
 }
 
 // ODDITY(mixed-pair): the bars make a dark pen and a bright colour, which is a hint of the result and not its
-// true complement; it is meant.
+// true complement.
 void Palette::scr1_Change() {
   const int red = scr1(0).Value;
   const int green = scr1(1).Value;

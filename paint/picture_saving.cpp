@@ -40,7 +40,7 @@ void PictureSaving::Command2_Click() {
     if (!replace) return;
   } else {
     // ODDITY(name-for-a-place): a new picture leaves its name where the viewer shows the place, and takes
-    // over the verse and the credit of the picture that was picked last. It is meant.
+    // over the verse and the credit of the picture that was picked last.
     place = name;
     files::FileSlots& slots = form_.Slots();
     slots.OpenForAppending(kCatalogue, gallery_.CatalogueFile());

@@ -21,7 +21,7 @@ void SaveSlots::TakeSnapshot(const std::string& scratch_file) {
     ignore([&] { form_.SavePicture(picbox.Picture, scratch_file); });
   }
   // ODDITY(newest-save-holds): after a click on the newest state the canvas shows that very picture, and
-  // nothing is kept until another one is set, however much is painted; it is meant.
+  // nothing is kept until another one is set, however much is painted.
   if (IMGSPB(4).Picture == picbox.Picture) return;
   IMGSPB(1).Picture = IMGSPB(2).Picture;
   IMGSPB(2).Picture = IMGSPB(3).Picture;
@@ -30,7 +30,7 @@ void SaveSlots::TakeSnapshot(const std::string& scratch_file) {
 }
 
 // ODDITY(level-outlives-going-back): going back from a zoomed state shows the picture in its own size under
-// the zoom level that stood; it is meant.
+// the zoom level that stood.
 void SaveSlots::IMGSPB_Click(int index) { canvas_.ShowInItsSize(IMGSPB(index).Picture); }
 
 }  // namespace lectern::paint

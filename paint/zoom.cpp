@@ -44,7 +44,7 @@ void Zoom::cmdm_Click(int index) {
   picbox2.Picture = picbox.Picture;
   picbox2.Stretch = false;
   // ODDITY(level-as-text): a level that a person types zooms nothing by itself; the next zoom counts on from
-  // it, and outside the three levels the buttons stay as they were. It is meant.
+  // it, and outside the three levels the buttons stay as they were.
   const double level = text::NumberValue(txt5.Text());
   if (index == kOut) {
     txt5.Text = text::NumberText(level - 1);
@@ -58,7 +58,7 @@ void Zoom::cmdm_Click(int index) {
   picbox.Width = picbox2.Width;
   picbox.Height = picbox2.Height;
   // ODDITY(zoom-leaves-an-edge): the divisor is a little more than the 15 twips of a pixel, so that the
-  // picture is painted a little smaller than the canvas; it is meant.
+  // picture is painted a little smaller than the canvas.
   constexpr double kTwipsPerPixel = 15.08;
   // What the zoom paints belongs to the picture, also while strokes reach only the screen.
   const bool strokes_are_kept = picbox.AutoRedraw;

@@ -46,7 +46,7 @@ void ChapterStore::Load() {
   const bool found = CopyChapter(trap, held);
   slots.Close(kBook);
   // ODDITY(next-heading): the line in hand is written once more, whatever it is. It is the last line of
-  // the book, or the heading of the next chapter, with which every other chapter ends; it is meant.
+  // the book, or the heading of the next chapter, with which every other chapter ends.
   written = trap([&] { slots.PrintLine(kScratch, held); }) && written;
   written = trap([&] { slots.Close(kScratch); }) && written;
   // What a full disk cut off is no chapter: the pane keeps its text.

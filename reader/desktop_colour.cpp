@@ -49,7 +49,7 @@ void DesktopColour::Swatch_Click(forms::PictureBox& swatch) {
   }
 }
 
-// ODDITY(front-colour): what is called the front colour is the background of the panels; it is meant.
+// ODDITY(front-colour): what is called the front colour is the background of the panels.
 void DesktopColour::ApplyDesktopColour() {
   for (forms::PlacedControl* panel : coloured_) panel->BackColor = text::ToLong(ChosenColour);
 }

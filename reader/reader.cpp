@@ -63,7 +63,7 @@ void Reader::ReportError(const base::RunTimeError& error) {
   List1.Visible = true;
   base::Platform& platform = form.Platform();
   if (error.Is(base::ErrorNumber::kFileNotFound)) {
-    // ODDITY(concordance-missing): every missing file is told as the concordance's; it is meant.
+    // ODDITY(concordance-missing): every missing file is told as the concordance's.
     platform.Message(std::string(kVersions[0].concordance) + " missing from " + Dir1.Path);
   } else {
     platform.Message(
@@ -143,7 +143,7 @@ void Reader::ShowPassage(const std::string& book, const std::string& chapter) {
 }
 
 // ODDITY(blank-behind-the-book): the name gets its trailing blank, so that the catalogue does not know the
-// book and the chapter bar keeps the range of the one before; it is meant.
+// book and the chapter bar keeps the range of the one before.
 void Reader::ShowFoundPassage(const std::string& name_with_blank, const std::string& chapter) {
   assert(!name_with_blank.empty());
   const std::size_t length = text::Length(name_with_blank);

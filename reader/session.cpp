@@ -84,7 +84,7 @@ void Exits::xx_Click() {
     reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("CODEX.CFG"));
     reader_.form.Slots().OpenForAppending(kSettings, reader_.DataFile("codex.cfg"));
     // ODDITY(menu-exit-loses-settings): the first field of the record is a colour of something that does
-    // not exist, so that the write fails and the settings file stays behind empty; it is meant.
+    // not exist, so that the write fails and the settings file stays behind empty.
     throw base::RunTimeError(base::ErrorNumber::kObjectRequired);
   }
   throw base::ProgramEnd{};

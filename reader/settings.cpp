@@ -63,7 +63,7 @@ void Settings::PrepareFile() {
     constexpr std::uint64_t kShortest = 3;
     if (reader_.form.Files().Length(path) >= kShortest) return;
     // ODDITY(default-settings-misread): the default is of an older layout, colour, colour, font and size, and
-    // it is read as font, size and style; it is meant.
+    // it is read as font, size and style.
     slots.WriteRecord(kSettings, "&HFF0000", "&H80000005", "Arial", "10");
   });
   ignore([&] { slots.Close(kSettings); });
@@ -153,7 +153,7 @@ void Settings::Command36_Click() {
 }
 
 // ODDITY(close-unlocks): opening the panel locks no tool buttons, closing it sets them free all the same,
-// also those that another panel holds locked; it is meant.
+// also those that another panel holds locked.
 void Settings::Command24_Click() {
   Picture23_.Visible = false;
   tools_.Enable();

@@ -15,7 +15,7 @@ struct Submenu {
   const char* caption;
 };
 
-// ODDITY(kept-spelling): some captions are misspelt; readers know them so, and it is meant.
+// ODDITY(kept-spelling): some captions are misspelt; readers know them so.
 constexpr Submenu kSubmenus[] = {
     {"dd2", "The Beginning"}, {"dd3", "Abraham"}, {"dd4", "Noah"}, {"ddd8", "Moses"},
     {"dd5", "David"},         {"dd6", "Peter"},   {"dd7", "Paul"}, {"dd8", "Jesus"},
@@ -58,7 +58,7 @@ constexpr Story kStories[] = {
     {"dd5", "And Saul", "aaa4", "1-Samuel", "19", Order::kBookFirst, Failures::kIgnore},
     {"dd5", "Becomes a King", "aaa5", "2-Samuel", "5", Order::kBookFirst, Failures::kIgnore},
 
-    // ODDITY(peter-at-samuel): this entry goes where "And Samuel" goes; it is meant.
+    // ODDITY(peter-at-samuel): this entry goes where "And Samuel" goes.
     {"dd6", "Disowns Jesus", "ddd1", "1-Samuel", "16"},
     {"dd6", "Reinstated", "aaa9", "John", "21", Order::kBookFirst, Failures::kIgnore},
     {"dd6", "Heals a Beggar", "aaa8", "Acts", "3", Order::kBookFirst, Failures::kIgnore},
@@ -96,14 +96,13 @@ Stories::Stories(Reader& the_reader, forms::Menu& dd1) : reader_(the_reader) {
   }
 }
 
-// ODDITY(story-keeps-range): the chapter bar keeps the range of the book before; it is meant.
+// ODDITY(story-keeps-range): the chapter bar keeps the range of the book before.
 void Stories::Entry_Click(const Story& story) {
   const auto show = [&] {
     if (story.order == Order::kBookFirst) {
       reader_.ShowPassage(story.book, story.chapter);
     } else {
-      // ODDITY(story-first-chapter): the name goes back to chapter 1, whatever chapter the entry is for; it
-      // is meant.
+      // ODDITY(story-first-chapter): the name goes back to chapter 1, whatever chapter the entry is for.
       reader_.ShowChapterThenBook(story.book, story.chapter);
     }
   };

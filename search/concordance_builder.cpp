@@ -56,7 +56,7 @@ void ConcordanceBuilder::Timer2_Timer() {
   if (next > List2.ListCount() - 1) {
     pbar2.Max = List2.ListCount() - 1;
     pbar2.Value = 1;
-    // ODDITY(last-word-twice): the last word's verses are written once more; it is meant, and Command18 is
+    // ODDITY(last-word-twice): the last word's verses are written once more, and Command18 is
     // there to cut them.
     WriteResults();
     Timer2.Enabled = false;

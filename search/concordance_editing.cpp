@@ -73,7 +73,7 @@ void ConcordanceEditing::Command21_Click() {
   slots.Close(kConcordance);
   viewer_.lstc2.Clear();
   // ODDITY(deletion-names-another): the message names the word that was loaded last, not the one that was
-  // deleted; it is meant.
+  // deleted.
   reader_.form.Platform().Message(
       last + " has been removed from the Concordance. You can add words to Concordance with search feature.");
   frmc_.Visible = true;

@@ -18,7 +18,7 @@ void WriteConcordanceRecord(files::FileSlots& slots, int slot, const Concordance
 }
 
 // ODDITY(concordance-limit): the words behind the limit are not shown, without a word about it; being counted
-// in the order of the file, they are the ones that a person added. It is meant.
+// in the order of the file, they are the ones that a person added.
 std::string FillWordList(files::FileSlots& slots, int slot, forms::ListBox& list) {
   std::string last;
   ConcordanceRecord record;

@@ -37,8 +37,7 @@ Dictionary::Dictionary(reader::Reader& the_reader, forms::Frame& frmd, forms::Pi
 
 std::string Dictionary::DataFile() const { return reader_.DataFile("cdxdic.dat"); }
 
-// ODDITY(dictionary-grows): the list is not cleared first, so that each opening adds all words once more; it
-// is meant.
+// ODDITY(dictionary-grows): the list is not cleared first, so that each opening adds all words once more.
 bool Dictionary::LoadWords() {
   files::FileSlots& slots = reader_.form.Slots();
   Record record;
@@ -73,7 +72,7 @@ void Dictionary::Command17_Click() {
 void Dictionary::cc2_Click() { Open(); }
 
 // ODDITY(dictionary-hourglass): the pointer comes back with the click alone, so that a press that becomes
-// none leaves it; it is meant.
+// none leaves it.
 void Dictionary::lstd_MouseDown() { lstd.MousePointer = forms::kPointerHourglass; }
 
 void Dictionary::lstd_Click() {

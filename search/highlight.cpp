@@ -13,7 +13,7 @@ int HighlightText(forms::RichTextBox& pane, std::string_view term, forms::Colour
   while (true) {
     const int found = pane.Find(term, static_cast<int>(position), forms::kFindNoHighlight);
     // ODDITY(first-character): a term at the very first character is not coloured, and ends the colouring
-    // of all the others; it is meant.
+    // of all the others.
     if (found <= 0) break;
     places.push_back(static_cast<std::size_t>(found));
     position = places.back() + length;

@@ -54,7 +54,7 @@ void OnePassBuilder::LookUp(const std::string& word, char32_t& next) {
   for (search_.SearchBookIndex = 0; search_.SearchBookIndex <= 65; ++search_.SearchBookIndex) {
     const std::string book = reader_.lst.List(search_.SearchBookIndex);
     books.Caption = book;
-    // Set to whether it stands at 1, so that it never leaves 0; it is meant.
+    // Set to whether it stands at 1, so that it never leaves 0.
     pbar3.Value = pbar3.Value == 1 ? kTruth : 0;
     search_.text7.Caption = reader_.lst.List(search_.SearchBookIndex + 1);
     const std::string name = reader::ShortStem(book);

@@ -139,8 +139,7 @@ void TextSearch::Command15_Click() {
       "35 minutes --- Patience is a virtue.");
 }
 
-// ODDITY(search-closes-on-chapter-1): closing lands on chapter 1 of whichever book the last result opened; it
-// is meant.
+// ODDITY(search-closes-on-chapter-1): closing lands on chapter 1 of whichever book the last result opened.
 void TextSearch::Command20_Click() {
   tmrb.Enabled = false;
   lsts.Clear();

@@ -36,7 +36,7 @@ std::int16_t Trivia::Draw(int records) {
 // Draws again while the number is in the history.
 //
 // ODDITY(trivia-repeats): the walk never looks at the oldest entry nor, once it has drawn again, at the one
-// behind it, and a second number may hit one that the walk is past; it is meant.
+// behind it, and a second number may hit one that the walk is past.
 void Trivia::KeepFromRepeating(int records) {
   if (List3.ListCount() <= 1) {
     QuestionNumber = Draw(records);
@@ -64,10 +64,10 @@ void Trivia::AskQuestion() {
   KeepFromRepeating(records);
 
   // ODDITY(trivia-last-question): the last record is never drawn by its own number. Number 0 reads nothing,
-  // and what the count ended on is the last record; it is meant.
+  // and what the count ended on is the last record.
   slots.OpenForReading(kQuestions, DataFile());
   // ODDITY(trivia-minus-one): number -1 is no place in the file. The walk to it ends in a failure, and the
-  // file stays open, so that the next opening of its number fails too; it is meant.
+  // file stays open, so that the next opening of its number fails too.
   for (int counter = 0; counter != QuestionNumber; ++counter) ReadRecord(record);
   slots.Close(kQuestions);
 
