@@ -90,17 +90,16 @@ std::string Invariants::Broken(std::string_view command, const Steps& printed) {
 std::string Invariants::BrokenBySlots(std::string_view control, const Steps& printed) {
   const bool reported = std::any_of(printed.begin(), printed.end(),
                                     [](const std::string& line) { return line.starts_with("message"); });
-  if (control == "Form1.Command29" && reported) left_open_.insert(1);
-  if (control == "Form1.Command13") left_open_.insert(2);
+  if (control == "Form1.Command29" && reported) question_left_open_ = true;
   constexpr int kHighest = 255;
   for (forms::Window* window : session_.driver.Program().windows.All()) {
     for (int slot = 1; slot <= kHighest; ++slot) {
       const bool open = window->Slots().IsOpen(slot);
-      const bool in_form1 = window->Name() == "Form1";
-      if (open && !(in_form1 && left_open_.contains(slot))) {
+      const bool is_questions = window->Name() == "Form1" && slot == 1;
+      if (open && !(is_questions && question_left_open_)) {
         return window->Name() + " has left file " + std::to_string(slot) + " open";
       }
-      if (in_form1 && !open) left_open_.erase(slot);
+      if (is_questions) question_left_open_ = open;
     }
   }
   return "";
@@ -123,7 +122,7 @@ std::string Invariants::BrokenByEnd(std::string_view control, const Steps& print
   const bool ended = std::find(printed.begin(), printed.end(), "end") != printed.end();
   if (error == 0 && !ended) return "";
   constexpr int kFileAlreadyOpen = 55;
-  if (error == kFileAlreadyOpen && !left_open_.empty()) return "";
+  if (error == kFileAlreadyOpen && question_left_open_) return "";
   if (error != 0 && failures_ == Failures::kAnywhere) return "";
   const auto [first, last] = kKnownFailures.equal_range(control);
   const bool is_known =

@@ -2,7 +2,6 @@
 // is in its list and every value in its range, and the program ends only where it is known to end.
 #pragma once
 
-#include <set>
 #include <string>
 #include <string_view>
 
@@ -32,9 +31,8 @@ class Invariants {
   Session& session_;
   std::string folder_;
   Failures failures_;
-  // Files of Form1: a question of the game that could not be asked leaves its file open until the next
-  // chapter is loaded, and so does the one-pass builder.
-  std::set<int> left_open_;
+  // A question of the game that could not be asked leaves its file open until the next chapter is loaded.
+  bool question_left_open_ = false;
 };
 
 }  // namespace lectern

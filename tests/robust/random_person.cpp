@@ -20,12 +20,12 @@ std::string NameOf(const forms::Control& control) {
   return control.HostWindow().Name() + "." + control.FullName();
 }
 
-// Whether it is on the window, not beyond its edge with the tools that nobody sees.
+// Whether a person can come to see it.
 bool IsInSight(const forms::Control& control) {
   const auto* placed = dynamic_cast<const forms::PlacedControl*>(&control);
-  if (placed == nullptr) return true;
+  if (placed != nullptr && placed->IsStorage()) return false;
   const auto* panel = dynamic_cast<const forms::Control*>(&control.Parent());
-  return panel != nullptr ? IsInSight(*panel) : placed->Left < control.HostWindow().ClientWidth();
+  return panel == nullptr || IsInSight(*panel);
 }
 
 }  // namespace

@@ -1,0 +1,151 @@
+// What the data tool makes of small texts and drawings, and what it leaves alone.
+#include <gtest/gtest.h>
+
+#include "base/text/characters.h"
+#include "forms/rich_text.h"
+#include "reader/canon.h"
+#include "tests/kit/temporary_folder.h"
+#include "tools/make_data/book_files.h"
+#include "tools/make_data/dictionary_file.h"
+#include "tools/make_data/drawings.h"
+#include "tools/make_data/help_topics.h"
+#include "tools/make_data/picture_table.h"
+#include "tools/make_data/pictures.h"
+#include "tools/make_data/topics.h"
+#include "tools/make_data/verses.h"
+#include "ui/headless/headless_platform.h"
+
+namespace lectern::make_data {
+namespace {
+
+// From a text in which two names, a town and a lamp are mentioned.
+std::string RecordsOf(const std::string& topics) {
+  Version text{std::vector<Book>(66), ""};
+  text.books[0][1] = {{1, "In the beginning there was a lamp, and Amram saw the lamp."},
+                      {2, "And Bethabara was a town."},
+                      {3, "They said \"Peace\" to Amram, and he was glad of his peace."}};
+  text.books[1][6] = {{16, "These are the names."}, {20, "And she bare him Aaron."}};
+  return DictionaryRecords(ParseTopics(topics), text);
+}
+
+// The subject is put back, and the verse is that of the first passage that uses the word.
+TEST(Dictionary, ExplainsATopicWithAVerse) {
+  EXPECT_EQ(
+      RecordsOf("$$$AARON\n<def> <lb/>→ Lineage of <ref osisRef=\"Exod.6.16-Exod.6.20\">Ex 6:16-20</ref>; "
+                "<ref osisRef=\"Gen.1.1\">Ge 1:1</ref>:3 <lb/>→ Consecration of, to the office\n"
+                "<lb/>→ INSTANCES OF <list> <item>Amram <ref osisRef=\"Gen.1.1\">Ge 1:1</ref></item> "
+                "<item>See <ref target=\"Nave:OIL LAMP\">OIL LAMP</ref>, USE OF</item> </list></def>\n"),
+      "\"Aaron\",\"Lineage of Aaron. Consecration of Aaron, to the office. Instances of Aaron: Amram; see "
+      "Oil "
+      "Lamp, Use of.\",\"And she bare him Aaron.\",\"Exodus 6:20\"\r\n");
+  // A topic that only refers to another takes its verse from there.
+  const std::string lamp =
+      "\"In the beginning there was a lamp, and Amram saw the lamp.\",\"Genesis 1:1\"\r\n";
+  EXPECT_EQ(RecordsOf("$$$BETH-ABARA\n<lb/>→ See <ref target=\"Nave:TOWN\">TOWN</ref>\n"
+                      "$$$LANTERN\n<lb/>→ See <ref target=\"Nave:LIGHT\">LIGHT</ref> <lb/>→ See <ref "
+                      "target=\"Nave:X\">X</ref>\n"
+                      "$$$LIGHT (A LAMP)\n<lb/>→ (A thing that shines) <ref osisRef=\"Gen.1\">Ge 1</ref>\n"
+                      "$$$NOWHERE\n<lb/>→ See <ref target=\"Nave:NOTHING\">NOTHING</ref>\n"),
+            "\"Beth-Abara\",\"See Town.\",\"And Bethabara was a town.\",\"Genesis 1:2\"\r\n"
+            "\"Lantern\",\"See Light; X.\"," +
+                lamp + "\"Light (a Lamp)\",\"A thing that shines.\"," + lamp);
+}
+
+TEST(Dictionary, KeepsQuotesOutOfTheFieldsJoinsEqualHeadingsAndStopsAtAnItemsEnd) {
+  std::string many =
+      "$$$PEACE\n<lb/>→ &#8220;Peace&#8221; to all <ref osisRef=\"Gen.1.3\">Ge 1:3</ref>\n$$$PEACE\n";
+  for (int i = 0; i < 30; ++i) many += "<lb/>→ Twenty characters, all of them -And a second";
+  const std::string records = RecordsOf(many + "\n");
+  EXPECT_TRUE(records.starts_with(
+      "\"Peace\",\"'Peace' to all. Twenty characters, all of them. And a second. Twenty"));
+  EXPECT_TRUE(records.ends_with(
+      " second.\",\"They said 'Peace' to Amram, and he was glad of his peace.\",\"Genesis 1:3\"\r\n"));
+  EXPECT_LT(records.size(), 500U);
+}
+
+TEST(BookFiles, OfAPersonAreNotReplacedByTheStandIn) {
+  const TemporaryFolder folder;
+  folder.Write("NGenesis.txt", "Chapter 1\r\n1   My own text.       \r\n");
+  folder.Write("NExodus.txt", "Chapter 1 (Stand-in)\r\n1   Made before.       \r\n");
+  folder.Write("NLeviticus.txt", "");
+  Version stand_in{.books = std::vector<Book>(reader::kCanon.size()), .chapter_remark = "(Stand-in)"};
+  for (std::size_t book = 0; book < 4; ++book) stand_in.books[book][1][1] = "Made now.";
+  WriteStandIn(stand_in, folder.Path(), "N");
+  EXPECT_EQ(folder.Read("NGenesis.txt"), "Chapter 1\r\n1   My own text.       \r\n");
+  for (const char* name : {"NExodus.txt", "NLeviticus.txt", "NNumbers.txt"}) {
+    EXPECT_EQ(folder.Read(name), "Chapter 1 (Stand-in)\r\n1   Made now.       \r\n") << name;
+  }
+}
+
+TEST(Pictures, OfTheKeeperStayAsTheyAre) {
+  const TemporaryFolder folder;
+  const std::string catalogue = "\"mine\",\"Genesis 1: 1\",\"PICTURES BY: me\"\r\n";
+  folder.Write("pics2.dat", catalogue);
+  folder.Write("picend.jpg", "my card");
+  folder.Write("pics/mine.jpg", "mine");
+  for (const Drawing& drawing : kDrawings) {
+    const std::string name(drawing.name);
+    if (name != "ant" && name != "crown") folder.Write("pics/" + name + ".jpg", "painted on");
+  }
+  folder.Write("pics/crown.JPG", "painted");
+  MakePictures(folder.Path());
+  EXPECT_EQ(folder.Read("pics2.dat"), catalogue);
+  EXPECT_EQ(folder.Read("picend.jpg"), "my card");
+  EXPECT_EQ(folder.Read("pics/mine.jpg"), "mine");
+  EXPECT_EQ(folder.Read("pics/bee.jpg"), "painted on");
+  EXPECT_EQ(folder.Read("pics/crown.jpg"), "(missing)");
+  EXPECT_EQ(headless::DecodePicture(folder.Read("pics/ant.jpg")).Width(), 640);
+  EXPECT_EQ(headless::DecodePicture(folder.Read("newpic.jpg")).Height(), 363);
+}
+
+TEST(Pictures, AreDrawnAsLargeAsFits) {
+  const TemporaryFolder folder;
+  folder.Write("small.svg",
+               "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
+               "<rect x='80' y='80' width='10' height='20' fill='#ff0000'/></svg>");
+  const forms::Picture drawn = headless::DecodePicture(DrawnAsJpeg(folder.Path() + "/small.svg"));
+  const auto is_red = [&](int x, int y) {
+    const forms::Pixel pixel = drawn->At(x, y);
+    return (pixel & 0xFF) > 200 && ((pixel >> 8) & 0xFF) < 80;
+  };
+  ASSERT_EQ(drawn.Width(), 640);
+  ASSERT_EQ(drawn.Height(), 480);
+  EXPECT_TRUE(is_red(320, 240) && is_red(320 - 100, 30) && is_red(320 + 100, 450));
+  EXPECT_FALSE(is_red(320 - 120, 240) || is_red(320, 16));
+  folder.Write("empty.svg", "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 9 9'/>");
+  folder.Write("none.svg", "no drawing");
+  EXPECT_THROW(DrawnAsJpeg(folder.Path() + "/empty.svg"), Obstacle);
+  EXPECT_THROW(DrawnAsJpeg(folder.Path() + "/none.svg"), Obstacle);
+}
+
+TEST(Pictures, CreditTheArtistWhomTheDrawingNames) {
+  const TemporaryFolder folder;
+  for (const auto& [name, artist] :
+       std::vector<std::pair<std::string, std::string>>{{" B. &amp; J.\n Doe ", "B. & J. Doe"},
+                                                        {"J. Doe (doe@example.org)", "J. Doe"},
+                                                        {"the \"Owl\"", "the 'Owl'"},
+                                                        {"Anonymous", ""}}) {
+    folder.Write("a.svg", "<svg><metadata><dc:title>A bird</dc:title><dc:creator><cc:Agent><dc:title>" +
+                              name + "</dc:title></cc:Agent></dc:creator></metadata></svg>");
+    EXPECT_EQ(ArtistOf(folder.Path() + "/a.svg"), artist);
+  }
+  folder.Write("a.svg", "<svg><metadata><dc:title>A bird</dc:title><dc:creator/></metadata></svg>");
+  EXPECT_EQ(ArtistOf(folder.Path() + "/a.svg"), "");
+}
+
+TEST(HelpTopics, AreMadeFromTheirMarks) {
+  const forms::RichText page = forms::ReadRtf(
+      RichTextOf("# Title\n\nOne *two*\nthree: \\* or {\n\n## Part\n* first **Go**\nmore\n* é"));
+  EXPECT_EQ(page.text, "Title\r\nOne two three: * or {\r\n\r\nPart\r\n•  first Go more\r\n•  é\r\n");
+  const auto style = [&page](const std::string& word) {
+    return page.runs.At(text::Length(page.text.substr(0, page.text.find(word))));
+  };
+  EXPECT_EQ(style("two").italic, true);
+  EXPECT_EQ(style("three"), forms::TextStyle{});
+  EXPECT_EQ(style("Part").size, 12);
+  EXPECT_EQ(style("Go").bold, true);
+  EXPECT_EQ(style("more"), forms::TextStyle{});
+}
+
+}  // namespace
+}  // namespace lectern::make_data
