@@ -14,8 +14,7 @@ import subprocess
 import sys
 import tempfile
 
-from aids_test import WindowManager, expect
-from reader_test import Screen, make_data, stand_on_a_stage, wait_for
+from screen import Screen, WindowManager, expect, make_data, stand_on_a_stage, wait_for, xdotool
 
 # Lays out the sample once it may, and fails once it must.
 STAND_IN = """#!/bin/sh
@@ -80,11 +79,7 @@ def end_of(program):
 
 def press(screen, button):
     x, y, width, height = screen.place_of(screen.find("button", button))
-    subprocess.run(["xdotool", "mousemove", str(x + width // 2), str(y + height // 2), "click", "1"], check=True)
-
-
-def tells(screen, beginning):
-    screen.find_where("label", beginning, lambda told: told.startswith(beginning))
+    xdotool("mousemove", x + width // 2, y + height // 2, "click", 1)
 
 
 def is_in_front(program):
@@ -96,7 +91,7 @@ def is_in_front(program):
 def start_for_the_first_time(menu, screen, home):
     # A package is missing: nothing is left behind.
     bare = menu.click(PATH="/nowhere")
-    tells(screen, "The program 'bible' is missing. Install bible-kjv")
+    screen.find_beginning("label", "The program 'bible' is missing. Install bible-kjv")
     press(screen, "Close")
     expect("a start that failed says so", end_of(bare) == 1)
     menu.leaves()
@@ -119,7 +114,7 @@ def start_for_the_first_time(menu, screen, home):
     for sign in ("go", "fail"):
         open(os.path.join(home, sign), "w").close()
     program = menu.click()
-    tells(screen, "The disk is full.")
+    screen.find_beginning("label", "The disk is full.")
     os.remove(os.path.join(home, "fail"))
     press(screen, "Retry")
     screen.find("frame", "Lectern 2")
@@ -137,7 +132,7 @@ def start_again(menu, screen, first, home):
     is_in_front(first)
 
     keeper = menu.click("lectern-keeper")
-    tells(screen, "Lectern is open on this folder already, without the keeper's tools")
+    screen.find_beginning("label", "Lectern is open on this folder already, without the keeper's tools")
     press(screen, "OK")
     expect("the keeper cannot start", end_of(keeper) == 1)
 

@@ -1,195 +1,19 @@
 #!/usr/bin/python3
-"""Reads with the real program: a screen of its own, a mouse, a keyboard, and the ears of a screen reader.
+"""Uses the real program in real windows: reads, marks a place, keeps a note, prints a page on a printer whose paper
+can be looked at, and leaves by every way out.
 
-Usage: reader_test.py PROGRAM
-
-Everything that is clicked is found by what a screen reader is told of it, and everything that is expected is waited
-for. The texts are made up.
+Usage: reader_test.py PROGRAM CUPSD
 """
 
-import ctypes
 import os
 import subprocess
 import sys
 import tempfile
-import time
 
-PATIENCE = 120  # seconds until something that does not come counts as a fault, on a machine with much else to do
-
-
-def wait_for(what, condition):
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
-        found = condition()
-        if found:
-            return found
-        time.sleep(0.02)
-    sys.exit(f"did not come: {what}")
+from screen import PATIENCE, expect, play, stand_on_a_stage, wait_for, xdotool
 
 
-def make_data(folder):
-    def book(path, name, chapters):
-        lines = []
-        for chapter in range(1, chapters + 1):
-            lines.append(f"Chapter {chapter}")
-            lines += [f"{verse:<4}{name} {chapter}, verse {verse}." for verse in range(1, 60)]
-        with open(os.path.join(folder, path), "w", newline="\r\n") as file:
-            file.write("\n".join(lines) + "\n")
-
-    for version, prefix in (("KJV", ""), ("NEW", "N")):
-        os.mkdir(os.path.join(folder, version))
-        for name, chapters in (("Genesis", 3), ("Exodus", 5), ("Galatians", 1)):
-            book(f"{version}/{prefix}{name}.txt", f"{version} {name}", chapters)
-    with open(os.path.join(folder, "bookschap.txt"), "w", newline="\r\n") as file:
-        file.write('"Genesis",3\n"Exodus",5\n')
-
-
-class Screen:
-    """What is on the display, as a screen reader knows it."""
-
-    def __init__(self):
-        import gi
-
-        gi.require_version("Atspi", "2.0")
-        from gi.repository import Atspi, GLib
-
-        self.atspi = Atspi
-        self.gone = GLib.Error  # what is told of something that went away while it was looked at
-
-    def walk(self, root=None):
-        root = root or self.atspi.get_desktop(0)
-        for i in range(root.get_child_count()):
-            try:
-                child = root.get_child_at_index(i)
-            except self.gone:
-                child = None
-            if child is not None:
-                yield child
-                yield from self.walk(child)
-
-    def role_of(self, thing):
-        role = thing.get_role_name()
-        return "button" if role == "push button" else role  # the name in older versions
-
-    def is_so(self, thing, state):
-        thing.clear_cache()  # what is remembered of it may be behind
-        return thing.get_state_set().contains(getattr(self.atspi.StateType, state))
-
-    def look(self, role, is_it):
-        try:
-            for thing in self.walk():
-                if self.role_of(thing) == role and is_it(thing.get_name()) and self.is_so(thing, "SHOWING"):
-                    return thing
-        except self.gone:
-            pass
-        return None
-
-    def find(self, role, name):
-        return self.find_where(role, name, lambda told: told == name)
-
-    def find_where(self, role, what, is_it):
-        return wait_for(f"{role} {what!r}", lambda: self.look(role, is_it))
-
-    def takes_input(self, thing):
-        """Whether keys and clicks come to the window that it is in."""
-        try:
-            while thing is not None and not self.is_so(thing, "ACTIVE"):
-                thing = thing.get_parent()
-        except self.gone:
-            thing = None
-        return thing is not None
-
-    def find_ready(self, role, name):
-        """The same, once its window takes input, and stands where it will stay."""
-        places = []
-
-        def look():
-            thing = self.look(role, lambda told: told == name)
-            if thing is None or not self.takes_input(thing):
-                return None
-            places.append(self.place_of(thing))
-            return thing if len(places) > 1 and places[-1] == places[-2] else None
-
-        return wait_for(f"{role} {name!r} to be used", look)
-
-    def text_of(self, name):
-        pane = self.find("text", name)
-        return self.atspi.Text.get_text(pane, 0, self.atspi.Text.get_character_count(pane))
-
-    def place_of(self, thing):
-        area = thing.get_extents(self.atspi.CoordType.SCREEN)
-        return area.x, area.y, area.width, area.height
-
-
-class Reader:
-    """Someone before the screen."""
-
-    def __init__(self, program, folder):
-        self.screen = Screen()
-        self.running = subprocess.Popen([program], cwd=folder)
-        self.screen.find_ready("frame", "Lectern 2")
-
-    def click(self, role, name, across=0.5):
-        x, y, width, height = self.screen.place_of(self.screen.find_ready(role, name))
-        self.click_at(x + int(width * across), y + height // 2)
-
-    def click_at(self, x, y):
-        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
-
-    def key(self, *keys):
-        subprocess.run(["xdotool", "key", *keys], check=True)
-
-    def types(self, text, below):
-        """Into a box that asks for it under that label."""
-        self.screen.find_ready("label", below)
-        subprocess.run(["xdotool", "type", "--delay", "10", text], check=True)
-
-    def reads(self, beginning, chapter):
-        wait_for(
-            f"{beginning!r} on the page",
-            lambda: self.screen.text_of("Text of the chapter").startswith("1   " + beginning),
-        )
-        self.screen.find("label", chapter)
-
-    def sees_it_end(self, status):
-        wait_for("the end", lambda: self.running.poll() is not None)
-        if self.running.returncode != status:
-            sys.exit(f"ended with {self.running.returncode}, not {status}")
-
-
-def close_window(title):
-    """What a window manager does when its close box is pressed."""
-    window = int(subprocess.check_output(["xdotool", "search", "--onlyvisible", "--name", title]).split()[0])
-
-    class ClientMessage(ctypes.Structure):
-        _fields_ = [
-            ("type", ctypes.c_int),
-            ("serial", ctypes.c_ulong),
-            ("send_event", ctypes.c_int),
-            ("display", ctypes.c_void_p),
-            ("window", ctypes.c_ulong),
-            ("message_type", ctypes.c_ulong),
-            ("format", ctypes.c_int),
-            ("data", ctypes.c_long * 5),
-            ("room", ctypes.c_long * 24),
-        ]
-
-    x11 = ctypes.CDLL("libX11.so.6")
-    x11.XOpenDisplay.restype = ctypes.c_void_p
-    x11.XInternAtom.restype = ctypes.c_ulong
-    x11.XInternAtom.argtypes = [ctypes.c_void_p, ctypes.c_char_p, ctypes.c_int]
-    x11.XSendEvent.argtypes = [ctypes.c_void_p, ctypes.c_ulong, ctypes.c_int, ctypes.c_long, ctypes.c_void_p]
-    x11.XCloseDisplay.argtypes = [ctypes.c_void_p]
-    display = x11.XOpenDisplay(None)
-    message = ClientMessage(33, 0, 1, display, window, x11.XInternAtom(display, b"WM_PROTOCOLS", 0), 32)
-    message.data[0] = x11.XInternAtom(display, b"WM_DELETE_WINDOW", 0)
-    x11.XSendEvent(display, window, 0, 0, ctypes.byref(message))
-    x11.XCloseDisplay(display)
-
-
-def read_a_while(reader, _folder):
-    reader.reads("KJV Genesis 1", "1")
-
+def read_a_while(reader):
     # By the mouse: a book, the arrows and the trough of the chapter bar, the other version.
     reader.click("list item", "Exodus")
     reader.reads("KJV Exodus 1", "1")
@@ -205,89 +29,188 @@ def read_a_while(reader, _folder):
 
     # A drag counts when the thumb is let go.
     x, y, width, height = reader.screen.place_of(reader.screen.find("scroll bar", "Chapter"))
-    drag = ["xdotool", "mousemove", str(x + height + 8), str(y + height // 2), "mousedown", "1"]
-    subprocess.run(drag + ["mousemove", str(x + width // 2), str(y + height // 2)], check=True)
-    subprocess.run(["xdotool", "mousemove", str(x + width), str(y + height // 2), "mouseup", "1"], check=True)
+    middle = y + height // 2
+    xdotool("mousemove", x + height + 8, middle, "mousedown", 1, "mousemove", x + width // 2, middle)
+    xdotool("mousemove", x + width, middle, "mouseup", 1)
     reader.reads("KJV Exodus 5", "5")
 
     # By the keyboard: the list takes letters and arrows.
     reader.click("list item", "Exodus")
     reader.reads("KJV Exodus 1", "1")
-    reader.key("g")
-    reader.reads("KJV Galatians 1", "1")
-    reader.key("Home")
-    reader.reads("KJV Genesis 1", "1")
-    reader.key("Down")
-    reader.reads("KJV Exodus 1", "1")
+    for key, page in (("g", "KJV Galatians 1"), ("Home", "KJV Genesis 1"), ("Down", "KJV Exodus 1")):
+        reader.key(key)
+        reader.reads(page, "1")
 
     for thing in reader.screen.walk():
-        states = thing.get_state_set()
-        if states.contains(reader.screen.atspi.StateType.FOCUSABLE) and not thing.get_name():
-            sys.exit(f"a {reader.screen.role_of(thing)} without a name")
-
-    reader.click("button", "Exit")
+        focusable = thing.get_state_set().contains(reader.screen.atspi.StateType.FOCUSABLE)
+        expect(f"a {reader.screen.role_of(thing)} has a name", thing.get_name() or not focusable)
+    reader.press("Exit")
     reader.sees_it_end(0)
 
 
-def leave_by_the_menu(reader, folder):
-    reader.reads("KJV Genesis 1", "1")
+def leave_by_the_menu(reader):
     reader.key("alt+f")
     reader.screen.find("menu item", "Exit")
     reader.key("x")
-    # With the mark on the settings are lost, and the failure is told.
+    # With the mark on the settings are lost, and the failure is reported.
     reader.screen.find_ready("label", "Run-time error '424':\n\nObject required")
     reader.key("Return")
     reader.sees_it_end(1)
-    if os.path.getsize(os.path.join(folder, "codex.cfg")) != 0:
-        sys.exit("the settings were not lost")
+    expect("the settings are lost", reader.file("codex.cfg") == "")
 
 
-def leave_by_the_close_box(reader, _folder):
-    reader.reads("KJV Genesis 1", "1")
-    close_window("Lectern 2")
+def leave_by_the_close_box(reader):
+    reader.key("alt+F4")  # as the window manager's close box
     reader.sees_it_end(0)
 
 
-def stand_on_a_stage():
-    """A display, a message bus and a run-time folder that are ours: the script runs once more on them."""
-    if "LECTERN_TEST_STAGE" not in os.environ:
-        display = subprocess.Popen(
-            ["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"],
-            stdout=subprocess.PIPE,
-            stderr=subprocess.DEVNULL,
-        )
-        try:
-            number = display.stdout.readline().decode().strip()
-            with tempfile.TemporaryDirectory() as runtime:
-                environment = dict(
-                    os.environ,
-                    DISPLAY=":" + number,
-                    LECTERN_TEST_STAGE="1",
-                    QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
-                    QT_QPA_PLATFORM="xcb",
-                    XDG_RUNTIME_DIR=runtime,
-                )
-                again = ["dbus-run-session", sys.executable, os.path.abspath(sys.argv[0]), *sys.argv[1:]]
-                sys.exit(subprocess.run(again, env=environment).returncode)
-        finally:
-            display.terminate()
-            display.wait()
+def mark_a_place(reader):
+    reader.click("list item", "Exodus")
+    reader.press("Book Mark", "New")
+    reader.answers("Enter a name for bookmark", "Exodus 1")
+    wait_for("the bookmark", lambda: reader.file("Exodus 1.bkm") == '"Exodus 1","Exodus","1"\r\n')
+
+    # A sweep over the strip turns the chapters. Movements that come while the program is busy count once.
+    x, y, _, height = reader.screen.place_of(
+        reader.screen.find_ready("image", "Sweep the pointer to step through the chapters"))
+    for chapter in (2, 3, 4):
+        xdotool("mousemove", x + 10 + chapter, y + height // 2)
+        reader.reads(f"KJV Exodus {chapter}", str(chapter))
+
+    # The list and its default button bring the reader back, by the keyboard alone.
+    reader.click("list item", "Exodus 1.bkm")
+    reader.key("Return")
+    reader.reads("KJV Exodus 1", "1")
 
 
-def play(visits):
-    """Each visit with a program and a data folder of its own."""
-    program = os.path.abspath(sys.argv[1])
-    stand_on_a_stage()
-    for visit in visits:
-        with tempfile.TemporaryDirectory() as folder:
-            make_data(folder)
-            reader = Reader(program, folder)
-            try:
-                visit(reader, folder)
-            finally:
-                reader.running.kill()
-                reader.running.wait()
+def keep_a_note(reader):
+    reader.click("text", "Text of the chapter")
+    reader.key("ctrl+a", "ctrl+c")
+    reader.press("Notes")
+    reader.screen.find_ready("label", "Open file to add to, or create new file")
+    reader.key("Return")
+    reader.screen.find_ready("frame", "Notes")
+    reader.press("Create New File")
+    reader.answers("Enter a name for file", "Sunday")
+    reader.screen.find_ready("frame", "Sunday - Notes")
+
+    # Over what a new note begins with; what was copied from the page; undone and done again.
+    pane = "Text of the note"
+    reader.click("text", pane)
+    reader.key("ctrl+a")
+    reader.types("Whither thou goest")
+    reader.screen.find("frame", "*Sunday - Notes")
+    wait_for("what was typed", lambda: reader.screen.text_of(pane) == "Whither thou goest")
+    for keys, is_there in ((("Return", "ctrl+v"), True), (("ctrl+z",), False), (("ctrl+shift+z",), True)):
+        reader.key(*keys)
+        wait_for(f"the effect of {keys}", lambda: ("Genesis 1, verse 59." in reader.screen.text_of(pane)) == is_there)
+    reader.key("ctrl+s")
+    reader.screen.find("frame", "Sunday - Notes")
+    saved = reader.file("Sunday.not")
+    expect(f"the note is saved: {saved!r}",
+           saved.startswith("Whither thou goest\r\n1   KJV Genesis 1, verse 1.\r\n") and saved.endswith("\r\n"))
+
+    # The note's window comes to the front when it is asked for again, and asks before it closes.
+    reader.types("!")
+    reader.screen.find("frame", "*Sunday - Notes")
+    xdotool("search", "--name", "^Lectern 2$", "windowactivate", "--sync")
+    reader.screen.find_ready("frame", "Lectern 2")
+    reader.key("alt+n")
+    reader.screen.find_ready("frame", "*Sunday - Notes")
+    reader.key("Escape")
+    reader.screen.find_ready("label", "File has been altered. Do you want to save changes to the file: Sunday?")
+    reader.key("alt+y")
+    wait_for("the note saved once more", lambda: "!" in (reader.file("Sunday.not") or ""))
+    expect("the version before is kept", reader.file("backup/Sunday.not") == saved)
+
+
+class Paper:
+    """A printed page at 96 dots an inch, in shades of grey."""
+
+    def __init__(self, pdf):
+        pages = subprocess.check_output(["pdfinfo", pdf]).decode()
+        expect(f"one page: {pages}", "Pages:           1\n" in pages)
+        header, size, _, self.dots = subprocess.check_output(
+            ["pdftoppm", "-r", "96", "-gray", pdf]).split(b"\n", 3)
+        expect("a picture of the page", header == b"P5")
+        self.width, self.height = map(int, size.split())
+
+    def darkest(self, left, top, right, bottom):
+        return min(min(self.dots[y * self.width + left:y * self.width + right]) for y in range(top, bottom))
+
+    def printed_area(self):
+        rows = [y for y in range(self.height) if self.darkest(0, y, self.width, y + 1) < 250]
+        columns = [x for x in range(self.width) if min(self.dots[x::self.width]) < 250]
+        return columns[0], rows[0], columns[-1] + 1, rows[-1] + 1
+
+
+def print_a_page(reader):
+    reader.press("Book Mark", "Print Page")
+    reader.click("text", "Page")
+    reader.key("ctrl+a")
+    reader.types("For Sunday")
+    reader.key(*["Return"] * 30)
+    reader.types("the thirty-first line, which the window does not show")
+    reader.press("Print")
+    paper = Paper(wait_for("a printed page", printed))
+
+    # The window's whole client area, as it is while it is printed: longer, and without its buttons.
+    left, top, right, bottom = paper.printed_area()
+    expect(f"618 by 906 pixels, not {right - left} by {bottom - top}",
+           abs(right - left - 618) <= 2 and abs(bottom - top - 906) <= 2)
+    expect("the first line is on it", paper.darkest(left + 28, top + 18, left + 120, top + 40) < 100)
+    expect("the last line is on it", paper.darkest(left + 28, top + 430, left + 300, top + 480) < 100)
+    expect("the buttons are not", paper.darkest(left + 400, top + 404, left + 588, top + 440) > 200)
+    reader.screen.find("button", "Cancel")
+
+
+def printed():
+    """The page that the printing system holds, once it is whole."""
+    spool = os.path.join(os.environ["LECTERN_TEST_PRINTER"], "spool")
+    jobs = sorted(name for name in os.listdir(spool) if name.startswith("d"))
+    path = os.path.join(spool, jobs[-1]) if jobs else None
+    return path if path and open(path, "rb").read().rstrip().endswith(b"%%EOF") else None
+
+
+class Printer:
+    """A printing system of our own with one printer, which puts what it prints into a folder."""
+
+    def __init__(self, cupsd):
+        self.cupsd = os.path.abspath(cupsd)
+
+    def __enter__(self):
+        self.folder = tempfile.TemporaryDirectory()
+        root = self.folder.name
+        for name in ("cache", "state", "spool", "tmp"):
+            os.mkdir(os.path.join(root, name))
+        files = {
+            "cups-files.conf": f"ServerRoot {root}\nCacheDir {root}/cache\nStateDir {root}/state\n"
+            f"RequestRoot {root}/spool\nTempDir {root}/tmp\nAccessLog {root}/access\nErrorLog {root}/error\n"
+            f"PageLog {root}/pages\nFileDevice Yes\n",
+            "cupsd.conf": f"Listen {root}/socket\nWebInterface No\nBrowsing No\nDefaultAuthType None\n"
+            "PreserveJobFiles Yes\n<Location />\n  Order allow,deny\n  Allow all\n</Location>\n"
+            "<Policy default>\n  <Limit All>\n    Order deny,allow\n    Allow all\n  </Limit>\n</Policy>\n",
+            "printers.conf": "<DefaultPrinter Paper>\nDeviceURI file:/dev/null\nState Idle\nAccepting Yes\n"
+            "Shared No\n</DefaultPrinter>\n",
+        }
+        for name, text in files.items():
+            with open(os.path.join(root, name), "w") as file:
+                file.write(text)
+        os.environ["CUPS_SERVER"] = f"{root}/socket"
+        os.environ["LECTERN_TEST_PRINTER"] = root
+        command = [self.cupsd, "-f", "-c", f"{root}/cupsd.conf", "-s", f"{root}/cups-files.conf"]
+        self.running = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for("a printer", lambda: b"Paper" in subprocess.run(
+            ["lpstat", "-d"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout)
+
+    def __exit__(self, *_):
+        self.running.terminate()
+        self.running.wait(PATIENCE)
+        self.folder.cleanup()
 
 
 if __name__ == "__main__":
-    play((read_a_while, leave_by_the_menu, leave_by_the_close_box))
+    stand_on_a_stage()
+    with Printer(sys.argv[2]):
+        play(os.path.abspath(sys.argv[1]),
+             (read_a_while, leave_by_the_menu, leave_by_the_close_box, mark_a_place, keep_a_note, print_a_page))
