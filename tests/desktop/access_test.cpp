@@ -2,10 +2,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QTest>
-#include <filesystem>
 #include <gtest/gtest.h>
+#include <map>
 
-#include "tests/desktop/temporary_folder.h"
+#include "tests/kit/small_world.h"
+#include "tests/kit/temporary_folder.h"
 #include "ui/desktop/app/desktop.h"
 #include "ui/desktop/layout/window_focus.h"
 #include "ui/desktop/views/control_view.h"
@@ -13,19 +14,21 @@
 namespace lectern::desktop {
 namespace {
 
-class Access : public testing::Test {
+class SmallFolder {
+ protected:
+  SmallFolder() { LaySmallWorld(folder_.Path()); }
+  TemporaryFolder folder_;
+};
+
+class Access : public testing::Test, protected SmallFolder {
  protected:
   Access() { EXPECT_TRUE(desktop.Start()); }
-
-  void Do(forms::Window& window, const std::function<void()>& act) {
-    desktop.GetEvents().Deliver(window, act);
-  }
 
   // Every window with all that can ever come to be seen in it.
   void ShowEverything() {
     for (const char* name : {"Form1", "Form2", "Form3", "Form4", "Form5"}) {
       forms::Window& window = *desktop.Program().Touch(name);
-      Do(window, [&window] {
+      desktop.GetEvents().Deliver(window, [&window] {
         window.Visible = true;
         for (forms::Control* control : window.Controls()) {
           if (control->GetKind() != forms::Kind::kMenu) control->Visible = true;
@@ -39,37 +42,29 @@ class Access : public testing::Test {
     return view == nullptr ? nullptr : QAccessible::queryAccessibleInterface(view->Widget());
   }
 
-  TemporaryFolder folder;
-  Desktop desktop{folder.WithSmallBooks(), {"Command12", "Command38", "Frame5", "Frame2"}};
+  Desktop desktop{folder_.Path(), {"Command12", "Command38", "Frame5", "Frame2"}};
 };
 
 // What a person uses a control of that kind as; NoRole for what is only looked at.
 QAccessible::Role RoleOf(const forms::Control& control) {
-  switch (control.GetKind()) {
-    case forms::Kind::kCommandButton:
-    case forms::Kind::kSSCommand:
-      return QAccessible::Button;
-    case forms::Kind::kOptionButton:
-    case forms::Kind::kSSOption:
-      return QAccessible::RadioButton;
-    case forms::Kind::kTextBox:
-    case forms::Kind::kRichTextBox:
-      return QAccessible::EditableText;
-    case forms::Kind::kListBox:
-    case forms::Kind::kFileListBox:
-    case forms::Kind::kDirListBox:
-      return QAccessible::List;
-    case forms::Kind::kComboBox:
-    case forms::Kind::kDriveListBox:
-      return QAccessible::ComboBox;
-    case forms::Kind::kHScrollBar:
-      return QAccessible::ScrollBar;
-    case forms::Kind::kProgressBar:
-      return QAccessible::ProgressBar;
-    default:
-      return control.Click || (control.MouseDown && !control.MouseMove) ? QAccessible::Button
-                                                                        : QAccessible::NoRole;
-  }
+  using forms::Kind;
+  static const std::map<Kind, QAccessible::Role> kRoles = {{Kind::kCommandButton, QAccessible::Button},
+                                                           {Kind::kSSCommand, QAccessible::Button},
+                                                           {Kind::kOptionButton, QAccessible::RadioButton},
+                                                           {Kind::kSSOption, QAccessible::RadioButton},
+                                                           {Kind::kTextBox, QAccessible::EditableText},
+                                                           {Kind::kRichTextBox, QAccessible::EditableText},
+                                                           {Kind::kListBox, QAccessible::List},
+                                                           {Kind::kFileListBox, QAccessible::List},
+                                                           {Kind::kDirListBox, QAccessible::List},
+                                                           {Kind::kComboBox, QAccessible::ComboBox},
+                                                           {Kind::kDriveListBox, QAccessible::ComboBox},
+                                                           {Kind::kHScrollBar, QAccessible::ScrollBar},
+                                                           {Kind::kProgressBar, QAccessible::ProgressBar}};
+  const auto found = kRoles.find(control.GetKind());
+  if (found != kRoles.end()) return found->second;
+  const bool is_pressed = control.Click || (control.MouseDown && !control.MouseMove);
+  return is_pressed ? QAccessible::Button : QAccessible::NoRole;
 }
 
 TEST_F(Access, EveryControlOfEveryWindowHasANameAndTheRoleOfWhatItIs) {
@@ -97,7 +92,7 @@ TEST_F(Access, EveryControlOfEveryWindowHasANameAndTheRoleOfWhatItIs) {
 
 TEST_F(Access, ThePaletteIsOneStopWhoseColoursTheArrowsGoThrough) {
   forms::Window& window = *desktop.Program().Touch("Form4");
-  Do(window, [&window] { window.Visible = true; });
+  desktop.GetEvents().Deliver(window, [&window] { window.Visible = true; });
   ASSERT_TRUE(QTest::qWaitForWindowActive(SeenViewOf(window.Find("clr2"))->Widget()->window()));
   const auto colour = [](const forms::Control* control) {
     return dynamic_cast<const forms::PlacedControl&>(*control).BackColor();

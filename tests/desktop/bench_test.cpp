@@ -65,11 +65,11 @@ TEST_F(Bench, ShowsWhatLiesOffTheWindowForTheMouse) {
   EXPECT_EQ(qobject_cast<QLineEdit*>(OnBench("name"))->text(), "noah");
 
   // A panel that its own button closed is opened again by the one in its place.
-  QPushButton* opener = nullptr;
-  for (auto* button : bench->Frame().findChildren<QPushButton*>()) {
-    if (button->text() == "Open tools") opener = button;
-  }
-  ASSERT_NE(opener, nullptr);
+  const auto buttons = bench->Frame().findChildren<QPushButton*>();
+  const auto found = std::find_if(buttons.begin(), buttons.end(),
+                                  [](const QPushButton* button) { return button->text() == "Open tools"; });
+  ASSERT_NE(found, buttons.end());
+  QPushButton* const opener = *found;
   EXPECT_FALSE(opener->isVisible()) << "it would take the focus where nobody sees it";
   ClickOnBench("close_tools");
   EXPECT_FALSE(OnBench("tools")->isVisible());

@@ -1,13 +1,17 @@
-// The page as it is read: its place, its size, and what is taken from it.
+// The page as it is read, the editor, and how positions in them are counted.
 #include <QAction>
 #include <QClipboard>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QWheelEvent>
+#include <random>
 
+#include "base/text/characters.h"
 #include "tests/desktop/stage.h"
+#include "ui/desktop/text/text_positions.h"
 
 namespace lectern::desktop {
 namespace {
@@ -22,17 +26,21 @@ class Page : public Stage {
   QTextEdit* Edit() { return Find<QTextEdit>("page"); }
   QScrollBar* Bar() { return Edit()->verticalScrollBar(); }
 
+  // As the search marks what it found.
   void Mark(const char* words) {
-    const int place = window->page.Find(words, 0, forms::kFindNoHighlight);
-    window->page.SelStart = place;
+    window->page.SelStart = window->page.Find(words, 0, forms::kFindNoHighlight);
     window->page.SelLength = 2;
     window->page.SelColor = forms::kBlue;
     window->page.SelStart = 0;
   }
 
   QRect PlaceOf(const char* words) { return Edit()->cursorRect(Edit()->document()->find(words)); }
+  bool IsSeen(const char* words) { return Edit()->viewport()->rect().contains(PlaceOf(words)); }
+  QColor ColourOf(const char* words) {
+    return Edit()->document()->find(words).block().layout()->formats().last().format.foreground().color();
+  }
 
-  // The number of the verse whose line lies at the top.
+  // The number of the verse whose line is at the top.
   int TopVerse() {
     return Edit()->cursorForPosition(QPoint(100, 0)).block().text().section(' ', 0, 0).toInt();
   }
@@ -40,10 +48,23 @@ class Page : public Stage {
   std::string verses;
 };
 
+TEST_F(Page, ShowsANewTextFromItsTopAndScrollsToMarks) {
+  EXPECT_EQ(Bar()->value(), 0);
+  Key("page", Qt::Key_PageDown);
+  EXPECT_GT(Bar()->value(), 0);
+  Key("page", Qt::Key_Home);
+  EXPECT_EQ(Bar()->value(), 0);
+  Do([this] { Mark("60  a"); });
+  EXPECT_GT(Bar()->value(), 0);
+  EXPECT_TRUE(IsSeen("60  a"));
+  EXPECT_EQ(ColourOf("60  a"), QColor(0, 0, 255));
+  Do([this] { window->page.Text = verses + "."; });
+  EXPECT_EQ(Bar()->value(), 0);
+}
+
 TEST_F(Page, StaysWhereItIsWhenTheSameTextIsShownAgain) {
   Bar()->setValue(700);
   Do([this] { window->page.Show({verses, {}}); });
-  EXPECT_EQ(Bar()->value(), 700);
   Do([this] { window->panel.Visible = true; });
   Do([this] { window->panel.Visible = false; });
   EXPECT_EQ(Bar()->value(), 700);
@@ -54,7 +75,7 @@ TEST_F(Page, StaysWhereItIsWhenTheSameTextIsShownAgain) {
     Mark("1  a");
   });
   EXPECT_EQ(Edit()->document()->lastBlock().previous().layout()->formats().size(), 1);  // the gap
-  EXPECT_TRUE(Edit()->viewport()->rect().contains(PlaceOf("1  a")));
+  EXPECT_TRUE(IsSeen("1  a"));
 }
 
 TEST_F(Page, BringsAMarkInTheFirstLinesOutFromUnderAPanel) {
@@ -66,47 +87,46 @@ TEST_F(Page, BringsAMarkInTheFirstLinesOutFromUnderAPanel) {
   });
   const QRect panel(Edit()->viewport()->mapFrom(&view->Face(), Find("panel")->pos()), Find("panel")->size());
   EXPECT_FALSE(panel.intersects(PlaceOf("3  a")));
-  EXPECT_TRUE(Edit()->viewport()->rect().contains(PlaceOf("3  a")));
+  EXPECT_TRUE(IsSeen("3  a"));
   Do([this] { window->page.Text = verses + "."; });
   EXPECT_LT(PlaceOf("1  a").top(), 30);
 }
 
 TEST_F(Page, IsEnlargedFromEverywhereAndKeepsPlaceAndMarks) {
   Do([this] { Mark("42  a"); });
-  const double size = Edit()->font().pointSizeF();
+  const auto size = [this] { return Edit()->font().pointSizeF(); };
+  const double at_first = size();
   const QFont others = Find("list")->font();
   const int verse = TopVerse();
   EXPECT_GT(verse, 5);
-  for (int i = 0; i < 5; ++i) QTest::keyClick(Find("list"), Qt::Key_Plus, Qt::ControlModifier);
-  EXPECT_NEAR(Edit()->font().pointSizeF(), size * 1.61, 0.1);
+  for (int i = 0; i < 5; ++i) Key("list", Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_NEAR(size(), at_first * 1.61, 0.1);
   EXPECT_EQ(TopVerse(), verse);
-  EXPECT_EQ(Edit()->document()->find("42  a").block().layout()->formats().last().format.foreground().color(),
-            QColor(0, 0, 255));
+  EXPECT_EQ(ColourOf("42  a"), QColor(0, 0, 255));
   EXPECT_EQ(Find("list")->font(), others);
   EXPECT_EQ(window->page.FontSize, 0);  // nothing that would be stored
 
   Do([this] { window->page.Text = verses + "."; });
-  EXPECT_NEAR(Edit()->font().pointSizeF(), size * 1.61, 0.1);
-  QTest::keyClick(Find("line_box"), Qt::Key_0, Qt::ControlModifier);
-  EXPECT_DOUBLE_EQ(Edit()->font().pointSizeF(), size);
-  for (int i = 0; i < 100; ++i) QTest::keyClick(Edit(), Qt::Key_Minus, Qt::ControlModifier);
-  EXPECT_GT(Edit()->font().pointSizeF(), size / 2);
-
+  EXPECT_NEAR(size(), at_first * 1.61, 0.1);
+  Key("line_box", Qt::Key_0, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(size(), at_first);
+  for (int i = 0; i < 100; ++i) Key("page", Qt::Key_Minus, Qt::ControlModifier);
+  const double smallest = size();
+  EXPECT_GT(smallest, at_first / 2);
   QWheelEvent turn(QPointF(50, 50), Edit()->viewport()->mapToGlobal(QPointF(50, 50)), {}, QPoint(0, 120),
                    Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
-  const double smallest = Edit()->font().pointSizeF();
   QApplication::sendEvent(Edit()->viewport(), &turn);
-  EXPECT_NEAR(Edit()->font().pointSizeF(), smallest * 1.1, 0.01);
+  EXPECT_NEAR(size(), smallest * 1.1, 0.01);
 }
 
 TEST_F(Page, IsQuotedByKeyAndByMenu) {
   QClipboard* const clipboard = QApplication::clipboard();
   clipboard->setText("before");
-  QTest::keyClick(Find("list"), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  Key("list", Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(clipboard->text(), "before");  // there is nothing to quote
   QTextCursor cursor = Edit()->document()->find("a verse");
   Edit()->setTextCursor(cursor);
-  QTest::keyClick(Edit(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  Key("page", Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(clipboard->text(), "quoted: a verse");
 
   // With nothing selected the menu takes the verse that was pressed on.
@@ -116,12 +136,123 @@ TEST_F(Page, IsQuotedByKeyAndByMenu) {
   QContextMenuEvent press(QContextMenuEvent::Mouse, on_verse, Edit()->viewport()->mapToGlobal(on_verse));
   QApplication::sendEvent(Edit()->viewport(), &press);
   auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  ASSERT_NE(menu, nullptr);
-  ASSERT_GE(menu->actions().size(), 2);
+  ASSERT_TRUE(menu != nullptr && menu->actions().size() >= 2);
   EXPECT_EQ(menu->actions()[1]->text(), "Copy with &Reference");
   menu->actions()[1]->trigger();
   menu->close();
   EXPECT_EQ(clipboard->text(), "quoted: 2  a verse of some length");
+}
+
+TEST_F(Page, TellsTheControlWhatIsSelectedAndTakesNoLetters) {
+  Do([this] { window->page.Text = "1   In the beginning\r\n2   And the earth"; });
+  Edit()->selectAll();
+  Do([] {});
+  EXPECT_EQ(window->page.SelLength, 39);  // the line end is two
+  QTest::keyClicks(Edit(), "x");
+  EXPECT_EQ(window->page.Text, "1   In the beginning\r\n2   And the earth");
+  Do([this] {
+    window->page.SelStart = 22;
+    window->page.SelLength = 1;
+  });
+  EXPECT_EQ(Edit()->textCursor().selectedText(), "2");
+}
+
+// Every third character is beyond U+FFFF, every fifth is a line end.
+std::string OddText(int length) {
+  std::string text;
+  for (int i = 0; i < length; ++i) text += i % 5 == 4 ? "\r\n" : i % 3 == 2 ? "\U0001F54A" : "é";
+  return text;
+}
+
+TEST(TextPositions, AgreeWithCountingThroughTheText) {
+  std::string text = OddText(40);
+  TextPositions positions;
+  positions.Read(text);
+  const auto agrees = [&] {
+    int qt = 0;
+    std::size_t forms = 0;
+    for (std::size_t byte = 0; byte < text.size(); ++forms) {
+      if (text[byte] != '\n') {
+        ASSERT_EQ(positions.ToQt(forms), qt);
+        ASSERT_EQ(positions.ToForms(qt), forms);
+        qt += 1;
+      }
+      if (text::NextCharacter(text, byte) > 0xFFFF) qt += 1;
+    }
+    ASSERT_EQ(positions.ToQt(forms), qt);
+    ASSERT_EQ(ToDocument(text).size(), qt);
+  };
+  agrees();
+  // Five characters and two line ends, nine by Qt's count, are replaced by two characters and one line end.
+  const std::size_t from = text::ByteOf(text, positions.ToForms(4) + 1);
+  const std::size_t to = text::ByteOf(text, positions.ToForms(13) + 1);
+  text.replace(from, to - from, "a\r\nb");
+  positions.Edited(4, 9, "a\r\nb");
+  agrees();
+}
+
+class Sheet : public Stage {
+ protected:
+  QPlainTextEdit* Edit() { return Find<QPlainTextEdit>("sheet"); }
+
+  // As the next handler finds it.
+  void ExpectAlike() {
+    Do([] {});
+    ASSERT_EQ(ToDocument(window->sheet.Text()).toStdString(), Edit()->toPlainText().toStdString());
+    TextPositions positions;
+    positions.Read(window->sheet.Text());
+    const auto start = static_cast<std::size_t>(window->sheet.SelStart());
+    ASSERT_EQ(positions.ToQt(start), Edit()->textCursor().selectionStart());
+    ASSERT_EQ(positions.ToQt(start + static_cast<std::size_t>(window->sheet.SelLength())),
+              Edit()->textCursor().selectionEnd());
+  }
+};
+
+TEST_F(Sheet, FollowsEveryEditOfThePerson) {
+  Do([this] { window->sheet.Text = OddText(60); });
+  std::mt19937 chance(7);
+  const auto up_to = [&chance](int end) { return static_cast<int>(chance() % static_cast<unsigned>(end)); };
+  const auto somewhere = [&] {
+    const int place = up_to(Edit()->document()->characterCount());
+    return Edit()->document()->characterAt(place).isLowSurrogate() ? place + 1 : place;
+  };
+  const std::function<void()> edits[] = {[&] { QTest::keyClick(Edit(), Qt::Key_Return); },
+                                         [&] { QTest::keyClick(Edit(), Qt::Key_Backspace); },
+                                         [&] { Edit()->undo(); },
+                                         [&] { Edit()->redo(); },
+                                         [&] { Edit()->insertPlainText(QString::fromUtf8(OddText(7))); },
+                                         [&] { QTest::keyClicks(Edit(), "word "); }};
+  for (int i = 0; i < 400; ++i) {
+    QTextCursor cursor = Edit()->textCursor();
+    cursor.setPosition(somewhere());
+    if (up_to(2) == 0) cursor.setPosition(somewhere(), QTextCursor::KeepAnchor);
+    Edit()->setTextCursor(cursor);
+    edits[up_to(6)]();
+    ASSERT_NO_FATAL_FAILURE(ExpectAlike()) << "after edit " << i;
+  }
+  Edit()->selectAll();
+  QTest::keyClick(Edit(), Qt::Key_Delete);
+  ExpectAlike();
+  EXPECT_EQ(window->sheet.Text, "");
+  Edit()->undo();
+  ExpectAlike();
+}
+
+TEST_F(Sheet, MovesItsColoursWithWhatIsTypedAheadOfThem) {
+  Do([this] {
+    window->sheet.Text = "one\r\ntwo";
+    window->sheet.SelStart = 5;
+    window->sheet.SelLength = 3;
+    window->sheet.SelColor = forms::kRed;
+    window->sheet.SelStart = 0;
+  });
+  QTest::keyClicks(Edit(), "ab");
+  QTest::keyClick(Edit(), Qt::Key_Return);
+  const QTextBlock two = Edit()->document()->lastBlock();
+  ASSERT_EQ(two.layout()->formats().size(), 1);
+  EXPECT_EQ(two.layout()->formats()[0].start, 0);
+  EXPECT_EQ(two.layout()->formats()[0].length, 3);
+  EXPECT_TRUE(Edit()->document()->firstBlock().layout()->formats().isEmpty());
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImage>
 #include <QImageWriter>
+#include <QPainter>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <random>
@@ -16,14 +17,13 @@ namespace {
 constexpr int kWidth = 96;
 constexpr int kHeight = 64;
 
-QImage FourFields() {
+// The left half red, the right one green above and blue below.
+QImage ThreeFields() {
   QImage image(kWidth, kHeight, QImage::Format_RGB32);
   image.fill(Qt::red);
-  for (int y = 0; y < kHeight; ++y) {
-    for (int x = 0; x < kWidth; ++x) {
-      if (x >= kWidth / 2) image.setPixelColor(x, y, y < kHeight / 2 ? Qt::green : Qt::blue);
-    }
-  }
+  QPainter painter(&image);
+  painter.fillRect(kWidth / 2, 0, kWidth / 2, kHeight / 2, Qt::green);
+  painter.fillRect(kWidth / 2, kHeight / 2, kWidth / 2, kHeight / 2, Qt::blue);
   return image;
 }
 
@@ -33,7 +33,7 @@ std::string Jpeg(bool progressive) {
   buffer.open(QIODevice::WriteOnly);
   QImageWriter writer(&buffer, "jpeg");
   writer.setProgressiveScanWrite(progressive);
-  EXPECT_TRUE(writer.write(FourFields()));
+  EXPECT_TRUE(writer.write(ThreeFields()));
   return bytes.toStdString();
 }
 

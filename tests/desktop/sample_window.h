@@ -30,45 +30,27 @@ class SampleWindow : public forms::Window {
     constexpr double kPixel = forms::kTwipsPerPixel;
     Width = 790 * kPixel + forms::kFrameWidth;
     Height = 600 * kPixel + forms::kFrameHeight + forms::kMenuBarHeight;
-    const auto place = [](forms::PlacedControl& control, double left, double top, double width,
-                          double height) {
-      control.Left = left * kPixel;
-      control.Top = top * kPixel;
-      control.Width = width * kPixel;
-      control.Height = height * kPixel;
-    };
-    place(label, 10, 10, 90, 20);
-    place(line_box, 110, 8, 150, 24);
-    place(page_box, 10, 40, 250, 70);
-    place(command, 10, 120, 110, 28);
-    place(search, 130, 120, 130, 28);
-    place(option, 10, 158, 110, 22);
-    place(bare_option, 130, 158, 20, 22);
-    place(option_text, 152, 160, 108, 20);
-    place(combo, 10, 185, 250, 26);
-    place(bar, 10, 220, 250, 22);
-    place(progress, 10, 250, 250, 16);
-    place(list, 280, 10, 145, 180);
-    place(files, 280, 200, 145, 66);
-    place(folders, 435, 10, 145, 180);
-    place(drives, 435, 200, 145, 26);
-    place(image, 600, 10, 80, 60);
-    place(clickable_image, 690, 10, 80, 60);
-    place(shape, 600, 80, 40, 40);
-    place(swatch_label, 610, 90, 30, 20);
-    place(line, 650, 100, 120, 0);
-    place(frame, 600, 130, 180, 136);
-    place(in_frame, 10, 30, 160, 20);
-    place(ss_option, 10, 56, 100, 22);
-    place(ss_option2, 10, 80, 100, 22);
-    place(ss_command, 10, 104, 100, 26);
-    place(canvas, 10, 280, 250, 200);
-    place(page, 280, 280, 245, 200);
-    place(sheet, 535, 280, 245, 200);
-    place(panel, 300, 250, 300, 160);
-    place(cancel, 180, 120, 100, 28);
-    place(in_panel, 10, 10, 200, 24);
-    place(far_away, 1200, 10, 100, 20);
+    const struct {
+      forms::PlacedControl* control;
+      double left, top, width, height;
+    } kPlaces[] = {
+        {&label, 10, 10, 90, 20},         {&line_box, 110, 8, 150, 24},        {&page_box, 10, 40, 250, 70},
+        {&command, 10, 120, 110, 28},     {&search, 130, 120, 130, 28},        {&option, 10, 158, 110, 22},
+        {&bare_option, 130, 158, 20, 22}, {&option_text, 152, 160, 108, 20},   {&combo, 10, 185, 250, 26},
+        {&bar, 10, 220, 250, 22},         {&progress, 10, 250, 250, 16},       {&list, 280, 10, 145, 180},
+        {&files, 280, 200, 145, 66},      {&folders, 435, 10, 145, 180},       {&drives, 435, 200, 145, 26},
+        {&image, 600, 10, 80, 60},        {&clickable_image, 690, 10, 80, 60}, {&shape, 600, 80, 40, 40},
+        {&swatch_label, 610, 90, 30, 20}, {&line, 650, 100, 120, 0},           {&frame, 600, 130, 180, 136},
+        {&in_frame, 10, 30, 160, 20},     {&ss_option, 10, 56, 100, 22},       {&ss_option2, 10, 80, 100, 22},
+        {&ss_command, 10, 104, 100, 26},  {&canvas, 10, 280, 250, 200},        {&page, 280, 280, 245, 200},
+        {&sheet, 535, 280, 245, 200},     {&panel, 300, 250, 300, 160},        {&cancel, 180, 120, 100, 28},
+        {&in_panel, 10, 10, 200, 24},     {&far_away, 1200, 10, 100, 20}};
+    for (const auto& [control, left, top, width, height] : kPlaces) {
+      control->Left = left * kPixel;
+      control->Top = top * kPixel;
+      control->Width = width * kPixel;
+      control->Height = height * kPixel;
+    }
     far_away.AnchorTo(forms::Anchor::kStorage);
     JoinHandlers();
     for (const char* book : {"Genesis", "Exodus", "Leviticus", "Job", "Joel", "John"}) list.AddItem(book);

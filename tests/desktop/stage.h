@@ -68,10 +68,20 @@ class Stage : public testing::Test {
     return area == nullptr ? widget : area->viewport();
   }
 
-  void Click(const char* name) { QTest::mouseClick(Target(name), Qt::LeftButton); }
-  void Click(const char* name, int x, int y) {
-    QTest::mouseClick(Target(name), Qt::LeftButton, {}, QPoint(x, y));
+  // What the handlers wrote down when a control is pressed, or a key is.
+  std::string Click(const char* name) {
+    QTest::mouseClick(Target(name), Qt::LeftButton);
+    return Log();
   }
+  std::string Click(const char* name, int x, int y) {
+    QTest::mouseClick(Target(name), Qt::LeftButton, {}, QPoint(x, y));
+    return Log();
+  }
+  std::string Key(const char* name, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(Find(name), key, modifiers);
+    return Log();
+  }
+  std::string FocusName() { return view->Frame()->focusWidget()->objectName().toStdString(); }
 
   // What the handlers wrote down since the last time.
   std::string Log() {

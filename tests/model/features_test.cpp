@@ -41,30 +41,6 @@ struct Printing : testing::Test {
   }
 };
 
-TEST_F(Printing, PutsThePageOnPaperWithoutItsButtonsAndWithMoreLines) {
-  ui::Form2 page(services);
-  page.Form_Load();
-  page.Visible = true;
-  EXPECT_EQ(page.Left, (15360 - 9390) / 2.0);
-  EXPECT_EQ(page.Top, (11520 - 7050) / 2.0);
-  for (const bool has_printer : {true, false}) {
-    platform.has_printer = has_printer;
-    int looks = 0;
-    platform.look = [&](forms::Window& window) {
-      ++looks;
-      EXPECT_FALSE(In(window, "Command1").Visible || In(window, "Command2").Visible);
-      EXPECT_EQ(window.ClientHeight(), 14000 - 405);
-      EXPECT_EQ(In(page, "Text1").Height, 5775 + 7000);
-    };
-    In(page, "Command1").PersonClicks();
-    EXPECT_EQ(looks, 1);
-    EXPECT_TRUE(In(page, "Command1").Visible);
-    EXPECT_EQ(In(page, "Text1").Height, 5775);
-    EXPECT_EQ(page.Height, 7050);
-  }
-  EXPECT_EQ(events, Steps{"print Form2 618x906"});
-}
-
 TEST_F(Printing, ShowsAPictureInAWindowOfItsSizeAndPrintsItWithItsButton) {
   ui::Form5 form(services);
   const auto& image = dynamic_cast<const forms::Image&>(In(form, "Image1"));

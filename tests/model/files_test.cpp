@@ -47,38 +47,44 @@ TEST_F(Files, AreFoundWithoutRegardToCaseAndByBothSlashes) {
 TEST_F(Files, FailWithTheNumberThatFits) {
   folder.Write("there.txt", "x");
   folder.Write("folder/file.txt", "x");
-  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(1, Name("\\missing.txt")); }), 53);
-  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(1, Name("\\nowhere\\missing.txt")); }), 76);
-  EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(1, Name("\\nowhere\\new.txt")); }), 76);
-  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(1, Name("\\folder")); }), 75);
-  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(1, Name("\\there.txt\\x")); }), 76);
+  const auto read = [&](const char* name) { return ErrorOf([&] { slots.OpenForReading(1, Name(name)); }); };
+  const auto append = [&](const std::string& name) {
+    const int error = ErrorOf([&] { slots.OpenForAppending(1, Name("\\" + name)); });
+    slots.CloseAll();
+    return error;
+  };
+  const auto rename = [&](const char* from, const char* to) {
+    return ErrorOf([&] { files.Rename(Name(from), Name(to)); });
+  };
+  EXPECT_EQ(read("\\missing.txt"), 53);
+  EXPECT_EQ(read("\\nowhere\\missing.txt"), 76);
+  EXPECT_EQ(read("\\folder"), 75);
+  EXPECT_EQ(read("\\there.txt\\x"), 76);
+  EXPECT_EQ(append("nowhere\\new.txt"), 76);
   EXPECT_EQ(ErrorOf([&] { files.Delete(Name("\\folder")); }), 53);
   EXPECT_EQ(ErrorOf([&] { files.Length(Name("\\missing.txt")); }), 53);
   for (const std::string bad : {"a:b", "a*", "what?", "\"x\"", "<x", "x>", "a|b"}) {
-    EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(1, Name("\\" + bad + ".bkm")); }), 52) << bad;
+    EXPECT_EQ(append(bad + ".bkm"), 52) << bad;
     EXPECT_EQ(ErrorOf([&] { files.Delete(Name("\\" + bad)); }), 52) << bad;
   }
-  const std::string long_name(252, 'n');
-  EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(1, Name("\\" + long_name + ".bk")); }), 0);
-  EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(2, Name("\\" + long_name + ".bkm")); }), 52);
-  slots.CloseAll();
-
-  EXPECT_EQ(ErrorOf([&] { files.Rename(Name("\\missing.txt"), Name("\\new.txt")); }), 53);
-  EXPECT_EQ(ErrorOf([&] { files.Rename(Name("\\there.txt"), Name("\\nowhere\\new.txt")); }), 76);
-  EXPECT_EQ(ErrorOf([&] { files.Rename(Name("\\there.txt"), Name("\\FOLDER")); }), 58);
-  EXPECT_EQ(ErrorOf([&] { files.Rename(Name("\\there.txt"), Name("\\moved.txt")); }), 0);
+  EXPECT_EQ(append(std::string(252, 'n') + ".bk"), 0);
+  EXPECT_EQ(append(std::string(252, 'n') + ".bkm"), 52);
+  EXPECT_EQ(rename("\\missing.txt", "\\new.txt"), 53);
+  EXPECT_EQ(rename("\\there.txt", "\\nowhere\\new.txt"), 76);
+  EXPECT_EQ(rename("\\there.txt", "\\FOLDER"), 58);
+  EXPECT_EQ(rename("\\there.txt", "\\moved.txt"), 0);
   EXPECT_EQ(folder.Read("moved.txt"), "x");
 }
 
 TEST_F(Files, SlotsKeepToTheirNumbers) {
   folder.Write("a.txt", "one\r\ntwo");
-  EXPECT_EQ(ErrorOf([&] { slots.ReadLine(1); }), 52);
-  EXPECT_EQ(ErrorOf([&] { slots.EndOfFile(1); }), 52);
-  EXPECT_EQ(ErrorOf([&] { slots.PrintLine(1, "x"); }), 52);
-  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(0, Name("\\a.txt")); }), 52);
-  EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(256, Name("\\a.txt")); }), 52);
+  for (const int slot : {0, 1, 256}) {
+    EXPECT_EQ(ErrorOf([&] { slots.ReadLine(slot); }), 52);
+    EXPECT_EQ(ErrorOf([&] { slots.EndOfFile(slot); }), 52);
+    EXPECT_EQ(ErrorOf([&] { slots.PrintLine(slot, "x"); }), 52);
+    EXPECT_EQ(ErrorOf([&] { slots.OpenForReading(slot, Name("\\a.txt")); }), slot == 1 ? 0 : 52);
+  }
   slots.OpenForReading(255, Name("\\a.txt"));
-  slots.OpenForReading(1, Name("\\a.txt"));
   EXPECT_EQ(ErrorOf([&] { slots.OpenForAppending(1, Name("\\a.txt")); }), 55);
   EXPECT_EQ(slots.ReadLine(1), "one");
   EXPECT_EQ(slots.ReadLine(1), "two");
@@ -88,13 +94,13 @@ TEST_F(Files, SlotsKeepToTheirNumbers) {
   slots.Close(1);
   EXPECT_FALSE(slots.IsOpen(1));
   EXPECT_TRUE(slots.IsOpen(255));
-  // Nothing is to be read from a file that is written to.
+  // Nothing is read from a file that is written to.
   slots.OpenForAppending(1, Name("\\b.txt"));
   slots.PrintLine(1, "b");
   EXPECT_TRUE(slots.EndOfFile(1));
   EXPECT_EQ(ErrorOf([&] { slots.ReadLine(1); }), 52);
   EXPECT_EQ(folder.Read("b.txt"), "");
-  slots.Close(1);
+  slots.Flush(1);
   EXPECT_EQ(folder.Read("b.txt"), "b\r\n");
 }
 
@@ -111,10 +117,7 @@ TEST_F(Files, ReadQuotedRecordsFieldByField) {
 
   folder.Write("n.dat", "17,-4,many,\"9 lives\"\r\n\"open");
   slots.OpenForReading(1, Name("\\n.dat"));
-  EXPECT_EQ(slots.ReadNumber(1), 17);
-  EXPECT_EQ(slots.ReadNumber(1), -4);
-  EXPECT_EQ(slots.ReadNumber(1), 0);
-  EXPECT_EQ(slots.ReadNumber(1), 9);
+  for (const int number : {17, -4, 0, 9}) EXPECT_EQ(slots.ReadNumber(1), number);
   EXPECT_EQ(slots.ReadField(1), "open");
   EXPECT_EQ(ErrorOf([&] { slots.ReadField(1); }), 62);
   slots.Close(1);
@@ -141,20 +144,18 @@ TEST_F(Files, KeepTextOfAnyScript) {
   }
 }
 
+// An empty file, as a full disk leaves one, does not push out a version that holds something.
 TEST_F(Files, KeepTheLastVersionOfWhatAPersonMade) {
-  folder.Write("notes/mine.not", "first");
-  files.DeleteKeepingBackup(Name("\\Notes\\MINE.not"));
-  EXPECT_FALSE(files.FileExists(Name("\\notes\\mine.not")));
-  EXPECT_EQ(folder.Read("backup/notes/mine.not"), "first");
-  EXPECT_EQ(ErrorOf([&] { files.DeleteKeepingBackup(Name("\\notes\\mine.not")); }), 53);
-
-  // An empty file, as a full disk leaves one, does not push out a version that holds something.
-  folder.Write("notes/mine.not", "");
-  files.DeleteKeepingBackup(Name("\\notes\\mine.not"));
-  EXPECT_EQ(folder.Read("backup/notes/mine.not"), "first");
-  folder.Write("notes/mine.not", "second");
-  files.DeleteKeepingBackup(Name("\\notes\\mine.not"));
-  EXPECT_EQ(folder.Read("backup/notes/mine.not"), "second");
+  const std::string name = Name("\\Notes\\MINE.not");
+  const std::pair<const char*, const char*> versions[] = {
+      {"first", "first"}, {"", "first"}, {"second", "second"}};
+  for (const auto& [version, kept] : versions) {
+    folder.Write("notes/mine.not", version);
+    files.DeleteKeepingBackup(name);
+    EXPECT_FALSE(files.FileExists(name));
+    EXPECT_EQ(folder.Read("backup/notes/mine.not"), kept);
+  }
+  EXPECT_EQ(ErrorOf([&] { files.DeleteKeepingBackup(name); }), 53);
 }
 
 TEST_F(Files, KeepTheVersionBeforeAndTheLongestOfThoseBeforeIt) {
@@ -193,12 +194,12 @@ TEST_F(Files, LeaveAFileAsItWasWhenTheDiskIsFull) {
 }
 
 TEST(PathNames, FitPatternsAsFileListsDo) {
-  EXPECT_TRUE(FitsPattern("Ruth and Naomi.BKM", "*.bkm"));
-  EXPECT_TRUE(FitsPattern(".bkm", "*.bkm"));
+  for (const auto& [name, pattern] : std::vector<std::pair<const char*, const char*>>{
+           {"Ruth and Naomi.BKM", "*.bkm"}, {".bkm", "*.bkm"}, {"cdx4.ico", "CDX?.ico"}, {"aXbXc", "*b*c"}}) {
+    EXPECT_TRUE(FitsPattern(name, pattern)) << name;
+  }
   EXPECT_FALSE(FitsPattern("x.bkm.txt", "*.bkm"));
-  EXPECT_TRUE(FitsPattern("cdx4.ico", "CDX?.ico"));
   EXPECT_FALSE(FitsPattern("cdx.ico", "cdx?.ico"));
-  EXPECT_TRUE(FitsPattern("aXbXc", "*b*c"));
 }
 
 }  // namespace
