@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "base/text/characters.h"
+#include "forms/picture.h"
 #include "forms/rich_text.h"
 #include "reader/canon.h"
 #include "tests/kit/temporary_folder.h"

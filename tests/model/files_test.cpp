@@ -100,7 +100,7 @@ TEST_F(Files, SlotsKeepToTheirNumbers) {
   EXPECT_TRUE(slots.EndOfFile(1));
   EXPECT_EQ(ErrorOf([&] { slots.ReadLine(1); }), 52);
   EXPECT_EQ(folder.Read("b.txt"), "");
-  slots.Flush(1);
+  slots.Close(1);
   EXPECT_EQ(folder.Read("b.txt"), "b\r\n");
 }
 

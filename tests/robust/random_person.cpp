@@ -6,7 +6,7 @@
 #include "forms/list_box.h"
 #include "forms/rich_text_box.h"
 #include "forms/scroll_bar.h"
-#include "ui/headless/inspector.h"
+#include "ui/headless/driver.h"
 
 namespace lectern {
 
