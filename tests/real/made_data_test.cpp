@@ -76,7 +76,8 @@ TEST(Gallery, HasPicturesOnVersesOfEveryBook) {
     EXPECT_TRUE(author.starts_with("PICTURES BY: ") && author.size() > 13) << name;
     EXPECT_FALSE(VerseAt(place).empty()) << place;
     const int book = reader::ReadReference(place)->reference.book;
-    EXPECT_TRUE(place.starts_with(std::string(reader::kCanon[static_cast<std::size_t>(book)]) + " ")) << place;
+    EXPECT_TRUE(place.starts_with(std::string(reader::kCanon[static_cast<std::size_t>(book)]) + " "))
+        << place;
     EXPECT_GE(book, last) << place << " is behind a later book";
     last = book;
     books.insert(book);
