@@ -1,6 +1,6 @@
 @data gallery
 # A book's text from elsewhere is turned into a book file.
-set Form1.RTB1.Text = "too short"; click! Form1.Command33 | message "SELECT OPTION" "Lectern 2"
+set Form1.RTB1.Text = "too short by 1 char"; click! Form1.Command33 | message "SELECT OPTION" "Lectern 2"
 @changes KJV | unchanged
 set Form1.RTB1.Text = "From a sender\r\nCodex, King James Version\r\n\r\nRuth\r\n[1]In the days\r\n[2]the name\r\n[3]\r\nthe rest\r\nan odd line\r\n\r\n[1]And she had a kinsman\r\n[12]\r\nthat stayed"
 set Form1.Dir2.Path = "KJV"
@@ -19,9 +19,9 @@ click Form1.lst "Ruth"
 scroll Form1.scr 2
   rtxt "1.And she had a kinsman\r\n12.that stayed\r\n"
 
-# ODDITY(converted-twice-doubles): a second time it goes behind the first.
-set Form1.RTB1.Text = "\r\n\r\nRuth\r\n[1]In the days of the judges\r\n"; click! Form1.Command33
-@changes KJV/Ruth.TXT | +9 Ruth | +10 Chapter 1 | +11 1.In the days of the judges
+# ODDITY(converted-twice-doubles): a second time it goes behind the first, here by the shortest source.
+set Form1.RTB1.Text = "\r\n\r\nRuth\r\n[1]Ruth.\r\n"; click! Form1.Command33
+@changes KJV/Ruth.TXT | +9 Ruth | +10 Chapter 1 | +11 1.Ruth.
 
 # ODDITY(dash-counts-a-chapter): a rule between chapters counts as a chapter.
 set Form1.RTB1.Text = "\r\n\r\nJoel\r\n[1]The word of the Lord\r\n------\r\n[1]Blow the trumpet\r\n[2.1]and sound\r\n"

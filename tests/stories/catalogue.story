@@ -139,6 +139,7 @@ click! Form1.Command38
 @show tmppics2.dat | missing
 # Without what the change of book had left there, once.
 click! Form1.Command40
+  List4.ListCount 7
   List5: "tent", "olive"
 scroll Form1.scr 4; click! Form1.Command40
   List5 empty, picnm.Max -1

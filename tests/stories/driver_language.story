@@ -27,6 +27,7 @@ click Form1.Command16 "twice" | error: Form1.Command16 has no items to click
 type Form1.lst no quotes | error: a text is wanted
 type Form1.lst "Ruth" | error: Form1.lst takes no text
 call HELPTIPS
+call OpenWebPage "a" "b" | error: a routine is wanted
 get form1.LST.list(7) | Form1.lst.List(7) = "Ruth"
 get FORM1.LBLMRK(9).Caption | error: no control FORM1.LBLMRK(9)
 set Form1.lblbk.Caption = "tab\t quote\" back\\ end\r\n\x01"

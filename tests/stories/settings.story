@@ -3,7 +3,7 @@ screen 30000 20000; fonts "Arial" "Georgia" "Times New Roman"
   Form1 shown, Left 8070, Top 4645, Width 13860, Dir3.Path "DATA\\KJV", Dirpics.Path "DATA"
   Combo1: "Arial", "Georgia", "Times New Roman"
   Combo3: "Regular", "Italic", "Bold", "Bold Italic"
-  LBLMRK(0) "", Picture2.Left 800, picp hidden
+  LBLMRK(0) "", picp hidden, Picture2.Left 800, Picture2.Top 1800, frmhelp.Top 360, Picture17.Left 100, frmd.Left 240
 @changes codex.cfg | unchanged
 
 # A reader's eyes are tired: a larger font from the Options menu, a warmer window, and the same again tomorrow.
@@ -96,7 +96,9 @@ click Form1.Command1 | end
 get Form1.lblc.Caption | ended
 @changes backup/codex.cfg codex.cfg | unchanged
 @show codex.cfg | "Verdana","14","Bold"
-@restart; set Form1.Combo2.Text = "20"; click Form1.oo12; click Form1.Command1 | end
+@restart
+  rtxt.FontName "Verdana", rtxt.FontSize 14, rtxt.FontBold True, RTXT2.FontBold True
+set Form1.Combo2.Text = "20"; click Form1.oo12; click Form1.Command1 | end
 @changes codex.cfg | unchanged
 @restart; close Form1 | end
 @changes codex.cfg | unchanged

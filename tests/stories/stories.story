@@ -4,27 +4,6 @@
 @write KJV/John.txt | Chapter 1 | 1   A man by the road. | Chapter 2 | 1   A feast on the third day.
 @append bookschap.txt | "Luke",2 | "1-Samuel",2
 
-# The whole menu.  ODDITY(kept-spelling)
-menu
-  | …
-  | "Codex &Stories" dd1
-  |   "The Beginning" dd2 |     "Adam and Eve" ss3 |     "Cain and Abel" sss4 |     "The Tower of Babel" ss4
-  |   "Abraham" dd3 |     "God's Covenent" ss1 |     "Three Visitors" ss5 |     "Tested" ss6
-  |   "Noah" dd4 |     "The Flood" ss7 |     "Noah's Ark" sss8 |     "God's Covenent" ss2
-  |   "Moses" ddd8 |     "The Ten Commandments" jj8 |     "The Burning Bush" ss8 |     "Crossing the Sea" ss9
-  |     "At Sinia" sss1
-  |   "David" dd5 |     "And Samuel" aaa3 |     "And Goliath" sss3 |     "And Saul" aaa4
-  |     "Becomes a King" aaa5
-  |   "Peter" dd6 |     "Disowns Jesus" ddd1 |     "Reinstated" aaa9 |     "Heals a Beggar" aaa8
-  |     "Escaping from Prison" sss7
-  |   "Paul" dd7 |     "First Journey" dddd5 |     "In Prison" ddd4 |     "Shiprecked" ddd3
-  |     "Preaches in Rome" ddd2
-  |   "Jesus" dd8 |     "His Birth" gg5 |     "Changing Water to Wine" gg1 |     "Healing the Sick" ff9
-  |     "Walking on Water" ff8 |     "At the Temple" ff6 |     "The Last Supper" ff5 |     "On Trial" ff4
-  |     "Crusifiction" ff3 |     "After his Death" ff2 |     "Return to Heaven" ff1
-  | "O&ptions" oo
-  | …
-
 # ODDITY(story-keeps-range): the chapter loads, the bar keeps to the book before.
 click Form1.lst "Jude"; click Form1.ss3
   lblbk "Genesis", lblbook "Genesis", lblc "2", rtxt "1   A stranger came by…Chapter 3\r\n", scr.Max 1, scr 1
