@@ -19,7 +19,7 @@ click Form1.lst "Ruth"
 scroll Form1.scr 2
   rtxt "1.And she had a kinsman\r\n12.that stayed\r\n"
 
-# ODDITY(converted-twice-doubles): a second time it goes behind the first, here by the shortest source.
+# ODDITY(converted-twice-doubles): a second conversion is added behind the first. This source is the shortest that is taken.
 set Form1.RTB1.Text = "\r\n\r\nRuth\r\n[1]Ruth.\r\n"; click! Form1.Command33
 @changes KJV/Ruth.TXT | +9 Ruth | +10 Chapter 1 | +11 1.Ruth.
 
@@ -29,7 +29,7 @@ click! Form1.Command33
 @show KJV/Joel.TXT | Joel | Chapter 1 | 1.The word of the Lord | Chapter 3 | 1.Blow the trumpet | 2.1.and sound
 @show KJV/TEMP.TXT | missing
 
-# What must not be given to it ends the program: a verse without a bracket, and a source without a blank line.
+# A verse without its closing bracket and a source without a blank line end the program.
 set Form1.RTB1.Text = "\r\n\r\nAmos\r\n[1 The words of Amos, who was\r\n"
 click! Form1.Command33 | run-time error 5 "Invalid procedure call or argument" | end
 @delete TEMP.TXT; @delete KJV/TEMP.TXT

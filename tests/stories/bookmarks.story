@@ -14,7 +14,7 @@ answer ""; click Form1.Command10 | input … -> ""
   File1: "03 - 07 - 26.bkm", "Ruth and Naomi.bkm"
   LBLMRK(0) "03 - 07 - 26"
 
-# The reader goes on; the chapter in hand follows, the book does not.
+# The reader reads on; the panel's chapter follows, its book does not.
 click Form1.lst "Genesis"; scroll Form1.scr 3
   LBLMRK(1) "Ruth", LBLMRK(2) "3"
 click Form1.File1 "Ruth and Naomi.bkm"
@@ -67,12 +67,12 @@ click Form1.Command6
 @changes hand.bkm | unchanged
 @show Other.bkm | "Other","Exodus","1"
 
-# With no bookmark in hand that is a file without a name, which the list shows.
+# With no bookmark in hand it writes a file without a name, which the list shows.
 @restart; click Form1.xb; click Form1.Command6
 @show .bkm | "","Genesis","1"
   File1: ".bkm", "03 - 07 - 26.bkm", "hand.bkm", "Naomi.bkm", "Other.bkm", "Ruth and Naomi.bkm"
 
-# ODDITY(sweeping-chapters): a sweep over the strip is a chapter a movement, and nothing stops it at the end.
+# ODDITY(sweeping-chapters): each movement over the strip is the next chapter, and nothing stops it at the end.
 click Form1.lst "Genesis"; mousemove Form1.Picture2 0 0 10 10; mousemove Form1.Picture2 0 0 20 10
   lblc "3", scr 3
 mousemove Form1.Picture2 0 0 30 10
@@ -102,7 +102,7 @@ click Form1.File1 "lines.bkm"; click Form1.Command5
 click Form1.xb; click Form1.File1 "lost.bkm"; click Form1.Command5
   lblbk "Nowhere", lblc "seven", Picture1 hidden
 
-# Too few fields, a file that went away and a name that no file can have end the program.
+# Too few fields, a file that has been deleted and a name that no file can have end the program.
 click Form1.xb; click Form1.File1 "short.bkm" | run-time error 62 "Input past end of file" | end
 @restart; click Form1.xb; @delete short.bkm
 click Form1.File1 "short.bkm" | run-time error 53 "File not found" | end
@@ -113,7 +113,8 @@ click Form1.Command11 | run-time error 53 "File not found" | end
 click Form1.Command10 | input … -> "when: now" | run-time error 52 "Bad file name or number" | end
 @changes . | unchanged
 
-# Update under such a name does nothing at all; nor where the data folder is gone, which ends New.
+# Update under such a name does nothing. Where the data folder is gone Update does nothing either, and New ends the
+# program.
 @restart; click Form1.xb; set Form1.LBLMRK(0).Caption = "when: now"; click Form1.Command6
   Picture1 shown
 @delete; click Form1.Command6

@@ -5,7 +5,7 @@
   | "olive","John 0: 3","PICTURES BY: A" | "ark","John one: 3","PICTURES BY: A" | "road","John","PICTURES BY: A"
   | "harp","John12: 1","PICTURES BY: A" | "well","john 1: 1","PICTURES BY: A" | tent,John 2: 4,unquoted
 click Form1.lst "John"
-# By chapter: no colon is a chapter all the same; none, and one that does not begin with a digit, is in no list.
+# A place needs no colon; one without a chapter, or with a chapter that does not begin with a digit, is in no list.
   lstmc(0): "tent", "dawn", "harp", "tent"
   lstmc(1): "John 1", "John 2: 1", "John12: 1", "John 2: 4"
   lbltm "2"
@@ -22,7 +22,7 @@ click Form1.lst "1 John"
   lstmc(0): "river"
 
 # A record without a field takes it from the next line, and one that the end of the file cuts off counts for nothing.
-# An absurd chapter keeps nobody waiting.
+# An absurdly large chapter number costs no time.
 @write pics2.dat
   | "flock","Genesis 1: 1" | "dawn","Genesis 2: 1","B" | "ark","Genesis 99999999999: 1","B" | "road","Genesis 1: 1","B"
 @append pics2.dat "\"tent\",\"Genesis 1: 2\""
@@ -34,7 +34,7 @@ click Form1.lst "1 John"
   lbltm "2147483647"
   lstmc(0): "flock", "ark"
 
-# ODDITY(nameless-slot): a record without a name leaves its slot as the page before left it.
+# ODDITY(nameless-slot): a record without a name leaves in its slot what the page before had there.
 @write pics2.dat
   | "dawn","Genesis 1: 1","A" | "flock","Genesis 1: 1","A" | "dawn","Genesis 1: 1","A" | "dawn","Genesis 1: 1","A"
   | "dawn","Genesis 1: 1","A" | "dawn","Genesis 1: 1","A" | "","Genesis 3: 1","A"
@@ -71,7 +71,7 @@ click Form1.lst "Joel"
 click Form1.lst "Jonah"
   picnm.Max -1
 
-# An empty catalogue, and none.
+# An empty catalogue, and no catalogue.
 @write pics2.dat ""
 @restart
   lblp(0) "end", picnm.Max -1
@@ -109,7 +109,7 @@ call ConvertPicsDat
 @show pics2.dat | "Genesis 2: 3","staff of wood","PICTURES BY: A. Painter"
 @files backup
 
-# By the older rule a chapter shows the first picture at or behind it.
+# By the older rule a chapter shows the first picture of that chapter or of a later one.
 @data gallery
 @write pics.dat
   | PICTURES BY: A. Painter | dawn   | Genesis 1: 1 | harp | Psalms 2: 1 | ark | Genesis 3: 4 |     | Genesis 4: 2
@@ -137,7 +137,7 @@ click! Form1.Command38
   List5: "tent", "olive", "tent", "olive"
   picnm.Max 3, picnm 0, LBLPICP "river"
 @show tmppics2.dat | missing
-# Without what the change of book had left there, once.
+# The second time, without what the change of book had left in the work file, each stands there once.
 click! Form1.Command40
   List4.ListCount 7
   List5: "tent", "olive"

@@ -11,7 +11,7 @@ scroll Form1.scr 2
   rtxt "1   A cloud stood over the road.       \r\n2   The graceful birds went before them.       \r\n"
 scroll Form1.scr 3 | refused: range
 @changes KJV | unchanged
-# The same book again opens on its first chapter. A book of one chapter leaves the bar nowhere to go.
+# The same book again opens on its first chapter. In a book of one chapter the bar cannot move.
 click Form1.lst "Exodus"
   lblc "1"
 click Form1.lst "Jude"
@@ -25,7 +25,7 @@ click Form1.lst "Genesis"; scroll Form1.scr 3; click Form1.optn
 click Form1.optk
   LBLVR "King James Version", optn.Value False
 
-# A chapter that is not there, a number with a nought in front, and text where a number belongs.
+# A chapter that is not there, a number with a leading zero, and text where a number belongs.
 set Form1.lblc.Caption = "99"
   rtxt "3   Grace and peace kept the house.       \r\n", scr 1
 set Form1.lblc.Caption = "02"

@@ -28,7 +28,7 @@ click Form1.optk
 scroll Form1.scr 2; click Form1.Command9
   lblc "1", lstc empty, lstc2 empty
 
-# Adding: as it was typed, at the end of the file, without a look at what is there.
+# Add writes the term as it was typed, at the end of the file, even if it is there already.
 click Form1.Command16; click Form1.op1; type Form1.txts "Peace kept"; click Form1.Command22
 run | ran 66 ticks
 click Form1.cmdadd | message "PEACE KEPT has been added to the Concordance" "Lectern 2"
@@ -77,8 +77,8 @@ click Form1.lstc2 "Jude 1 1"
 click Form1.lstc2 "Ésaïe3 4"
   lblbk "Ésaï"
 
-# A record that the end of the file cuts off, and a missing file, end the program; adding makes the file, or
-# reports that it cannot.
+# A record that the end of the file cuts off, and a missing file, end the program; Add makes the file, or reports
+# that it cannot.
 @write CONCORD.DAT "\"a\",\"Jude 1 1\"\r\n\"b\""
 click Form1.cc1 | run-time error 62 "Input past end of file" | end
 @data small; click Form1.Command16; type Form1.txts "river"; click Form1.Command22 | beep | beep

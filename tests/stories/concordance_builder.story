@@ -22,7 +22,7 @@ run | beep | ran 265 ticks
 click Form1.op1; type Form1.txts "end"; click Form1.Command22; run | ran 66 ticks
   lsts: "Ruth 1 1"
 
-# A term left in the second box is wanted of every verse; an empty line repeats the results of the word before it.
+# A term in the second box has to stand in every verse too; an empty line repeats the results of the word before it.
 @restart
 @write conc.txt
   | lamp

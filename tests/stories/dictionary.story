@@ -1,4 +1,4 @@
-# A reader meets a word that nobody uses any more.
+# A reader looks up words that are no longer in use.
 @write cdxdic.dat
   | "Ephod","A garment of the priests, worn over the robe","And he put on the ephod.","Ruth 1:1"
   | "Lamp","A light","They lit a lamp.","Genesis 3:1"
@@ -23,8 +23,8 @@ click Form1.lstd
 click Form1.Command19
   frmd hidden, Command17 enabled
 
-# ODDITY(dictionary-grows): by the menu this time, which locks nothing. Every word is there twice, and once
-# more when the entry is used with the panel open; a click on any of them shows the first record.
+# ODDITY(dictionary-grows): by the menu this time, which locks nothing. Every word is there twice, and three
+# times when the entry is used with the panel open; a click on any of them shows the first record.
 click Form1.cc2
   frmd shown, Command17 enabled, dwd "Ephod", lstd.ListCount 8
 click Form1.cc2
@@ -32,7 +32,7 @@ click Form1.cc2
 click Form1.lstd 9
   ddf "A light"
 
-# A word that the file does not have any more names itself, and leaves the entry before.
+# A word that is no longer in the file is named, above the entry shown before.
 @write cdxdic.dat | "Ark","A chest, or a ship","Make thee an ark.","Genesis 6:14"
 click Form1.lstd "Lamp"
   dwd "Lamp", ddf "A light"
@@ -45,7 +45,7 @@ click Form1.Command19; click Form1.Command17 | message "An error (62 ) has occur
 @delete cdxdic.dat; click Form1.cc2 | message "CONCORD.DAT missing from DATA" "Lectern 2" | beep
   frmd hidden
 
-# The file comes back, and nothing of it was left open. Gone once more with the panel open, a click ends the program.
+# The file is back, and was not left open. Deleted again while the panel is open, it makes a click end the program.
 @write cdxdic.dat | "Ark","A chest","Make thee an ark.","Genesis 6:14"
 click Form1.cc2; click Form1.lstd 13
   dex "Make thee an ark. :  Genesis 6:14"

@@ -38,7 +38,7 @@ call HelpChangingBook
 call HelpContact
   txthelp "To reach the makers of Lectern, please see us on the web by clicking ''Internet'', at the top menu bar."
 
-# The search tells here how long it takes, over its own panel.
+# The search explains here how long it takes, in front of its own panel.
 click Form1.Command16; click Form1.Command15
   frms shown, txthelp "Tested on a: Pent2/266 - book < minute,…codex = < 35 minutes --- Patience is a virtue."
 click Form1.Command4

@@ -17,7 +17,7 @@ click Form1.imgp(1); click! Form1.Command49
 @changes pics2.dat
   | +14 "cloud","Genesis 3: 4","PICTURES BY: C. Drawer"
   | +15 "road","Genesis 3: 1","PICTURES BY: PICTURES BY: A. Painter"
-# Three empty boxes make a record that belongs to no book.
+# From three empty boxes comes a record that belongs to no book.
 type! Form1.selfile(0) ""; type! Form1.selfile(1) ""; type! Form1.selfile(2) ""; click! Form1.Command49
   lstmc(0).ListCount 9
 @changes pics2.dat | +16 "","","PICTURES BY: "
@@ -44,12 +44,12 @@ click Form1.imgp(2)
   selfile(0) "tent"
 click! Form1.Command45
 @changes pics2.dat | -5 "tent","Genesis 2: 1","PICTURES BY: B. Carver" | -15 "done","Ruth 1: 1","A"
-# ODDITY(no-pick-is-the-first): without a pick it is the first of the page.
+# ODDITY(no-pick-is-the-first): with no picture picked it takes the first of the page.
 click! Form1.Command45
   lstmc(0): "dawn", "olive", "ark", "road", "cloud", "road"
 @changes pics2.dat | -2 "flock","Genesis 1: 2","PICTURES BY: A. Painter"
 
-# Remove All wants a path that no picture has; the program ends, and the catalogue is as it was.
+# Remove All needs folders that no data folder has; the program ends, and the catalogue is as it was.
 # ODDITY(remove-all-wants-a-path)
 click Form1.lst "Exodus"; click Form1.imgp(1)
 click! Form1.Command47 | run-time error 76 "Path not found" | end
@@ -60,7 +60,7 @@ click! Form1.Command47 | run-time error 76 "Path not found" | end
 @restart; click! Form1.SSCommand1
 @changes pics2.dat
   | +3 "ark","Genesis 3: 2","PICTURES BY: B. Carver" | +4 "cloud","Exodus 1: 1","PICTURES BY: A. Painter"
-# With the path it moves what lies there, and the record goes.
+# Where the folders are there it moves what lies in them, and the record goes.
 @write pics2.dat | "flock  ","Genesis 1: 1","A" | "dawn","Genesis 1: 2","A"
 @write KJV/flock/jpg "what lies there"
 @folder KJV/rem/flock
@@ -69,7 +69,7 @@ click! Form1.Command47 | run-time error 76 "Path not found" | end
 @show KJV/rem/flock/jpg | what lies there (no line end)
 @changes picsremoved.dat | +2 "flock","Genesis 1: 1","A"
 @show pics2.dat | "dawn","Genesis 1: 2","A"
-# A name that stands twice wants the path twice.
+# A name that stands twice would have to be moved twice.
 @write pics2.dat | "dawn","Genesis 1: 2","A" | "dawn","Genesis 2: 2","A"
 @write KJV/dawn/jpg "once"
 @folder KJV/rem/dawn
@@ -99,11 +99,11 @@ click! Form1.Label2
 click Form1.imgp(1); click! Form1.SSCommand2
   lstmc(0): "flock", "dawn", "river", "tent", "olive", "ark", "road"
   lblp(2).ForeColor 255
-# ODDITY(mark-after-a-move): from the first slot the mark is lost, from the last it goes to the first number.
+# ODDITY(mark-after-a-move): moved from the first slot, the mark is lost; from the last, it goes to the first number.
 click Form1.imgp(0); click! Form1.SSCommand2
   lblp(0).ForeColor -2147483630, lblp(1).ForeColor -2147483630
 
-# The first picture has nowhere to go; the file is rewritten, and that is all.
+# The first picture cannot move further to the left; the file is rewritten unchanged but for the blanks behind names.
 @data gallery; click Form1.imgp(0); click! Form1.SSCommand1
   lstmc(0): "river", "flock", "dawn", "tent", "olive", "ark", "road"
 @changes pics2.dat
@@ -123,7 +123,7 @@ click Form1.imgp(1); click! Form1.SSCommand2
   | -3 ,, | -4 "flock","Genesis 1: 2","PICTURES BY: A. Painter"
   | +3 "","","" | +9 "flock","Genesis 1: 2","PICTURES BY: A. Painter"
 
-# The last picture of the book leaves the catalogue; of a filler nothing moves.
+# The last picture of the book leaves the catalogue; a filler cannot be moved.
 @data gallery; click Form1.SSCommand3; click Form1.imgp(3); click! Form1.SSCommand2
 click Form1.lst "Exodus"; click Form1.lst "Genesis"
   lstmc(0): "river", "flock", "dawn", "tent", "olive", "ark", "road"

@@ -30,7 +30,7 @@ click Form3.f3
 @changes "backup/Naomi'Ruth ''friends''.not" "Naomi'Ruth ''friends''.not" | unchanged
 @show "Naomi'Ruth ''friends''.not" | Whither thou goest | I will go
 
-# ODDITY(note-grows): a load and a save are an empty line more.
+# ODDITY(note-grows): each load and save adds an empty line.
 click Form3.Command1; click Form3.File1 0; click Form3.Command13
 click Form3.Command1; click Form3.File1 0; click Form3.Command13
 @changes "Naomi'Ruth ''friends''.not"
@@ -71,7 +71,7 @@ click Form3.Command12 | question "File has been altered.…Naomi'Ruth ''friends'
 @show "Naomi'Ruth ''friends''.not" | ἐν ἀρχῇ – בְּרֵאשִׁית
 click Form1.Command14; click Form3.Command12
 
-# The close box asks too, and then lets the window go, with all that it held.
+# The close box asks too, and then the window goes with all that it held.
 click Form1.Command14; type Form3.txthelp "kept by the box"
 close Form3 | question "File has been altered.…Naomi'Ruth ''friends''?" "Save File" -> yes
   Form3.lblname "NAME", txthelp "RichTextBox1\r\n", Form3 hidden
@@ -152,5 +152,5 @@ click Form3.Command12 | question "File has been altered.…NAME?" "Save File" ->
 close Form3 | question "File has been altered.…NAME?" "Save File" -> yes | run-time error 76 "Path not found"
   Form3.txthelp "still here", lblc "c"
 
-# The end of the program asks nothing.
+# At the end of the program nothing is asked.
 click Form1.Command1 | end

@@ -11,7 +11,7 @@ click Form1.Command32
 # Swatches as the file has them; those it does not name stay as they are.
   Form4.clrboxs(1) "X", clrbox(1).BackColor 65280, clrbox(3).BackColor 255
 
-# A canvas of a size to paint on: the blank page.
+# The blank page, enlarged to paint on.
 @copy picend.jpg newpic.jpg; click Form4.Command5
   Form4.picbox picture 1x1
 set Form4.picbox.Width = 600; set Form4.picbox.Height = 600
@@ -23,12 +23,12 @@ mousedown Form4.clrboxs(0) 1 0 5 5
   Form4.clr1.BackColor 16776960, clr2.BackColor 255, picbox.AutoRedraw True
 mousedown Form4.picbox 1 0 20 20
   Form4.picbox.Point(20,20) 255, picbox.Point(20,13) 255, picbox.Point(20,12) 16777215
-# Between two movements of a fast hand there is nothing; without a button there is no stroke.
+# Between two movements of a quick stroke nothing is painted; without a pressed button there is no stroke.
 mousemove Form4.picbox 0 0 35 35
   Form4.picbox.Point(35,35) 16777215
 mousemove Form4.picbox 2 0 35 35
   Form4.picbox.Point(35,35) 255, picbox.Point(27,28) 16777215, xpos "0"
-# A second colour on top takes its own away from the first: green's pen on red leaves what both let through.
+# A second colour over the first: what remains is what both let through.
 set Form4.clrboxs(1).Caption = "16711935"; mousedown Form4.clrboxs(1) 1 0 5 5
 mousedown Form4.picbox 1 0 20 20
   Form4.picbox.Point(20,20) 0
@@ -94,7 +94,7 @@ mousedown Form4.clrboxs(0) 1 0 5 5
 mousedown Form4.clrboxs(0) 1 0 5 5
   Form4.IMGSPB(3) picture 3x1
 
-# Zoomed in twice: the drawing is baked and stretched, a little smaller than the canvas.
+# Zoomed in twice: the drawing becomes part of the picture and is stretched, to a little less than the canvas.
 # ODDITY(zoom-leaves-an-edge)
 set Form4.picbox.Width = 3000; set Form4.picbox.Height = 3000; mousedown Form4.picbox 1 0 100 100
   Form4.picbox.Point(100,100) 255
@@ -134,7 +134,7 @@ click Form4.IMGSPB(0)
 click Form4.IMGSPB(1)
   Form4.picbox none, picbox.Image picture 3x1, picbox.Point(1,0) 16777215
 
-# A canvas of one pixel, zoomed in and out. A half of one pixel is none, and takes no paint.
+# A canvas of one pixel, zoomed in and out. Zoomed out further it has no pixel left, and takes no paint.
 @copy picend.jpg newpic.jpg
 @restart; click Form1.imgp(0); click Form1.Command32
 set Form4.picbox.Width = 15; set Form4.picbox.Height = 15; click Form4.Command5

@@ -42,7 +42,7 @@ click Form4.Command2 | input … "river" -> "a/b" | run-time error 76 "Path not 
 @changes pics2.dat | +18 "a/b","Genesis 1: 1","PICTURES BY: A. Painter"
 @changes pics | unchanged
 
-# No catalogue, or one that its end cuts off: nothing is saved.
+# No catalogue, or one that breaks off amid a record: nothing is saved.
 @restart; click Form1.imgp(0); click Form1.Command32
 @write pics2.dat "\"river\",\"Genesis 1: 1\",\"A\"\r\n\"flock\",\"Genesis 1: 2\""
 click Form4.Command2 | input … -> "dusk" | run-time error 62 "Input past end of file" | end
@@ -86,7 +86,7 @@ click Form4.Command3
   | +12 "X",255 | +13 "X",255 | +14 "X",255 | +15 "X",255 | +16 "X",255 | +17 "X",255 | +18 "X",255 | +19 "X",255
   | +20 "X",255 | +21 "X",255 | +22 "X",255 | +23 "X",255 | +24 "X",255
 @show backup/colors.dat | "1",2 | "3",4 | "5",6
-# Of a longer one that many are read.
+# Of a longer one, 24 are read.
 @write colors.dat
   | "1",1 | "2",2 | "3",3 | "4",4 | "5",5 | "6",6 | "7",7 | "8",8 | "9",9 | "10",10 | "11",11 | "12",12
   | "13",13 | "14",14 | "15",15 | "16",16 | "17",17 | "18",18 | "19",19 | "20",20 | "21",21 | "22",22 | "23",23
@@ -96,7 +96,7 @@ click Form4.Command3
 click Form4.Command3
 @changes colors.dat | -25 "25",25
 
-# A palette with words and odd numbers, which ends amid a record.
+# A palette with words and odd numbers that breaks off amid a record.
 @write colors.dat "red\r\n\"green\",grass\r\n,\r\n\"\",\"7\"\r\n\"-5\",-7\r\n\"99999999999\",99999999999\r\n\"8\",8\r\n\"9\""
 @restart; click Form1.imgp(0); click Form1.Command32
   Form4.clrboxs(0) "red", clrbox(0).BackColor 0, clrboxs(1) "grass", clrboxs(2) "", clrboxs(3) "7"
@@ -104,6 +104,6 @@ click Form4.Command3
   Form4.clrboxs(7) "X"
 mousedown Form4.clrboxs(4) 1 0 5 5
   Form4.clr1.BackColor 0
-# A number that no colour can be.
+# A number that is too large for a colour.
 set Form4.clrboxs(7).Caption = "99999999999"
 mousedown Form4.clrboxs(7) 1 0 5 5 | run-time error 6 "Overflow" | end

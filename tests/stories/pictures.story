@@ -52,19 +52,19 @@ click Form1.SSCommand3
 click Form1.SSCommand3
   lblendpic "9"
 
-# A click picks a picture: it is marked, its record is in hand, and the viewer opens on it.
+# A click picks a picture: it is marked, its record is in the keeper's boxes, and the viewer opens on it.
   picp hidden
 click Form1.imgp(1)
   picp shown, lblp(1).ForeColor 255, lblp(0).ForeColor -2147483630, selfile(0) "road", selfile(1) "Genesis 3: 1"
   selfile(2) "PICTURES BY: A. Painter", picnm 6, LBLPICP "road", lblvs "Genesis 3: 1", pick picture 8x1
 click Form1.imgp(0)
   lblp(0).ForeColor 255, lblp(1).ForeColor -2147483630, LBLPICP "ark"
-# ODDITY(filler-opens-viewer): a click on a filler empties the record in hand and leaves the viewer as it was.
+# ODDITY(filler-opens-viewer): a click on a filler empties the boxes and opens the viewer as it was.
 click Form1.Command37
   picp hidden
 click Form1.imgp(3)
   selfile(0) "", lblp(3).ForeColor 255, picnm 5, LBLPICP "ark", picp shown
-# A page turn takes the mark away, keeps the record in hand, and moves the viewer nowhere.
+# A page turn takes the mark away, and leaves the record in the boxes and the viewer as they are.
 click Form1.imgp(0); click Form1.SSCommand4
   lblendpic "4", lblp(0).ForeColor -2147483630, selfile(0) "ark", LBLPICP "ark"
 # The first picture of all opens also where the viewer stands on it already.
@@ -122,7 +122,7 @@ call ListChapterPictures
   tmrpic enabled
 scroll Form1.scr 1
   tmrpic disabled
-# The timer that nothing starts shows an empty box and starts itself again.
+# No code starts this timer; it shows an empty box and starts itself again.
 set Form1.tmrpb.Enabled = True; tick | message "" "Lectern 2"
   tmrpb enabled
 

@@ -1,4 +1,4 @@
-# A page is printed from the bookmarks; the notes are not what is on it.
+# A page is printed from the bookmarks; it does not show the notes.
 printer on; click Form1.Command3
 # ODDITY(print-page-empty): with no bookmark in hand the note is NAME.NOT, and it is left as it is.
 click Form1.Command30
@@ -13,7 +13,7 @@ click Form1.Command30
   Form2.Text1 "For Sunday:\r\nRuth 1"
 @changes NAME.NOT | unchanged
 
-# The window comes back at its own height whatever it was before.
+# After printing, the window has its own height again, whatever it was before.
 set Form2.Height = 9000; click Form2.Command1 | print Form2 618x906
   Form2.Height 7050
 

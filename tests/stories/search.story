@@ -4,7 +4,7 @@ click Form1.lst "Exodus"; click Form1.Command16
 type Form1.txts "GRACE"; click Form1.Command22 | beep | beep
   lsts: "Exodus 2 2"
   text5 "1", Command22 disabled, Command22.MousePointer 0, cmdadd enabled, pbar 2
-# No right border, but a left one; nothing of a verse's first three characters.
+# A term has to begin a word, not to end one; a verse's first three characters are not searched.
 type Form1.txts "rossed"; key Form1.txts 13 | beep | beep
   lsts empty
 type Form1.txts "1"; key Form1.txts 13 | beep | beep
@@ -15,7 +15,7 @@ type Form1.txts ""
 type Form1.txts2 "people"; type Form1.txts "lamps"; click Form1.Command22 | beep | beep
 type Form1.txts ""; click Form1.Command22 | refused: disabled
   lsts: "Exodus 1 1"
-# Blanks alone, control characters, a term longer than any line.
+# A term of blanks, one with control characters, one longer than any line.
 type Form1.txts2 ""; type Form1.txts "  "; click Form1.Command22 | beep | beep
   lsts.ListCount 4
 type Form1.txts "a\x01\r\nb"; click Form1.Command22 | beep | beep
@@ -40,7 +40,7 @@ click Form1.cc3
 @delete KJV/Exodus.txt
 type Form1.txts "grace"; click Form1.Command22 | run-time error 53 "File not found" | end
 
-# A reader looks through the whole text. A word is a word here, found with a capital book.
+# A reader looks through the whole text. Only whole words are found here, and the books have capital letters.
 @data small; click Form1.Command16; click Form1.op1
   frmscale hidden
 type Form1.txts "grace"; click Form1.Command22
@@ -63,7 +63,7 @@ set Form1.rtxt.SelStart = 31
   rtxt.SelColor 16711680
 set Form1.rtxt.SelStart = 17
   rtxt.SelColor -2147483640, LBLCC "Psalms 3 1"
-# A click that picks nothing repeats the last jump.
+# A click that selects nothing repeats the last jump.
 click Form1.lst "Exodus"; type Form1.txts "nothing"; click Form1.lsts
   lblbook "Psalms"
 

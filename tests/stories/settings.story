@@ -1,4 +1,4 @@
-# The start: window, folders, settings, lists. What is missing keeps nothing from starting.
+# The start: window, folders, settings, lists. The program starts whatever is missing.
 screen 30000 20000; fonts "Arial" "Georgia" "Times New Roman"
   Form1 shown, Left 8070, Top 4645, Width 13860, Dir3.Path "DATA\\KJV", Dirpics.Path "DATA"
   Combo1: "Arial", "Georgia", "Times New Roman"
@@ -53,8 +53,8 @@ click Form1.oo11; type Form1.Combo2 "large"; choose Form1.Combo1 "Arial"
   rtxt.FontName "Arial", rtxt.FontSize 13.5, lblf(0).FontSize 13.5
 type Form1.Combo2 "0"; choose Form1.Combo3 "Italic"
   rtxt.FontItalic True, RTXT2.FontItalic True, rtxt.FontSize 13.5
-# Saved, it is the end; the file has it all the same. The next start stops at it, and the style behind it is
-# not tried; the samples look after themselves.
+# Saving it ends the program, but the file has it. The next start stops at it before it comes to the style; only
+# the samples have that.
 type Form1.Combo2 "5000"; click Form1.Command36 | run-time error 380 "Invalid property value" | end
 @show codex.cfg | "Arial","5000","Italic"
 @restart
@@ -73,7 +73,7 @@ click Form1.Command36 | run-time error 53 "File not found" | end
 @show codex.cfg | "&HFF0000","&H80000005","Arial","10"
 click Form1.oo11; choose Form1.Combo1 "Georgia"; click Form1.Command36
 @show codex.cfg | "Georgia","11","Regular"
-# Settings of 0 to 2 bytes get the default record behind them; three bytes stand.
+# A file of up to 2 bytes gets the default record added; three bytes are left as they are.
 @write codex.cfg "ab"
 @restart; start
 @show codex.cfg | ab"&HFF0000","&H80000005","Arial","10"

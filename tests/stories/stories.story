@@ -4,11 +4,11 @@
 @write KJV/John.txt | Chapter 1 | 1   A man by the road. | Chapter 2 | 1   A feast on the third day.
 @append bookschap.txt | "Luke",2 | "1-Samuel",2
 
-# ODDITY(story-keeps-range): the chapter loads, the bar keeps to the book before.
+# ODDITY(story-keeps-range): the chapter loads, the bar keeps the range of the book before.
 click Form1.lst "Jude"; click Form1.ss3
   lblbk "Genesis", lblbook "Genesis", lblc "2", rtxt "1   A stranger came by…Chapter 3\r\n", scr.Max 1, scr 1
 
-# The same story once more reads the book once more.
+# Choosing the same story again reads the book again.
 @write KJV/Genesis.txt | Chapter 1 | 1   One. | Chapter 2 | 1   Told again.
 click Form1.ss3
   rtxt "1   Told again.\r\n"
@@ -27,7 +27,7 @@ click Form1.optk
 click Form1.ddd1
   lblbk "1-Samuel", lblc "16"
 
-# ODDITY(story-first-chapter): the birth of a child is looked for, and chapter 1 comes up; the bar follows.
+# ODDITY(story-first-chapter): the birth of a child is chosen, and chapter 1 comes up; the bar follows.
 click Form1.lst "Exodus"; click Form1.gg5
   lblbk "Luke", lblc "1", rtxt "1   Two old people by the river.\r\n2   They wait.\r\nChapter 2\r\n", scr.Max 2
 click Form1.gg1
@@ -44,6 +44,6 @@ click Form1.lst "Exodus"; set Form1.frms.Visible = True; click Form1.gg5
   lblbk "Luke", lblc "2", rtxt "1   A cloud stood over the road.…"
 set Form1.frms.Visible = False
 
-# A book that is missing leaves the text; nothing is said.
+# Where the book is missing the text stays, and nothing is reported.
 click Form1.aaa5
   lblbk "2-Samuel", rtxt "1   A cloud stood over the road.…"

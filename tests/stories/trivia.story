@@ -22,8 +22,8 @@ random 0.9 0.875; click Form1.Command29
   Label25 "What was lit?", Label26 ""
   List3: "1", "2"
 
-# Equal questions: the answer of the first is shown, whichever was asked.
-# ODDITY(trivia-last-question): 0.125 of four less 1 is half a number short of 0, and goes to 0.
+# Of two equal questions the answer of the first is shown, whichever was asked.
+# ODDITY(trivia-last-question): four times 0.125, less 1, is -0.5, which is rounded to 0.
 random 0.125; click Form1.Command29
   Label25 "What was lit?"
 click Form1.Command31
@@ -32,7 +32,7 @@ click Form1.Command31
 # The history is 1, 2, 0. The walk meets 2, draws 0, and goes on behind it: it meets 0, draws 3.
 random 0.7 0.3 0.99; click Form1.Command29
   List3: "1", "2", "0", "3"
-# ODDITY(trivia-repeats): the oldest number is never looked at, nor the next one behind a second draw.
+# ODDITY(trivia-repeats): the oldest number is never looked at, nor the next one after a second draw.
 random 0.5; click Form1.Command29
   Label25 "Who gathered grain?"
 random 0.3 0.7; click Form1.Command29
