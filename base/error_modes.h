@@ -1,12 +1,11 @@
-// The error modes a handler can stand in, so that its first line shows which one it is.
+// The error mode of a handler, so that its first line shows which one it is in.
 //
-//   Ignoring ignore;   each statement that fails is skipped and the next one runs
-//   Trapping trap{…};  each statement that fails runs the tidying block, then the next one runs
-//   neither            the failure leaves the handler; the layer reports it and ends the program
+//   Ignoring ignore;                   a statement that fails is skipped, and the next one runs
+//   Ignoring trap{[&] { … }};          the same, after the tidying block has run
+//   neither                            the failure leaves the handler; the layer reports it
 //
-// A handler that gives up at its first failure catches RunTimeError itself. Statements stand inside the
-// call, loops outside: a loop whose only exit is the end of a file that failed to open ends on the
-// answer of the call that opened it.
+// Only statements that can fail are wrapped. A handler that gives up at its first failure catches RunTimeError
+// itself. Loops stand outside the call: one that reads to the end of a file first checks that the file is open.
 #pragma once
 
 #include <functional>
@@ -18,30 +17,18 @@ namespace lectern::base {
 
 class Ignoring {
  public:
-  // Carries out the statement; the answer says whether it succeeded. A test stands inside the statement
-  // too: one that fails counts as not met.
+  Ignoring() = default;
+  explicit Ignoring(std::function<void()> tidy) : tidy_(std::move(tidy)) {}
+
+  // Runs the statement and returns whether it succeeded. A condition stands inside the statement too: one that
+  // fails counts as not met.
   template <class Statement>
   bool operator()(Statement&& statement) const {
     try {
       std::forward<Statement>(statement)();
       return true;
     } catch (const RunTimeError&) {
-      return false;
-    }
-  }
-};
-
-class Trapping {
- public:
-  explicit Trapping(std::function<void()> tidy) : tidy_(std::move(tidy)) {}
-
-  template <class Statement>
-  bool operator()(Statement&& statement) const {
-    try {
-      std::forward<Statement>(statement)();
-      return true;
-    } catch (const RunTimeError&) {
-      tidy_();
+      if (tidy_) tidy_();
       return false;
     }
   }

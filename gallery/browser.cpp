@@ -81,19 +81,19 @@ void Browser::imgp_Click(int slot) {
   const int index = catalogue_.PageStart() + slot;
   ResetPictureLabels();
   for (int field = 0; field < catalogue_.selfile.Count(); ++field) {
-    ignore([&] { catalogue_.selfile(field).Text = catalogue_.lstmc(field).List(index); });
+    catalogue_.selfile(field).Text = catalogue_.lstmc(field).List(index);
   }
-  ignore([&] { Below(slot).ForeColor = kPickedColour; });
+  Below(slot).ForeColor = kPickedColour;
   // ODDITY(filler-opens-viewer): of a filler the bar refuses the index; the picked record is emptied, and
   // the viewer opens with what it showed.
   ignore([&] { catalogue_.picnm.Value = index; });
   // The bar may stand on picture 0 already, and then nothing has changed.
   if (slot == 0 && catalogue_.lblendpic.Caption == std::to_string(kFirstPage)) {
-    ignore([&] { viewer_.LBLPICP.Caption = catalogue_.selfile(0).Text; });
-    ignore([&] { viewer_.lblvs.Caption = catalogue_.selfile(1).Text; });
-    ignore([&] { viewer_.pick.Picture = imgp(0).Picture; });
+    viewer_.LBLPICP.Caption = catalogue_.selfile(0).Text;
+    viewer_.lblvs.Caption = catalogue_.selfile(1).Text;
+    viewer_.pick.Picture = imgp(0).Picture;
   }
-  ignore([&] { picp_.Visible = true; });
+  picp_.Visible = true;
 }
 
 }  // namespace lectern::gallery

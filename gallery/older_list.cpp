@@ -35,10 +35,8 @@ void OlderList::Command40_Click() {
     if (entry.chapter == chapter) List5.AddItem(name);
   }
   ignore([&] { slots.Close(kEmpty); });
-  ignore([&] { catalogue_.picnm.Max = List5.ListCount() - 1; });
-  ignore([&] {
-    if (List4.ListCount() > 0) catalogue_.picnm.Value = 1;
-  });
+  catalogue_.picnm.Max = List5.ListCount() - 1;
+  if (List4.ListCount() > 0) ignore([&] { catalogue_.picnm.Value = 1; });
   ignore([&] { reader_.form.Files().Delete(catalogue_.WorkFile()); });
   ignore([&] { reader_.form.Files().Delete(empty_file); });
   ignore([&] { catalogue_.picnm.Value = 0; });

@@ -67,7 +67,7 @@ void PictureCatalogue::ExtractBookPictures() {
   ClearLists();
   ignore([&] { reader.form.Files().Delete(WorkFile()); });
   const int highest = CopyBookRecords();
-  ignore([&] { lbltm.Caption = std::to_string(highest); });
+  lbltm.Caption = std::to_string(highest);
   // ODDITY(blank-labels-on-book-change): where the viewer did not stand on picture 0 it looks up picture 0
   // in lists that are empty yet: its labels go blank and the old picture stays.
   ignore([&] { picnm.Value = 0; });
@@ -101,7 +101,7 @@ void PictureCatalogue::FillPictureLists() {
     lstmc(1).AddItem(std::move(entry.record.place));
     lstmc(2).AddItem(std::move(entry.record.author));
   }
-  ignore([&] { picnm.Max = lstmc(0).ListCount() - 1; });
+  picnm.Max = lstmc(0).ListCount() - 1;
   ignore([&] { lblendpic.Caption = ""; });
   ignore([&] { lblendpic.Caption = "4"; });
 }

@@ -23,8 +23,8 @@ void Viewer::picnm_Change() {
   // ODDITY(picture-missing-in-viewer): where the file is missing or is no picture, the picture before stays,
   // under the new name and place.
   ignore([&] { pick.Picture = reader_.form.LoadPicture(catalogue_.PictureFile(name)); });
-  ignore([&] { LBLPICP.Caption = name; });
-  ignore([&] { lblvs.Caption = catalogue_.lstmc(1).List(index); });
+  LBLPICP.Caption = name;
+  lblvs.Caption = catalogue_.lstmc(1).List(index);
 }
 
 // One step of the slide show, which begins anew behind the last picture.

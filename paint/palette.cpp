@@ -45,10 +45,10 @@ void Palette::LoadColours() {
       value = files.ReadField(kColours);
       shown = files.ReadNumber(kColours);
     });
-    if (whole) {
-      ignore([&] { clrboxs(counter).Caption = value; });
-      ignore([&] { clrbox(counter).BackColor = shown; });
-      ignore([&] { clrboxs(counter).ForeColor = shown; });
+    if (whole && counter < kSwatches) {
+      clrboxs(counter).Caption = value;
+      clrbox(counter).BackColor = shown;
+      clrboxs(counter).ForeColor = shown;
     }
     ++counter;
   }

@@ -13,7 +13,7 @@ void PenSettings::Apply(forms::PictureBox& canvas) const {
   ignore([&] { canvas.FillStyle = number(kFillStyle); });
   ignore([&] { canvas.DrawMode = number(kDrawMode); });
   ignore([&] { canvas.FillColor = text::ToLong(mde(kFillColor).Text()); });
-  ignore([&] { canvas.ForeColor = clr1.BackColor; });
+  canvas.ForeColor = clr1.BackColor;
 }
 
 }  // namespace lectern::paint

@@ -37,7 +37,7 @@ std::vector<int> VersesOfChapters(const files::FileSystem& files, std::string_vi
 
 void ChapterStore::Load() {
   files::FileSlots& slots = reader_.form.Slots();
-  const base::Trapping trap{[&] { slots.Close(kBook); }};
+  const base::Ignoring trap{[&] { slots.Close(kBook); }};
   if (!trap([&] { slots.OpenForReading(kBook, reader_.BookFile(reader_.Stem())); })) return;
   const std::string scratch = reader_.Dir3.Path + "\\temp.txt";
   // Opened for appending, so that lines a broken run left there come first.
@@ -58,7 +58,7 @@ void ChapterStore::Load() {
 
 // Copies the chapter from the book to the scratch file, all but its last line, and leaves the line in hand;
 // whether the book has it. A failure closes the book, and with it ends the loop.
-bool ChapterStore::CopyChapter(const base::Trapping& trap, std::string& held) {
+bool ChapterStore::CopyChapter(const base::Ignoring& trap, std::string& held) {
   files::FileSlots& slots = reader_.form.Slots();
   int counter = 0;  // 16 bits
   bool done = false;

@@ -38,7 +38,7 @@ class ChapterStore {
   const ShownChapter& Shown() const { return shown_; }
 
  private:
-  bool CopyChapter(const base::Trapping& trap, std::string& held);
+  bool CopyChapter(const base::Ignoring& trap, std::string& held);
 
   Reader& reader_;
   ShownChapter shown_;

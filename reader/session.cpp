@@ -28,13 +28,12 @@ void StartUp::Form_Load() {
 }
 
 void StartUp::PlaceWindow() {
-  const base::Ignoring ignore;
   forms::Window& form = reader_.form;
   const base::ScreenSize screen = form.Platform().Screen();
-  ignore([&] { form.Width = kWindowWidth; });
-  ignore([&] { form.Height = kWindowHeight; });
-  ignore([&] { form.Top = screen.height / 2 - form.Height / 2; });
-  ignore([&] { form.Left = screen.width / 2 - form.Width / 2; });
+  form.Width = kWindowWidth;
+  form.Height = kWindowHeight;
+  form.Top = screen.height / 2 - form.Height / 2;
+  form.Left = screen.width / 2 - form.Width / 2;
 }
 
 // The data folder is the one the program is started in, wherever the program itself lies.
@@ -54,7 +53,7 @@ void StartUp::FillLists() {
   for (const std::string_view book : kCanon) reader_.lst.AddItem(std::string(book));
   reader_.form.Slots().Close(kSettings);  // a settings file that was too short was left open
   reader_.ClearPosition();
-  ignore([&] { controls_.Text2.Text = ""; });
+  controls_.Text2.Text = "";
   for (int i = 0; i < reader_.LBLMRK.Count(); ++i) reader_.LBLMRK(i).Caption = "";
 
   for (const std::string& font : reader_.form.Platform().FontNames()) settings_.Combo1.AddItem(font);

@@ -99,14 +99,14 @@ void Settings::ReadSettings() {
 }
 
 void Settings::ApplyFontSamples() {
-  const base::Trapping trap{[&] { PointAtSearchButton(forms::kPointerDefault); }};
-  trap([&] { PointAtSearchButton(forms::kPointerHourglass); });
+  const base::Ignoring trap{[&] { PointAtSearchButton(forms::kPointerDefault); }};
+  PointAtSearchButton(forms::kPointerHourglass);
   lblf.ForEach([&](int, forms::Label& sample) {
-    trap([&] { sample.FontName = Combo1.Text; });
+    sample.FontName = Combo1.Text;
     trap([&] { sample.FontSize = text::ToNumber(Combo2.Text()); });
-    trap([&] { SetStyle(sample, Combo3.Text()); });
+    SetStyle(sample, Combo3.Text());
   });
-  trap([&] { PointAtSearchButton(forms::kPointerDefault); });
+  PointAtSearchButton(forms::kPointerDefault);
 }
 
 // A size that is none leaves the panes at theirs, so that the other two boxes can be tried meanwhile.

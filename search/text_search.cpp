@@ -104,8 +104,8 @@ void TextSearch::tmrb_Timer() {
   if (tmrb.Interval != 1) return;
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
-  ignore([&] { pbar.Value = pbar.Value + 1; });
-  ignore([&] { text7.Caption = reader_.lst.List(SearchBookIndex + 1); });
+  pbar.Value = pbar.Value + 1;
+  text7.Caption = reader_.lst.List(SearchBookIndex + 1);
   const std::string book = reader_.lst.List(SearchBookIndex);
   // A book without a name is read as one without a line.
   if (!book.empty()) ignore([&] { slots.OpenForReading(kBook, reader_.BookFile(book)); });

@@ -23,8 +23,8 @@ Form4::Form4(forms::Services services, gallery::PictureCatalogue& gallery, galle
 void Form4::Form_Load() {
   const base::Ignoring ignore;
   const base::ScreenSize screen = Platform().Screen();
-  ignore([&] { Top = (screen.height - Height) / 2; });
-  ignore([&] { Left = (screen.width - Width) / 2; });
+  Top = (screen.height - Height) / 2;
+  Left = (screen.width - Width) / 2;
   ignore([&] { palette_.LoadColours(); });
   palette_.Command4.SetFocus();  // on none of the brushes, which would look as if it were chosen
 }
