@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "aids/asked_name.h"
-#include "base/error_modes.h"
+#include "base/errors.h"
 
 namespace lectern::aids {
 

@@ -4,10 +4,10 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "forms/folder_lists.h"
-#include "forms/label.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
 #include "forms/picture_box.h"
+#include "forms/text_controls.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "aids/stored_notes.h"
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 
 namespace lectern::aids {
 

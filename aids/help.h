@@ -5,12 +5,12 @@
 
 #include <string>
 
+#include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
-#include "forms/label.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
 #include "forms/picture_box.h"
 #include "forms/rich_text_box.h"
-#include "forms/timer.h"
+#include "forms/text_controls.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "aids/asked_name.h"
-#include "base/run_time_error.h"
+#include "base/errors.h"
 #include "base/text/characters.h"
 
 namespace lectern::aids {

@@ -6,13 +6,11 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "forms/folder_lists.h"
-#include "forms/frame.h"
-#include "forms/label.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
 #include "forms/picture_box.h"
 #include "forms/rich_text_box.h"
-#include "forms/text_box.h"
+#include "forms/text_controls.h"
 #include "forms/window.h"
 
 namespace lectern::aids {

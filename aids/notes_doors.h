@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "aids/notes.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
 #include "forms/picture_box.h"
 #include "reader/tool_buttons.h"
 

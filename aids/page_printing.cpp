@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 
 namespace lectern::aids {
 

@@ -1,6 +1,6 @@
 #include "aids/printed_page.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 
 namespace lectern::aids {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "forms/text_box.h"
+#include "forms/text_controls.h"
 #include "forms/window.h"
 
 namespace lectern::aids {

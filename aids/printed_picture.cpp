@@ -1,6 +1,6 @@
 #include "aids/printed_picture.h"
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 
 namespace lectern::aids {
 

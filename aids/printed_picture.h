@@ -3,7 +3,7 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "forms/image.h"
+#include "forms/figures.h"
 #include "forms/window.h"
 
 namespace lectern::aids {

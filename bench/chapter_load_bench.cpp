@@ -7,7 +7,7 @@
 
 #include "bench/plain_read.h"
 #include "bench/real_data.h"
-#include "forms/label.h"
+#include "forms/text_controls.h"
 #include "ui/headless/driver.h"
 
 namespace {

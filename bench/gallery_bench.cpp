@@ -9,8 +9,8 @@
 
 #include "base/files/file_system.h"
 #include "bench/real_data.h"
-#include "forms/label.h"
 #include "forms/picture.h"
+#include "forms/text_controls.h"
 #include "reader/canon.h"
 #include "ui/headless/driver.h"
 #include "ui/headless/headless_platform.h"

@@ -11,8 +11,8 @@
 
 #include "base/files/text_encoding.h"
 #include "base/text/characters.h"
-#include "forms/label.h"
 #include "forms/rich_text_box.h"
+#include "forms/text_controls.h"
 #include "ui/headless/driver.h"
 
 namespace {

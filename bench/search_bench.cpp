@@ -8,7 +8,7 @@
 
 #include "bench/plain_read.h"
 #include "bench/real_data.h"
-#include "forms/list_box.h"
+#include "forms/lists.h"
 #include "ui/headless/driver.h"
 
 namespace {

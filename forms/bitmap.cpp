@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 
 namespace lectern::forms {
 

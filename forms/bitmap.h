@@ -4,6 +4,7 @@
 // gigabytes is refused (error 7).
 #pragma once
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -54,11 +55,15 @@ class Bitmap {
   int Height() const { return height_; }
   bool Empty() const { return pixels_.empty(); }
 
-  Pixel At(int x, int y) const { return pixels_[Index(x, y)]; }
-  void Set(int x, int y, Pixel pixel) { pixels_[Index(x, y)] = pixel; }
   bool Contains(int x, int y) const { return x >= 0 && y >= 0 && x < width_ && y < height_; }
-  const Pixel* Row(int y) const { return pixels_.data() + Index(0, y); }
-  Pixel* Row(int y) { return pixels_.data() + Index(0, y); }
+
+  // Requires: Contains(x, y).
+  Pixel At(int x, int y) const { return pixels_[Inside(x, y)]; }
+  void Set(int x, int y, Pixel pixel) { pixels_[Inside(x, y)] = pixel; }
+
+  // Requires: 0 <= y < Height().
+  const Pixel* Row(int y) const { return pixels_.data() + RowStart(y); }
+  Pixel* Row(int y) { return pixels_.data() + RowStart(y); }
 
   // One round dot of the given diameter around the middle of pixel (x, y); an even diameter reaches one
   // pixel further to the left and above. Drawing the same place twice combines twice.
@@ -72,8 +77,13 @@ class Bitmap {
   void Copy(const Bitmap& source);
 
  private:
-  std::size_t Index(int x, int y) const {
-    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x);
+  std::size_t RowStart(int y) const {
+    assert(y >= 0 && y < height_);
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_);
+  }
+  std::size_t Inside(int x, int y) const {
+    assert(Contains(x, y));
+    return RowStart(y) + static_cast<std::size_t>(x);
   }
 
   int width_ = 0;

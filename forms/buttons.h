@@ -57,9 +57,22 @@ class Option : public Button {
  public:
   using Design = OptionDesign;
 
-  Option(Container& parent, Kind kind, std::string name, const Design& design);
+  Option(Container& parent, Kind kind, std::string name, const Design& design)
+      : Button(parent, kind, std::move(name), design),
+        Value(*this, "Value", design.checked, {.change = [this] {
+          if (!Value) return;
+          for (Control* sibling : Parent().Children()) {
+            if (auto* other = dynamic_cast<Option*>(sibling); other != nullptr && other != this) {
+              other->Value = false;
+            }
+          }
+        }}) {}
 
-  void PersonClicks() override;
+  void PersonClicks() override {
+    PersonPresses({});
+    Value = true;
+    Click();
+  }
 
   RuledProperty<bool> Value;
 };

@@ -1,6 +1,7 @@
 #include "forms/control.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 #include "forms/window.h"
@@ -8,51 +9,15 @@
 namespace lectern::forms {
 
 const char* KindName(Kind kind) {
-  switch (kind) {
-    case Kind::kLabel:
-      return "Label";
-    case Kind::kTextBox:
-      return "TextBox";
-    case Kind::kListBox:
-      return "ListBox";
-    case Kind::kComboBox:
-      return "ComboBox";
-    case Kind::kCommandButton:
-      return "CommandButton";
-    case Kind::kOptionButton:
-      return "OptionButton";
-    case Kind::kMenu:
-      return "Menu";
-    case Kind::kHScrollBar:
-      return "HScrollBar";
-    case Kind::kTimer:
-      return "Timer";
-    case Kind::kFrame:
-      return "Frame";
-    case Kind::kPictureBox:
-      return "PictureBox";
-    case Kind::kImage:
-      return "Image";
-    case Kind::kShape:
-      return "Shape";
-    case Kind::kLine:
-      return "Line";
-    case Kind::kDirListBox:
-      return "DirListBox";
-    case Kind::kDriveListBox:
-      return "DriveListBox";
-    case Kind::kFileListBox:
-      return "FileListBox";
-    case Kind::kRichTextBox:
-      return "RichTextBox";
-    case Kind::kProgressBar:
-      return "ProgressBar";
-    case Kind::kSSCommand:
-      return "SSCommand";
-    case Kind::kSSOption:
-      return "SSOption";
-  }
-  return "";
+  // In the order of the enumeration.
+  constexpr const char* kNames[] = {
+      "Label",      "TextBox",      "ListBox",     "ComboBox",    "CommandButton", "OptionButton", "Menu",
+      "HScrollBar", "Timer",        "Frame",       "PictureBox",  "Image",         "Shape",        "Line",
+      "DirListBox", "DriveListBox", "FileListBox", "RichTextBox", "ProgressBar",   "SSCommand",    "SSOption",
+  };
+  const auto index = static_cast<std::size_t>(kind);
+  assert(index < std::size(kNames));
+  return kNames[index];
 }
 
 namespace {
@@ -81,6 +46,7 @@ Control::Control(Container& parent, Kind kind, std::string name, const CommonDes
       is_echo_(design.is_echo),
       is_default_(design.is_default),
       is_cancel_(design.is_cancel) {
+  assert(!name_.empty());
   parent_.children_.push_back(this);
   HostWindow().controls_.push_back(this);
 }

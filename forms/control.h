@@ -5,6 +5,7 @@
 // Places and sizes are in twips (1/1440 inch, 15 to a pixel at 96 dots an inch), within the parent.
 #pragma once
 
+#include <cassert>
 #include <deque>
 #include <initializer_list>
 #include <string>
@@ -12,7 +13,6 @@
 #include <vector>
 
 #include "forms/colour.h"
-#include "forms/event.h"
 #include "forms/property.h"
 
 namespace lectern::forms {
@@ -150,7 +150,10 @@ class Control : public PropertyOwner {
   Kind GetKind() const { return kind_; }
   const std::string& Name() const { return name_; }
   int Index() const { return index_; }  // its place in a control array, or -1
-  void PutInArray(int index) { index_ = index; }
+  void PutInArray(int index) {          // Requires: index >= 0
+    assert(index >= 0);
+    index_ = index;
+  }
   std::string FullName() const;  // "lblc", "LBLMRK(2)"
   Container& Parent() const { return parent_; }
   Window& HostWindow() const { return parent_.HostWindow(); }

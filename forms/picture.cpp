@@ -1,5 +1,6 @@
 #include "forms/picture.h"
 
+#include <cassert>
 #include <cstdint>
 
 namespace lectern::forms {
@@ -11,12 +12,14 @@ Picture::Picture(Bitmap bitmap) : content_(std::make_shared<Content>()) {
 }
 
 Picture::Picture(std::unique_ptr<const PictureSource> source) : content_(std::make_shared<Content>()) {
+  assert(source != nullptr);
   content_->width = source->Width();
   content_->height = source->Height();
   content_->source = std::move(source);
 }
 
 const Bitmap& Picture::operator*() const {
+  assert(content_ != nullptr);
   if (content_->source) {
     content_->bitmap = content_->source->Pixels();
     content_->source.reset();

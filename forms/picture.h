@@ -30,9 +30,11 @@ class Picture {
  public:
   Picture() = default;
   explicit Picture(Bitmap bitmap);
-  explicit Picture(std::unique_ptr<const PictureSource> source);
+  explicit Picture(std::unique_ptr<const PictureSource> source);  // Requires: there is a source
 
   explicit operator bool() const { return content_ != nullptr; }
+
+  // Requires: there is a picture.
   const Bitmap& operator*() const;
   const Bitmap* operator->() const { return &**this; }
 

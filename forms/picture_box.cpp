@@ -4,8 +4,8 @@
 #include <cmath>
 #include <utility>
 
-#include "base/run_time_error.h"
-#include "base/text/letter_case.h"
+#include "base/errors.h"
+#include "base/text/characters.h"
 #include "forms/window.h"
 
 namespace lectern::forms {
@@ -40,7 +40,7 @@ void ReadFrom(const Bitmap& bitmap, const std::vector<int>& place, Value& value)
 }  // namespace
 
 PictureBox::PictureBox(Container& parent, std::string name, const Design& design)
-    : TextControl(parent, Kind::kPictureBox, std::move(name), design),
+    : Holding(parent, Kind::kPictureBox, std::move(name), design),
       Picture(*this, "Picture", {}, {.change = [this] { PictureAssigned(); }, .counts_when_equal = true}),
       MouseIcon(*this, "MouseIcon"),
       AutoRedraw(*this, "AutoRedraw"),

@@ -11,7 +11,7 @@
 
 #include <optional>
 
-#include "forms/control.h"
+#include "forms/containers.h"
 #include "forms/picture.h"
 
 namespace lectern::forms {
@@ -27,7 +27,7 @@ struct PictureBoxDesign {
   Colour fore_color = kButtonText;
 };
 
-class PictureBox : public TextControl, public Container {
+class PictureBox : public Holding<TextControl> {
  public:
   using Design = PictureBoxDesign;
 
@@ -50,11 +50,6 @@ class PictureBox : public TextControl, public Container {
 
   bool ReadIndexed(std::string_view property, const std::vector<int>& arguments, Value& value) const override;
   void WindowWasHidden() override;
-
-  Window& HostWindow() override { return Control::HostWindow(); }
-  bool IsShown() const override { return Control::IsShown(); }
-  std::string ContainerName() const override { return FullName(); }
-  Container* Outer() const override { return &Parent(); }
 
   Event<> Change;  // another picture was assigned
 

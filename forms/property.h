@@ -6,19 +6,26 @@
 // value. A property cannot be copied: it is a place, and `auto x = label.Caption` would be a mistake.
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <variant>
 #include <vector>
 
-#include "base/run_time_error.h"
-#include "forms/value.h"
+#include "base/errors.h"
+#include "base/text/characters.h"
+#include "forms/picture.h"
 
 namespace lectern::forms {
 
 class PropertyBase;
+
+// What a property holds when its type is not known: for reading and writing properties by name.
+using Value = std::variant<bool, int, double, std::string, Picture>;
 
 // Whatever shows a control or window on a screen. It is told that something changed and looks for itself.
 class View {
@@ -83,6 +90,13 @@ class PropertyBase {
 // Anything that is not a property itself.
 template <class T>
 concept PlainValue = !std::is_base_of_v<PropertyBase, T>;
+
+inline PropertyBase* PropertyOwner::FindProperty(std::string_view name) const {
+  const auto found = std::find_if(
+      properties_.begin(), properties_.end(),
+      [name](const PropertyBase* property) { return text::EqualFolded(property->Name(), name); });
+  return found == properties_.end() ? nullptr : *found;
+}
 
 template <class T>
 class Property : public PropertyBase {
@@ -221,5 +235,30 @@ void Property<T>::Write(const Value& value) {
   }
   throw base::RunTimeError(base::ErrorNumber::kTypeMismatch);
 }
+
+// Something that happens to a control, with the one handler that a feature joins to it:
+//
+//   Command22.Click = [this] { Command22_Click(); };
+//
+// An event without a handler passes.
+template <class... Arguments>
+class Event {
+ public:
+  Event() = default;
+  Event(const Event&) = delete;
+  Event& operator=(const Event&) = delete;
+
+  Event& operator=(std::function<void(Arguments...)> handler) {
+    handler_ = std::move(handler);
+    return *this;
+  }
+  explicit operator bool() const { return static_cast<bool>(handler_); }
+  void operator()(Arguments... arguments) const {
+    if (handler_) handler_(arguments...);
+  }
+
+ private:
+  std::function<void(Arguments...)> handler_;
+};
 
 }  // namespace lectern::forms

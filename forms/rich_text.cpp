@@ -1,12 +1,14 @@
 #include "forms/rich_text.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 namespace lectern::forms {
 
 void TextRuns::Append(TextRun run) {
   if (run.length == 0 || run.style == TextStyle{}) return;
+  assert(runs_.empty() || runs_.back().End() <= run.start);
   if (!runs_.empty() && runs_.back().End() == run.start && runs_.back().style == run.style) {
     runs_.back().length += run.length;
   } else {
@@ -53,6 +55,8 @@ void TextRuns::SetColour(const std::vector<std::size_t>& starts, std::size_t len
   const auto keep_until = [&](std::size_t end) {
     while (run != old.end() && run->start < end) Append(take_until(end));
   };
+  assert(std::adjacent_find(starts.begin(), starts.end(),
+                            [&](std::size_t a, std::size_t b) { return b < a + length; }) == starts.end());
   for (const std::size_t start : starts) {
     keep_until(start);
     const std::size_t end = start + length;

@@ -36,12 +36,12 @@ class TextRuns {
  public:
   const std::vector<TextRun>& All() const { return runs_; }
   void Clear() { runs_.clear(); }
-  void Append(TextRun run);  // behind the last one
+  void Append(TextRun run);  // Requires: it begins where the last one ends, or behind
 
   TextStyle At(std::size_t position) const;
 
-  // Gives `length` characters from each start on another colour and leaves the rest of their style. The
-  // starts ascend, at least that far from one another.
+  // Gives `length` characters from each start on another colour and leaves the rest of their style.
+  // Requires: the starts ascend, at least that far from one another.
   void SetColour(const std::vector<std::size_t>& starts, std::size_t length, Colour colour);
 
   // The text was edited: `removed` characters at `start` gave place to `inserted` others.

@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/errors.h"
 #include "base/files/text_encoding.h"
-#include "base/run_time_error.h"
 #include "base/text/characters.h"
-#include "base/text/letter_case.h"
 #include "forms/window.h"
 
 namespace lectern::forms {

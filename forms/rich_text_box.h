@@ -50,8 +50,8 @@ class RichTextBox : public TextControl {
   // moves to what was found.
   int Find(std::string_view sought, int start, int options);
 
-  // Gives `length` characters from each start on a colour, as SelColor would one after the other. The starts
-  // ascend, at least that far from one another.
+  // Gives `length` characters from each start on a colour, as SelColor would one after the other.
+  // Requires: the starts ascend, at least that far from one another.
   void ColourPlaces(const std::vector<std::size_t>& starts, std::size_t length, Colour colour);
 
   const TextRuns& Runs() const { return runs_; }

@@ -1,10 +1,11 @@
 #include "forms/window.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
-#include "base/run_time_error.h"
-#include "base/text/letter_case.h"
+#include "base/errors.h"
+#include "base/text/characters.h"
 
 namespace lectern::forms {
 
@@ -65,6 +66,7 @@ double Window::ClientHeight() const {
 }
 
 void Window::PersonMovesFocus(PlacedControl* control) {
+  assert(control == nullptr || &control->HostWindow() == this);
   if (control == focus_) return;
   PlacedControl* const before = std::exchange(focus_, control);
   if (before != nullptr) before->LostFocus();
@@ -80,6 +82,7 @@ void Window::BringToFront() const {
 }
 
 bool Window::PressButtonIn(const Container& panel, const std::function<bool(const Control*)>& meant) {
+  assert(meant);
   const auto found = std::find_if(
       panel.Children().begin(), panel.Children().end(),
       [&](const Control* child) { return meant(child) && child->RefusesPerson() == Refusal::kNone; });

@@ -64,6 +64,7 @@ class Window : public PropertyOwner, public Container {
 
   // The control with the focus, or nullptr. Moving it runs LostFocus of the one before.
   PlacedControl* Focus() const { return focus_; }
+  // Requires: the control is one of the window's.
   void GiveFocus(PlacedControl& control);
   void PersonMovesFocus(PlacedControl* control);
 
@@ -71,6 +72,7 @@ class Window : public PropertyOwner, public Container {
   void BringToFront() const;
 
   // Presses the first button of a panel that is meant, can be seen and is enabled; whether there was one.
+  // Requires: `meant` can be called.
   bool PressButtonIn(const Container& panel, const std::function<bool(const Control*)>& meant);
   // The cancel button of the panel that lies in front, or the window's own where no panel has one.
   void PressCancelOfFrontPanel();

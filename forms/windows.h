@@ -1,16 +1,17 @@
 // The windows of the program that exist, in the order they came into being, and how one comes and goes.
 #pragma once
 
+#include <algorithm>
+#include <cassert>
 #include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
 
+#include "forms/bars_and_timer.h"
 #include "forms/window.h"
 
 namespace lectern::forms {
-
-class Timer;
 
 class Windows {
  public:
@@ -26,9 +27,23 @@ class Windows {
  private:
   template <class Kind>
   friend class OnTouch;
-  void Enter(Window& window);
-  void Leave(Window& window);
-  void FindTimers();
+  void Enter(Window& window) {
+    assert(std::find(all_.begin(), all_.end(), &window) == all_.end());
+    all_.push_back(&window);
+    FindTimers();
+  }
+  void Leave(Window& window) {
+    std::erase(all_, &window);
+    FindTimers();
+  }
+  void FindTimers() {
+    timers_.clear();
+    for (const Window* window : all_) {
+      for (Control* control : window->Controls()) {
+        if (control->GetKind() == Kind::kTimer) timers_.push_back(static_cast<Timer*>(control));
+      }
+    }
+  }
 
   std::vector<Window*> all_;
   std::vector<Timer*> timers_;

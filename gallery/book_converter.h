@@ -14,10 +14,10 @@
 #include <string>
 
 #include "forms/buttons.h"
-#include "forms/folder_lists.h"
-#include "forms/frame.h"
-#include "forms/label.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
 #include "forms/rich_text_box.h"
+#include "forms/text_controls.h"
 #include "forms/window.h"
 
 namespace lectern::gallery {

@@ -7,7 +7,7 @@
 // below is red; the keeper's tools find it by that colour.
 #pragma once
 
-#include "forms/image.h"
+#include "forms/figures.h"
 #include "forms/picture_box.h"
 #include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"

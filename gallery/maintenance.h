@@ -13,7 +13,7 @@
 #include <functional>
 #include <string>
 
-#include "forms/frame.h"
+#include "forms/containers.h"
 #include "gallery/browser.h"
 
 namespace lectern::gallery {

@@ -2,9 +2,8 @@
 
 #include <utility>
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/text/characters.h"
-#include "base/text/letter_case.h"
 #include "base/text/numbers.h"
 #include "gallery/place.h"
 

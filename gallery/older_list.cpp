@@ -1,6 +1,6 @@
 #include "gallery/older_list.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
 

@@ -3,7 +3,7 @@
 // calls, can start the slide show.
 #pragma once
 
-#include "forms/frame.h"
+#include "forms/containers.h"
 #include "gallery/picture_catalogue.h"
 
 namespace lectern::gallery {

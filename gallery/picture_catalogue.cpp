@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
 #include "gallery/place.h"

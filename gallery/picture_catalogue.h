@@ -12,14 +12,12 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
-#include "forms/folder_lists.h"
-#include "forms/frame.h"
-#include "forms/label.h"
-#include "forms/list_box.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
 #include "forms/picture_box.h"
-#include "forms/scroll_bar.h"
-#include "forms/text_box.h"
+#include "forms/text_controls.h"
 #include "gallery/picture_record.h"
 #include "reader/reader.h"
 

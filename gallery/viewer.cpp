@@ -1,6 +1,6 @@
 #include "gallery/viewer.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 
 namespace lectern::gallery {
 

@@ -7,9 +7,9 @@
 
 #include <functional>
 
-#include "forms/image.h"
+#include "forms/bars_and_timer.h"
+#include "forms/figures.h"
 #include "forms/picture_box.h"
-#include "forms/timer.h"
 #include "gallery/picture_catalogue.h"
 
 namespace lectern::gallery {

@@ -2,7 +2,7 @@
 // shows the size of the dot.
 #pragma once
 
-#include "forms/frame.h"
+#include "forms/containers.h"
 #include "forms/picture_box.h"
 #include "gallery/picture_catalogue.h"
 #include "paint/canvas.h"

@@ -1,6 +1,6 @@
 #include "paint/canvas.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/text/numbers.h"
 #include "paint/drawings.h"
 

@@ -5,8 +5,8 @@
 // of the picture.
 #pragma once
 
-#include "forms/frame.h"
-#include "forms/image.h"
+#include "forms/containers.h"
+#include "forms/figures.h"
 #include "forms/picture_box.h"
 #include "forms/window.h"
 #include "paint/pen_settings.h"

@@ -8,11 +8,11 @@
 
 #include <functional>
 
+#include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
+#include "forms/figures.h"
 #include "forms/picture_box.h"
-#include "forms/scroll_bar.h"
-#include "forms/shape.h"
-#include "forms/text_box.h"
+#include "forms/text_controls.h"
 #include "gallery/picture_catalogue.h"
 #include "paint/pen_settings.h"
 #include "paint/save_slots.h"

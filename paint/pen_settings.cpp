@@ -1,6 +1,6 @@
 #include "paint/pen_settings.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/text/numbers.h"
 
 namespace lectern::paint {

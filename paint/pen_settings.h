@@ -3,10 +3,9 @@
 // what it is put on: on white it shows the complement of the pen.
 #pragma once
 
-#include "forms/frame.h"
-#include "forms/label.h"
+#include "forms/containers.h"
 #include "forms/picture_box.h"
-#include "forms/text_box.h"
+#include "forms/text_controls.h"
 #include "forms/window.h"
 
 namespace lectern::paint {

@@ -1,6 +1,6 @@
 #include "paint/save_slots.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 
 namespace lectern::paint {
 

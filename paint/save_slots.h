@@ -4,9 +4,8 @@
 
 #include <string>
 
-#include "forms/frame.h"
-#include "forms/image.h"
-#include "forms/shape.h"
+#include "forms/containers.h"
+#include "forms/figures.h"
 #include "paint/canvas.h"
 #include "paint/zoom.h"
 

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "forms/image.h"
-#include "forms/text_box.h"
+#include "forms/figures.h"
+#include "forms/text_controls.h"
 #include "paint/canvas.h"
 
 namespace lectern::paint {

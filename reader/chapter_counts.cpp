@@ -1,7 +1,7 @@
 #include "reader/chapter_counts.h"
 
-#include "base/error_modes.h"
-#include "base/text/letter_case.h"
+#include "base/errors.h"
+#include "base/text/characters.h"
 #include "base/text/numbers.h"
 #include "reader/canon.h"
 #include "reader/reader.h"

@@ -1,6 +1,6 @@
 #include "reader/chapter_store.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/files/record_reader.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"

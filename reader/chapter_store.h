@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/files/file_system.h"
 
 namespace lectern::reader {

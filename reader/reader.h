@@ -18,15 +18,13 @@
 #include <string>
 #include <string_view>
 
+#include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
-#include "forms/folder_lists.h"
-#include "forms/frame.h"
-#include "forms/label.h"
-#include "forms/list_box.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
 #include "forms/picture_box.h"
 #include "forms/rich_text_box.h"
-#include "forms/scroll_bar.h"
-#include "forms/timer.h"
+#include "forms/text_controls.h"
 #include "forms/window.h"
 #include "reader/bookmark_record.h"
 #include "reader/chapter_store.h"

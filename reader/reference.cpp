@@ -6,7 +6,7 @@
 #include <charconv>
 #include <limits>
 
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 #include "reader/canon.h"
 
 namespace lectern::reader {

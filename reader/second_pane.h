@@ -3,9 +3,9 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "forms/label.h"
 #include "forms/picture_box.h"
 #include "forms/rich_text_box.h"
+#include "forms/text_controls.h"
 
 namespace lectern::reader {
 

@@ -1,7 +1,6 @@
 #include "reader/session.h"
 
-#include "base/error_modes.h"
-#include "base/program_end.h"
+#include "base/errors.h"
 #include "reader/canon.h"
 
 namespace lectern::reader {

@@ -1,9 +1,9 @@
 // The start of the program and its ends.
 #pragma once
 
-#include "forms/folder_lists.h"
-#include "forms/menu.h"
-#include "forms/text_box.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
+#include "forms/text_controls.h"
 #include "reader/reader.h"
 #include "reader/settings.h"
 #include "reader/tool_buttons.h"

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/text/numbers.h"
 
 namespace lectern::reader {

@@ -10,9 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "forms/combo_box.h"
-#include "forms/label.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
+#include "forms/text_controls.h"
 #include "reader/desktop_colour.h"
 #include "reader/reader.h"
 #include "reader/second_pane.h"

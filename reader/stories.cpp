@@ -1,6 +1,6 @@
 #include "reader/stories.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 
 namespace lectern::reader {
 

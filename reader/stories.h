@@ -5,7 +5,7 @@
 
 #include <deque>
 
-#include "forms/menu.h"
+#include "forms/containers.h"
 #include "reader/reader.h"
 
 namespace lectern::reader {

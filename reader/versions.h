@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "forms/buttons.h"
-#include "forms/label.h"
+#include "forms/text_controls.h"
 
 namespace lectern::reader {
 

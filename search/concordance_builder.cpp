@@ -1,6 +1,6 @@
 #include "search/concordance_builder.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/text/numbers.h"
 #include "search/concordance_file.h"
 

@@ -6,10 +6,10 @@
 // one another by switching the search's timer on and watching it go off.
 #pragma once
 
+#include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
-#include "forms/frame.h"
-#include "forms/progress_bar.h"
-#include "forms/text_box.h"
+#include "forms/containers.h"
+#include "forms/text_controls.h"
 #include "reader/reader.h"
 #include "search/text_search.h"
 

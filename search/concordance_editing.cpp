@@ -1,6 +1,6 @@
 #include "search/concordance_editing.h"
 
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 #include "reader/reference.h"
 #include "search/concordance_file.h"
 #include "search/entry.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "forms/frame.h"
+#include "forms/containers.h"
 #include "reader/reader.h"
 #include "search/concordance_viewer.h"
 #include "search/result_navigation.h"

@@ -1,6 +1,6 @@
 #include "search/concordance_file.h"
 
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 
 namespace lectern::search {
 

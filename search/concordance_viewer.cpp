@@ -1,6 +1,6 @@
 #include "search/concordance_viewer.h"
 
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 #include "search/concordance_file.h"
 #include "search/entry.h"
 #include "search/highlight.h"

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "forms/buttons.h"
-#include "forms/frame.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
 #include "forms/picture_box.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"

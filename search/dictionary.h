@@ -4,11 +4,9 @@
 // The file is read again for every opening and every click. Of two records of one word the first is shown.
 #pragma once
 
-#include "forms/frame.h"
-#include "forms/label.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
+#include "forms/figures.h"
 #include "forms/picture_box.h"
-#include "forms/shape.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 

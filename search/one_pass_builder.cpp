@@ -3,7 +3,6 @@
 #include <cassert>
 
 #include "base/text/characters.h"
-#include "base/text/letter_case.h"
 #include "base/text/numbers.h"
 #include "reader/canon.h"
 #include "search/text_scan.h"

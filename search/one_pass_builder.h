@@ -3,7 +3,7 @@
 // the data folder itself. Kept as a tool of whoever prepares the data.
 #pragma once
 
-#include "forms/frame.h"
+#include "forms/containers.h"
 #include "search/concordance_builder.h"
 
 namespace lectern::search {

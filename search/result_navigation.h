@@ -2,8 +2,8 @@
 // terms in it.
 #pragma once
 
-#include "forms/frame.h"
-#include "forms/label.h"
+#include "forms/containers.h"
+#include "forms/text_controls.h"
 #include "reader/reader.h"
 #include "search/text_search.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 
 namespace lectern::search {
 

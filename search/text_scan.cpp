@@ -7,7 +7,6 @@
 
 #include "base/files/text_encoding.h"
 #include "base/text/characters.h"
-#include "base/text/letter_case.h"
 #include "reader/reference.h"
 #include "search/term_finder.h"
 

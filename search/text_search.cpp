@@ -1,6 +1,6 @@
 #include "search/text_search.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
 #include "search/text_scan.h"

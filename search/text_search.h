@@ -9,12 +9,11 @@
 #include <functional>
 #include <string>
 
+#include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
-#include "forms/frame.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
 #include "forms/picture_box.h"
-#include "forms/progress_bar.h"
-#include "forms/text_box.h"
+#include "forms/text_controls.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"
 

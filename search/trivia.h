@@ -6,8 +6,7 @@
 
 #include <cstdint>
 
-#include "forms/label.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
 #include "forms/picture_box.h"
 #include "reader/reader.h"
 #include "reader/tool_buttons.h"

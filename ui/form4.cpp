@@ -1,6 +1,6 @@
 #include "ui/form4.h"
 
-#include "base/error_modes.h"
+#include "base/errors.h"
 #include "paint/drawings.h"
 #include "ui/places.h"
 

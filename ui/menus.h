@@ -2,7 +2,7 @@
 // given its own and joins its handlers to them; the stories add theirs under dd1.
 #pragma once
 
-#include "forms/menu.h"
+#include "forms/containers.h"
 #include "forms/window.h"
 
 namespace lectern::ui {

@@ -4,9 +4,9 @@
 
 #include <vector>
 
-#include "forms/frame.h"
-#include "forms/label.h"
+#include "forms/containers.h"
 #include "forms/picture_box.h"
+#include "forms/text_controls.h"
 #include "forms/window.h"
 
 namespace lectern::ui {

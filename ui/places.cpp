@@ -5,8 +5,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "forms/label.h"
 #include "forms/rich_text_box.h"
+#include "forms/text_controls.h"
 
 namespace lectern::ui {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <new>
 
-#include "base/error_modes.h"
-#include "base/text/letter_case.h"
-#include "forms/timer.h"
+#include "base/errors.h"
+#include "base/text/characters.h"
+#include "forms/bars_and_timer.h"
 
 namespace lectern::ui {
 

@@ -8,8 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/program_end.h"
-#include "base/run_time_error.h"
+#include "base/errors.h"
 #include "forms/windows.h"
 #include "ui/form1.h"
 #include "ui/form4.h"

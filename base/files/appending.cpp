@@ -1,13 +1,14 @@
 #include "base/files/appending.h"
 
+#include <cassert>
 #include <cerrno>
 #include <cstddef>
 #include <unistd.h>
 #include <utility>
 
+#include "base/errors.h"
 #include "base/files/file_system.h"
 #include "base/files/host_files.h"
-#include "base/run_time_error.h"
 
 namespace lectern::files {
 
@@ -29,6 +30,7 @@ void Appending::LetGo() {
 }
 
 void Appending::Write(std::string_view bytes) {
+  assert(file_.IsOpen());
   constexpr std::size_t kLargest = std::size_t{1} << 18;
   pending_.append(bytes);
   if (pending_.size() > kLargest) Flush();

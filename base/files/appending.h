@@ -22,6 +22,7 @@ class Appending {
   Appending& operator=(const Appending&) = delete;
   ~Appending();  // closes, whatever fails
 
+  // Requires: neither closed nor failed before.
   void Write(std::string_view bytes);
   void Flush();
   void Close();

@@ -1,6 +1,7 @@
 // A file that the host has open.
 #pragma once
 
+#include <unistd.h>
 #include <utility>
 
 namespace lectern::files {
@@ -16,7 +17,9 @@ class Descriptor {
   }
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor();
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
 
   int Number() const { return number_; }
   bool IsOpen() const { return number_ >= 0; }

@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "base/errors.h"
 #include "base/files/text_encoding.h"
-#include "base/run_time_error.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
 

@@ -9,10 +9,10 @@
 #include <unistd.h>
 #include <utility>
 
+#include "base/errors.h"
 #include "base/files/host_files.h"
 #include "base/files/path_names.h"
-#include "base/run_time_error.h"
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 
 namespace lectern::files {
 

@@ -35,7 +35,7 @@ class Contents {
 
 class FileSystem {
  public:
-  // The start folder is the data folder as the host writes it, without a separator at its end.
+  // The start folder is the data folder as the host writes it. Requires: no separator stands at its end.
   explicit FileSystem(std::string start_folder);
 
   const std::string& StartFolder() const { return start_folder_; }

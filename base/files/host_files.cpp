@@ -8,8 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "base/run_time_error.h"
-#include "base/text/letter_case.h"
+#include "base/errors.h"
+#include "base/text/characters.h"
 
 namespace lectern::files {
 

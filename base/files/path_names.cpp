@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/text/characters.h"
-#include "base/text/letter_case.h"
 
 namespace lectern::files {
 

@@ -1,10 +1,12 @@
 #include "base/files/record_reader.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace lectern::files {
 
 std::string_view RecordReader::LineStarting(std::string_view start) {
+  assert(!AtEnd() && !start.empty());
   for (std::size_t at = at_; at < text_.size(); ++at) {
     const void* const first = std::memchr(text_.data() + at, start[0], text_.size() - at);
     if (first == nullptr) break;
@@ -20,6 +22,7 @@ std::string_view RecordReader::LineStarting(std::string_view start) {
 }
 
 std::string_view RecordReader::LinesAround(std::string_view part) const {
+  assert(part.data() >= text_.data() && part.data() + part.size() <= text_.data() + text_.size());
   const auto start = static_cast<std::size_t>(part.data() - text_.data());
   const std::size_t line_start = start == 0 ? 0 : text_.rfind('\n', start - 1) + 1;
   const std::size_t line_end = std::min(text_.find('\n', start + part.size()), text_.size());
@@ -43,6 +46,7 @@ void RecordReader::SkipFieldEnd() {
 }
 
 std::string_view RecordReader::Field() {
+  assert(!AtEnd());
   SkipBlanks();
   if (AtEnd()) return {};
   if (text_[at_] == '"') {

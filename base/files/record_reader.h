@@ -10,6 +10,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cassert>
 #include <cstring>
 #include <string_view>
 
@@ -22,8 +23,9 @@ class RecordReader {
 
   bool AtEnd() const { return at_ >= text_.size(); }
 
-  // The next line without its end, which is LF or CR LF. Not to be called at the end.
+  // The next line without its end, which is LF or CR LF. Requires: !AtEnd().
   std::string_view Line() {
+    assert(!AtEnd());
     const char* const start = text_.data() + at_;
     const std::size_t left = text_.size() - at_;
     const void* const end = std::memchr(start, '\n', left);
@@ -38,7 +40,8 @@ class RecordReader {
   }
 
   // The next line that begins with `start`, or the last line of all where none does any more: as reading line
-  // by line would come to it, but past the lines between in one sweep. Not to be called at the end.
+  // by line would come to it, but past the lines between in one sweep. Requires: !AtEnd(), and `start` is not
+  // empty.
   std::string_view LineStarting(std::string_view start);
 
   // All that is left.
@@ -48,10 +51,10 @@ class RecordReader {
     return rest;
   }
 
-  // The next field. Not to be called at the end.
+  // The next field. Requires: !AtEnd().
   std::string_view Field();
 
-  // The line or lines that a part of the text lies in.
+  // The line or lines that a part of the text lies in. Requires: the part is a view into the text.
   std::string_view LinesAround(std::string_view part) const;
 
  private:

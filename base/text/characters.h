@@ -33,7 +33,24 @@ std::string_view TrimEnd(std::string_view text);
 bool StartsWithDigit(std::string_view text);
 
 // The character that begins at `byte`, which is moved behind it. A stray byte comes out as itself.
+// Requires: byte < text.size().
 char32_t NextCharacter(std::string_view text, std::size_t& byte);
+
+// Requires: the character is a code point, at most U+10FFFF.
 void AppendCharacter(std::string& text, char32_t character);
+
+// Upper and lower case, and comparison without regard to case, for the scripts that people write names and
+// words in: Latin, Greek and Cyrillic. Every letter keeps its length in characters.
+char32_t LowerCharacter(char32_t character);
+char32_t UpperCharacter(char32_t character);
+
+std::string Lower(std::string_view text);
+std::string Upper(std::string_view text);
+
+// The same text but for case.
+bool EqualFolded(std::string_view a, std::string_view b);
+
+// The order of file lists: without regard to case, and by character code where that leaves a tie.
+bool LessFolded(std::string_view a, std::string_view b);
 
 }  // namespace lectern::text

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 
 namespace lectern::text {
 

@@ -1,6 +1,7 @@
 #include "base/text/text_list.h"
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 namespace lectern::text {
@@ -23,12 +24,14 @@ void TextList::Add(const TextList& others) {
 }
 
 void TextList::Insert(std::size_t index, std::string_view text) {
+  assert(index <= Count());
   Add(text);
   const auto last = places_.end() - 1;
   std::rotate(places_.begin() + static_cast<std::ptrdiff_t>(index), last, places_.end());
 }
 
 void TextList::Erase(std::size_t index) {
+  assert(index < Count());
   erased_ += places_[index].length;
   places_.erase(places_.begin() + static_cast<std::ptrdiff_t>(index));
   // A list that is added to and erased from for ever does not grow for ever.

@@ -2,6 +2,7 @@
 // thousands of short texts costs no allocation for each.
 #pragma once
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -20,8 +21,11 @@ class TextList {
   std::size_t Count() const { return places_.size(); }
   bool IsEmpty() const { return places_.empty(); }
 
-  // Good until the list is next changed.
-  std::string_view operator[](std::size_t index) const { return TextAt(places_[index]); }
+  // Good until the list is next changed. Requires: index < Count().
+  std::string_view operator[](std::size_t index) const {
+    assert(index < Count());
+    return TextAt(places_[index]);
+  }
 
   // Behind all texts that are not greater by character code, in a list that is in this order.
   std::size_t PlaceInOrder(std::string_view text) const;
@@ -31,9 +35,9 @@ class TextList {
     bytes_.append(text);
   }
   void Add(const TextList& others);
-  void Insert(std::size_t index, std::string_view text);
-  void Erase(std::size_t index);
-  void Clear();  // keeps the room
+  void Insert(std::size_t index, std::string_view text);  // Requires: index <= Count()
+  void Erase(std::size_t index);                          // Requires: index < Count()
+  void Clear();                                           // keeps the room
 
   // Makes room ahead of adding so many texts of this length.
   void Reserve(std::size_t count, std::size_t length);

@@ -9,7 +9,7 @@
 #include <random>
 #include <string>
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 
 namespace lectern::desktop {
 namespace {

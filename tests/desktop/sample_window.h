@@ -4,21 +4,14 @@
 #include <string>
 #include <vector>
 
+#include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
-#include "forms/combo_box.h"
-#include "forms/folder_lists.h"
-#include "forms/frame.h"
-#include "forms/image.h"
-#include "forms/label.h"
-#include "forms/list_box.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
+#include "forms/figures.h"
+#include "forms/lists.h"
 #include "forms/picture_box.h"
-#include "forms/progress_bar.h"
 #include "forms/rich_text_box.h"
-#include "forms/scroll_bar.h"
-#include "forms/shape.h"
-#include "forms/text_box.h"
-#include "forms/timer.h"
+#include "forms/text_controls.h"
 #include "forms/window.h"
 
 namespace lectern::desktop {

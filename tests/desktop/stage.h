@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 #include "tests/desktop/sample_window.h"
 #include "ui/desktop/app/events.h"
 #include "ui/desktop/app/platform.h"

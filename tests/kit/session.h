@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "forms/list_box.h"
+#include "forms/lists.h"
 #include "ui/headless/driver.h"
 
 namespace lectern {

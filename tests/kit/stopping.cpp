@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 #include "tests/kit/small_world.h"
 #include "tests/kit/temporary_folder.h"
 

@@ -6,7 +6,7 @@
 #include <set>
 
 #include "base/text/characters.h"
-#include "forms/image.h"
+#include "forms/figures.h"
 #include "forms/rich_text_box.h"
 #include "gallery/place.h"
 #include "tests/kit/session.h"

@@ -1,12 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
-#include "forms/folder_lists.h"
-#include "forms/frame.h"
-#include "forms/label.h"
-#include "forms/list_box.h"
-#include "forms/scroll_bar.h"
-#include "forms/text_box.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
+#include "forms/text_controls.h"
 #include "tests/kit/test_window.h"
 
 namespace lectern::forms {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "forms/image.h"
+#include "forms/figures.h"
 #include "forms/picture_box.h"
 #include "tests/kit/session.h"
 #include "tests/kit/test_window.h"

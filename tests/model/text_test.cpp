@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "base/text/characters.h"
-#include "base/text/letter_case.h"
 #include "base/text/numbers.h"
 #include "tests/kit/test_window.h"
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <set>
 
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 #include "tests/kit/test_window.h"
 #include "ui/program.h"
 

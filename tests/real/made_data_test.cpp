@@ -7,10 +7,9 @@
 
 #include "base/files/record_reader.h"
 #include "base/text/characters.h"
-#include "base/text/letter_case.h"
-#include "forms/image.h"
-#include "forms/label.h"
+#include "forms/figures.h"
 #include "forms/rich_text_box.h"
+#include "forms/text_controls.h"
 #include "reader/canon.h"
 #include "tests/kit/session.h"
 #include "tests/real/real_data.h"

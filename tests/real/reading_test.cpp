@@ -6,7 +6,7 @@
 
 #include "base/files/record_reader.h"
 #include "base/files/text_encoding.h"
-#include "forms/menu.h"
+#include "forms/containers.h"
 #include "forms/rich_text_box.h"
 #include "reader/canon.h"
 #include "tests/kit/plain_scan.h"

@@ -6,7 +6,7 @@
 #include <set>
 #include <sstream>
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 #include "tests/kit/lines.h"
 #include "tests/kit/session.h"
 #include "tests/kit/small_world.h"

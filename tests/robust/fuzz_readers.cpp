@@ -1,6 +1,6 @@
+#include "base/errors.h"
 #include "base/files/record_reader.h"
 #include "base/files/text_encoding.h"
-#include "base/run_time_error.h"
 #include "base/text/characters.h"
 #include "forms/bitmap.h"
 #include "forms/picture.h"

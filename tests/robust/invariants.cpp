@@ -5,8 +5,8 @@
 #include <map>
 
 #include "base/text/characters.h"
+#include "forms/bars_and_timer.h"
 #include "forms/rich_text_box.h"
-#include "forms/scroll_bar.h"
 
 namespace lectern {
 

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 
-#include "forms/folder_lists.h"
-#include "forms/list_box.h"
+#include "forms/bars_and_timer.h"
+#include "forms/lists.h"
 #include "forms/rich_text_box.h"
-#include "forms/scroll_bar.h"
 #include "ui/headless/driver.h"
 
 namespace lectern {

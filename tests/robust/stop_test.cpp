@@ -2,8 +2,8 @@
 #include <csignal>
 #include <gtest/gtest.h>
 
-#include "forms/label.h"
 #include "forms/rich_text_box.h"
+#include "forms/text_controls.h"
 #include "tests/kit/small_world.h"
 #include "tests/kit/stopping.h"
 #include "tests/kit/temporary_folder.h"

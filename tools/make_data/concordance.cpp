@@ -7,7 +7,7 @@
 #include <map>
 
 #include "base/text/characters.h"
-#include "forms/label.h"
+#include "forms/text_controls.h"
 #include "tools/make_data/book_files.h"
 #include "ui/headless/driver.h"
 

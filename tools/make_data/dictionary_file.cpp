@@ -5,7 +5,6 @@
 
 #include "base/files/text_encoding.h"
 #include "base/text/characters.h"
-#include "base/text/letter_case.h"
 #include "reader/canon.h"
 #include "reader/reference.h"
 #include "tools/make_data/verse_finder.h"

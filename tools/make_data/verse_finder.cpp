@@ -4,7 +4,7 @@
 #include <string_view>
 #include <tuple>
 
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 #include "tools/make_data/wording.h"
 
 namespace lectern::make_data {

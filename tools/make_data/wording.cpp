@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "base/text/letter_case.h"
+#include "base/text/characters.h"
 
 namespace lectern::make_data {
 

@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/text/letter_case.h"
-#include "forms/combo_box.h"
-#include "forms/folder_lists.h"
-#include "forms/list_box.h"
-#include "forms/menu.h"
-#include "forms/scroll_bar.h"
+#include "base/text/characters.h"
+#include "forms/bars_and_timer.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
+#include "forms/text_controls.h"
 
 namespace lectern::headless {
 

@@ -6,9 +6,9 @@
 #include <optional>
 #include <utility>
 
-#include "base/run_time_error.h"
-#include "base/text/letter_case.h"
-#include "forms/list_box.h"
+#include "base/errors.h"
+#include "base/text/characters.h"
+#include "forms/lists.h"
 
 namespace lectern::headless {
 

@@ -5,7 +5,7 @@
 #include <ctime>
 #include <utility>
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 #include "forms/window.h"
 #include "ui/headless/language.h"
 

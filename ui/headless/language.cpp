@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "base/text/characters.h"
-#include "base/text/letter_case.h"
 #include "base/text/numbers.h"
 
 namespace lectern::headless {

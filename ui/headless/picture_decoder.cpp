@@ -2,7 +2,7 @@
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <memory>
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 #include "forms/picture.h"
 #include "ui/headless/headless_platform.h"
 

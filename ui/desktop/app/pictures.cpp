@@ -10,7 +10,7 @@
 #include <string>
 #include <utility>
 
-#include "base/run_time_error.h"
+#include "base/errors.h"
 #include "forms/control.h"
 
 namespace lectern::desktop {

@@ -5,8 +5,8 @@
 #include <functional>
 #include <random>
 
+#include "base/errors.h"
 #include "base/platform.h"
-#include "base/run_time_error.h"
 
 namespace lectern::desktop {
 

@@ -9,7 +9,7 @@
 #include <memory>
 #include <vector>
 
-#include "forms/timer.h"
+#include "forms/bars_and_timer.h"
 #include "forms/window.h"
 #include "ui/desktop/app/events.h"
 

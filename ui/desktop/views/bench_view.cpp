@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 #include <cassert>
 
-#include "forms/frame.h"
+#include "forms/containers.h"
 #include "ui/desktop/views/child_views.h"
 #include "ui/desktop/views/view_factory.h"
 

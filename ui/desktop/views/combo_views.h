@@ -3,8 +3,8 @@
 
 #include <QComboBox>
 
-#include "forms/combo_box.h"
-#include "forms/folder_lists.h"
+#include "forms/lists.h"
+#include "forms/text_controls.h"
 #include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {

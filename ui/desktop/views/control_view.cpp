@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "forms/figures.h"
 #include "forms/picture_box.h"
-#include "forms/shape.h"
 #include "forms/window.h"
 #include "ui/desktop/app/pictures.h"
 #include "ui/desktop/app/theme.h"

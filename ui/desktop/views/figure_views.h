@@ -1,7 +1,7 @@
 // Shapes and lines: looked at, and nothing else.
 #pragma once
 
-#include "forms/shape.h"
+#include "forms/figures.h"
 #include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/folder_lists.h"
+#include "forms/lists.h"
 #include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {

@@ -3,7 +3,7 @@
 
 #include <QPixmap>
 
-#include "forms/image.h"
+#include "forms/figures.h"
 #include "ui/desktop/views/clickable_view.h"
 
 namespace lectern::desktop {

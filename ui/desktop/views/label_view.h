@@ -1,7 +1,7 @@
 // A label: text that fits its place, and stands in as the text of an option that has none of its own.
 #pragma once
 
-#include "forms/label.h"
+#include "forms/text_controls.h"
 #include "ui/desktop/views/clickable_view.h"
 #include "ui/desktop/views/design_text.h"
 

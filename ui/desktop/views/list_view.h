@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "forms/list_box.h"
+#include "forms/lists.h"
 #include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "forms/menu.h"
+#include "forms/containers.h"
 #include "ui/desktop/app/events.h"
 
 namespace lectern::desktop {

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "forms/frame.h"
+#include "forms/containers.h"
 #include "forms/picture_box.h"
 #include "ui/desktop/views/child_views.h"
 #include "ui/desktop/views/clickable_view.h"

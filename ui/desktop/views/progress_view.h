@@ -4,7 +4,7 @@
 #include <QProgressBar>
 #include <algorithm>
 
-#include "forms/progress_bar.h"
+#include "forms/bars_and_timer.h"
 #include "ui/desktop/views/control_view.h"
 #include "ui/desktop/views/window_view.h"
 

@@ -5,7 +5,7 @@
 
 #include <QScrollBar>
 
-#include "forms/scroll_bar.h"
+#include "forms/bars_and_timer.h"
 #include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "forms/text_box.h"
+#include "forms/text_controls.h"
 #include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {
