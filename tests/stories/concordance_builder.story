@@ -6,7 +6,7 @@ click! Form1.Command27 | run-time error 53 "File not found" | end
 click! Form1.Command27
   Timer2 enabled, pbar.Max 65
 tick
-  List2.ListCount 4, lbln "0", Label32 "-1 of 0", tmrb enabled, wrd "river", pbar2 1
+  List2.ListCount 4, lbln "0", Label32 "-1 of 0", tmrb enabled, wrd "river", pbar2 2
 run | beep | ran 265 ticks
   lbln "4", wrd "", txts "", pbar2.Max 3, pbar2 2, Timer2 disabled
 # ODDITY(last-word-twice)
