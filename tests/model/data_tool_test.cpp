@@ -6,14 +6,13 @@
 #include "forms/rich_text.h"
 #include "reader/canon.h"
 #include "tests/kit/temporary_folder.h"
-#include "tools/make_data/book_files.h"
-#include "tools/make_data/dictionary_file.h"
+#include "tools/make_data/dictionary.h"
 #include "tools/make_data/drawings.h"
-#include "tools/make_data/help_topics.h"
 #include "tools/make_data/picture_table.h"
 #include "tools/make_data/pictures.h"
-#include "tools/make_data/topics.h"
-#include "tools/make_data/verses.h"
+#include "tools/make_data/texts.h"
+#include "tools/make_data/version_files.h"
+#include "tools/make_data/written_texts.h"
 #include "ui/headless/headless_platform.h"
 
 namespace lectern::make_data {

@@ -13,7 +13,6 @@
 #include "reader/canon.h"
 #include "tests/kit/session.h"
 #include "tests/real/real_data.h"
-#include "tools/make_data/trivia_file.h"
 #include "tools/make_data/written_texts.h"
 
 namespace lectern {

@@ -6,7 +6,7 @@
 
 #include "reader/reference.h"
 #include "tests/kit/temporary_folder.h"
-#include "tools/make_data/sources.h"
+#include "tools/make_data/texts.h"
 
 namespace lectern {
 

@@ -7,10 +7,9 @@
 #include "forms/rich_text.h"
 #include "tests/kit/temporary_folder.h"
 #include "tests/robust/fuzz.h"
-#include "tools/make_data/help_topics.h"
-#include "tools/make_data/markup.h"
-#include "tools/make_data/sources.h"
-#include "tools/make_data/topics.h"
+#include "tools/make_data/dictionary.h"
+#include "tools/make_data/texts.h"
+#include "tools/make_data/written_texts.h"
 #include "ui/headless/headless_platform.h"
 
 namespace lectern::fuzz {

@@ -1,5 +1,3 @@
-#include "tools/make_data/dictionary_file.h"
-
 #include <algorithm>
 #include <array>
 
@@ -7,7 +5,7 @@
 #include "base/text/characters.h"
 #include "reader/canon.h"
 #include "reader/reference.h"
-#include "tools/make_data/verse_finder.h"
+#include "tools/make_data/dictionary.h"
 
 namespace lectern::make_data {
 
@@ -17,7 +15,7 @@ constexpr std::size_t kLongestDefinition = 400;  // bytes, of text that is nearl
 
 bool IsSee(std::string_view words) { return words.starts_with("See "); }
 
-// Heads that say nothing: what lies below them stands for itself.
+// Headings without meaning of their own: what lies below them stands for itself.
 bool SaysNothing(std::string_view words) {
   constexpr std::array<std::string_view, 5> kEmptyHeads = {
       "UNCLASSIFIED SCRIPTURES RELATING TO", "MISCELLANY OF MINOR SUB-TOPICS", "SCRIPTURES RELATING TO",
@@ -25,7 +23,7 @@ bool SaysNothing(std::string_view words) {
   return std::find(kEmptyHeads.begin(), kEmptyHeads.end(), words) != kEmptyHeads.end();
 }
 
-// What speaks of how the index is laid out, or holds a reference that was not marked as one.
+// Whether a text describes the layout of the index, or holds a reference that was not marked as one.
 bool SpeaksOfTheIndex(std::string_view words) {
   constexpr std::array<std::string_view, 5> kLayout = {" above", " below", " following", " printed",
                                                        " paragraph"};
@@ -39,8 +37,8 @@ bool SpeaksOfTheIndex(std::string_view words) {
          text::StartsWithDigit(words.substr(colon + 1));
 }
 
-// The index leaves its subject out: "Lineage of", "Desert of, a wilderness". It is put back behind a word
-// that wants it.
+// The index omits its subject: "Lineage of", "Desert of, a wilderness". It is added behind a word that needs
+// it.
 std::string WithSubject(std::string words, const std::string& subject) {
   constexpr std::array<std::string_view, 13> kWanting = {
       " of",   " concerning", " in",      " to",   " at",    " by",    " for",
@@ -62,7 +60,7 @@ std::string WithoutEnd(std::string words) {
   return words;
 }
 
-// A field can hold no double quotes.
+// A field cannot hold double quotes.
 std::string WithoutQuotes(std::string words) {
   std::replace(words.begin(), words.end(), '"', '\'');
   return words;
@@ -76,7 +74,7 @@ std::string Plain(std::string words) {
   return WithoutEnd(std::move(words));
 }
 
-// Grows sentence by sentence, and takes nothing any more as soon as something did not fit.
+// Grows sentence by sentence, and stops as soon as something does not fit.
 class SentenceWriter {
  public:
   // A piece that begins a sentence, or goes on with the one before behind `joint`.

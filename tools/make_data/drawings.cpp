@@ -10,8 +10,7 @@
 #include <numbers>
 #include <string_view>
 
-#include "tools/make_data/markup.h"
-#include "tools/make_data/verses.h"
+#include "tools/make_data/texts.h"
 
 namespace lectern::make_data {
 

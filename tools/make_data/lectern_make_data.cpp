@@ -1,10 +1,11 @@
 // Fills a folder with everything that the program reads, from packages of the distribution.
 //
-//   lectern-make-data FOLDER                 all of it; safe to run again
+//   lectern-make-data FOLDER                 everything; safe to run again
 //   lectern-make-data --words N FOLDER       with concordances of N words, for a quick look
 //   lectern-make-data --second FILE FOLDER   a person's own text as the second version
 //
-// What it made before it replaces; what a person made it leaves alone.
+// It replaces what it made before, and leaves alone what a person made.
+#include <charconv>
 #include <exception>
 #include <fcntl.h>
 #include <filesystem>
@@ -14,33 +15,29 @@
 #include <vector>
 
 #include "reader/versions.h"
-#include "tools/make_data/book_files.h"
-#include "tools/make_data/concordance.h"
-#include "tools/make_data/dictionary_file.h"
-#include "tools/make_data/help_topics.h"
+#include "tools/make_data/dictionary.h"
 #include "tools/make_data/paint_files.h"
 #include "tools/make_data/pictures.h"
-#include "tools/make_data/sources.h"
-#include "tools/make_data/topics.h"
-#include "tools/make_data/trivia_file.h"
-#include "tools/make_data/verses.h"
+#include "tools/make_data/texts.h"
+#include "tools/make_data/version_files.h"
+#include "tools/make_data/written_texts.h"
 
 namespace lectern::make_data {
 
 namespace {
 
-void Tell(const std::string& what) { std::cout << what << std::endl; }
+void Print(const std::string& what) { std::cout << what << std::endl; }
 
-// Tells how much of all is done, in percent, as each step begins: "28 % Concordance of the first version …".
-// Within a long one the number alone is written over itself. The first start from the menu reads both.
+// Prints the progress in percent as each step begins: "28 % Concordance of the first version …". Within a
+// long step only the number is rewritten. The first start from the menu reads both.
 class Steps {
  public:
-  // The share is the part of the whole time that the step takes, in percent.
+  // `share` is the part of the whole time that the step takes, in percent.
   void Begin(const std::string& what, int share) {
     done_ += share_;
     share_ = share;
     shown_ = done_;
-    Tell(std::to_string(done_) + " % " + what + " …");
+    Print(std::to_string(done_) + " % " + what + " …");
   }
 
   void Within(std::size_t done, std::size_t all) {
@@ -62,14 +59,14 @@ std::string FolderOf(const reader::Version& version, const std::string& data_fol
   return data_folder + "/" + std::string(version.folder);
 }
 
-// The settings are the person's as soon as they are there.
+// Existing settings belong to the person.
 void MakeSettings(const std::string& folder) {
   const std::string path = folder + "/codex.cfg";
   if (std::filesystem::exists(path)) return;
   WriteFile(path, "\"" + SerifFont() + "\",\"12\",\"Regular\"\r\n");
 }
 
-// A concordance that is there may hold what the person added: it is left alone.
+// An existing concordance may hold what the person added, and stays.
 void MakeConcordance(const std::string& folder, const Version& text, const reader::Version& version,
                      std::size_t most, Steps& steps) {
   if (std::filesystem::exists(folder + "/" + std::string(version.concordance))) return;
@@ -81,12 +78,12 @@ void MakeConcordance(const std::string& folder, const Version& text, const reade
   std::cout << "\r        \r";
 }
 
-// So that a power cut does not leave a folder of empty files behind that looks whole.
+// Without this a power cut could leave a folder of empty files that looks whole.
 void FlushToDisk(const std::string& folder) {
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   const bool is_done = descriptor >= 0 && ::syncfs(descriptor) == 0;
   if (descriptor >= 0) ::close(descriptor);
-  if (!is_done) throw Obstacle("The folder " + folder + " could not be written to the disk.");
+  if (!is_done) throw Obstacle("The folder " + folder + " cannot be written to the disk.");
 }
 
 void MakeAll(const std::string& folder, std::size_t concordance_words) {
@@ -115,7 +112,7 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   steps.Begin("Concordance of the second version", 36);
   MakeConcordance(folder, world_english, kSecond, concordance_words, steps);
   FlushToDisk(folder);
-  Tell("The data folder is ready.");
+  Print("The data folder is ready.");
 }
 
 int Run(const std::vector<std::string>& arguments) {
@@ -125,14 +122,19 @@ int Run(const std::vector<std::string>& arguments) {
     return 0;
   }
   if (arguments.size() == 3 && arguments[0] == "--words") {
-    MakeAll(std::filesystem::absolute(arguments[2]).lexically_normal().string(), std::stoul(arguments[1]));
+    std::size_t words = 0;
+    const char* const end = arguments[1].data() + arguments[1].size();
+    const auto [stop, failure] = std::from_chars(arguments[1].data(), end, words);
+    if (failure != std::errc{} || stop != end)
+      throw Obstacle("'" + arguments[1] + "' is not a number of words.");
+    MakeAll(std::filesystem::absolute(arguments[2]).lexically_normal().string(), words);
     return 0;
   }
   if (arguments.size() == 3 && arguments[0] == "--second") {
     const Version own = ReadOwnText(arguments[1]);
     const std::string folder = std::filesystem::absolute(arguments[2]).lexically_normal().string();
     WriteBooks(own, FolderOf(kSecond, folder), std::string(kSecond.prefix));
-    Tell("The second version is in place: " + std::to_string(own.VerseCount()) + " verses.");
+    Print("The second version is in place: " + std::to_string(own.VerseCount()) + " verses.");
     return 0;
   }
   std::cerr << "usage: lectern-make-data FOLDER\n       lectern-make-data --second FILE FOLDER\n";

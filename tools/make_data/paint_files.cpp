@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "forms/colour.h"
-#include "tools/make_data/book_files.h"
+#include "tools/make_data/version_files.h"
 
 namespace lectern::make_data {
 

@@ -8,9 +8,9 @@
 
 #include "base/files/text_encoding.h"
 #include "reader/reference.h"
-#include "tools/make_data/book_files.h"
 #include "tools/make_data/drawings.h"
 #include "tools/make_data/picture_table.h"
+#include "tools/make_data/version_files.h"
 
 namespace lectern::make_data {
 

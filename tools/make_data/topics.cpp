@@ -1,13 +1,10 @@
-#include "tools/make_data/topics.h"
-
 #include <algorithm>
 #include <map>
 
 #include "base/files/record_reader.h"
 #include "reader/reference.h"
-#include "tools/make_data/markup.h"
-#include "tools/make_data/sources.h"
-#include "tools/make_data/verses.h"
+#include "tools/make_data/dictionary.h"
+#include "tools/make_data/texts.h"
 
 namespace lectern::make_data {
 
@@ -15,14 +12,14 @@ namespace {
 
 constexpr std::string_view kHeadingMark = "$$$";
 
-// The value behind `start` up to the next quote; empty where the tag does not begin so.
+// The value behind `start` up to the next quote; empty if the tag begins otherwise.
 std::string_view ValueOf(std::string_view tag, std::string_view start) {
   if (!tag.starts_with(start)) return {};
   const std::string_view value = tag.substr(start.size());
   return value.substr(0, value.find('"'));
 }
 
-// The text of one topic taken apart: a tag at a time.
+// Parses the text of one topic, a tag at a time.
 class ItemReader {
  public:
   std::vector<Item> Read(std::string_view markup) {

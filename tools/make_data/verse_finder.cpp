@@ -1,18 +1,16 @@
-#include "tools/make_data/verse_finder.h"
-
 #include <algorithm>
 #include <string_view>
 #include <tuple>
 
 #include "base/text/characters.h"
-#include "tools/make_data/wording.h"
+#include "tools/make_data/dictionary.h"
 
 namespace lectern::make_data {
 
 namespace {
 
-// A text to look for words in: small letters, and no hyphens, which the index sets in names and the verses do
-// not.
+// A text prepared for finding words: lower case, without hyphens, which the index puts in names and the
+// verses do not.
 std::string Folded(std::string_view words) {
   std::string folded = text::Lower(words);
   std::erase(folded, '-');
@@ -23,7 +21,7 @@ bool IsSmallLetter(char c) { return c >= 'a' && c <= 'z'; }
 
 enum class Fit { kBeginning, kWhole };
 
-// Whether one of the words of a folded verse is the sought one, or its plural, or begins like it.
+// Whether a folded verse has the word, its plural, or a word that begins with it.
 bool Uses(const std::string& verse, const std::string& sought, Fit fit) {
   for (std::size_t at = verse.find(sought); at != std::string::npos; at = verse.find(sought, at + 1)) {
     std::size_t end = at + sought.size();
@@ -93,7 +91,7 @@ const VerseFinder::Verse* VerseFinder::UseAmongPassages(const Topic& topic) cons
   return first;
 }
 
-// The heading may be told without what stands in brackets: "MARINERS (SAILORS)".
+// A reference may omit what stands in brackets in the heading: "MARINERS (SAILORS)".
 const Topic* VerseFinder::Referred(const std::string& heading) const {
   const auto same = topics_.find(heading);
   if (same != topics_.end()) return same->second;

@@ -1,9 +1,8 @@
-#include "tools/make_data/wording.h"
-
 #include <algorithm>
 #include <array>
 
 #include "base/text/characters.h"
+#include "tools/make_data/dictionary.h"
 
 namespace lectern::make_data {
 
@@ -56,7 +55,7 @@ bool IsSmall(std::string_view word) {
 
 }  // namespace
 
-// Words count where they stand inside a sentence only: at its beginning every word has a capital letter.
+// Only words inside a sentence count: at its beginning every word has a capital letter.
 Wording::Wording(const Version& king_james) {
   std::map<std::string, std::map<std::string, int>> forms;
   for (const Book& book : king_james.books) {

@@ -1,17 +1,52 @@
-#include "tools/make_data/help_topics.h"
+#include "tools/make_data/written_texts.h"
+
+#include <utility>
 
 #include "base/files/record_reader.h"
 #include "base/text/characters.h"
-#include "tools/make_data/book_files.h"
-#include "tools/make_data/written_texts.h"
+#include "tools/make_data/texts.h"
+#include "tools/make_data/version_files.h"
 
 namespace lectern::make_data {
+
+std::vector<TriviaQuestion> ParseTrivia(std::string_view text) {
+  constexpr std::string_view kSign = " | ";
+  std::vector<TriviaQuestion> questions;
+  files::RecordReader lines(text);
+  while (!lines.AtEnd()) {
+    const std::string_view line = lines.Line();
+    if (line.empty() || line.starts_with('#')) continue;
+    const std::size_t answer = line.find(kSign);
+    const std::size_t place = line.rfind(kSign);
+    if (answer == place) throw Obstacle("Not a question of the game: " + std::string(line));
+    questions.push_back({std::string(line.substr(0, answer)),
+                         std::string(line.substr(answer + kSign.size(), place - answer - kSign.size())),
+                         std::string(line.substr(place + kSign.size()))});
+  }
+  return questions;
+}
+
+std::vector<TriviaQuestion> WrittenQuestions() {
+  std::vector<TriviaQuestion> questions;
+  for (const WrittenText& written : kTriviaSources) {
+    for (TriviaQuestion& question : ParseTrivia(written.text)) questions.push_back(std::move(question));
+  }
+  return questions;
+}
+
+std::string TriviaRecords(const std::vector<TriviaQuestion>& questions) {
+  std::string records;
+  for (const TriviaQuestion& question : questions) {
+    records += "\"" + question.question + "\",\"" + question.answer + " (" + question.place + ")\"\r\n";
+  }
+  return records;
+}
 
 namespace {
 
 constexpr std::string_view kBehindParagraph = "\\par\r\n";
 
-// A line with its marks turned into rich text. What is set off ends in the line that it begins in.
+// A line with its markup turned into rich text. Emphasis ends in the line in which it begins.
 std::string Marked(std::string_view text) {
   std::string rich;
   bool bold = false;
@@ -38,7 +73,7 @@ std::string Marked(std::string_view text) {
   return rich;
 }
 
-// Puts the paragraphs of a topic together from its lines.
+// Assembles the paragraphs of a topic from its lines.
 class RichTopic {
  public:
   void Take(std::string_view line) {
@@ -63,7 +98,7 @@ class RichTopic {
   }
 
  private:
-  // In half points; a heading has a line of air above it.
+  // In half points; a heading has a blank line above it.
   void Heading(std::string_view text, int size) {
     EndParagraph();
     if (!rich_.empty()) rich_ += kBehindParagraph;

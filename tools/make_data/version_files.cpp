@@ -1,17 +1,114 @@
-#include "tools/make_data/concordance.h"
+#include "tools/make_data/version_files.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <system_error>
 
+#include "base/files/text_encoding.h"
 #include "base/text/characters.h"
+<<<<<<< HEAD:tools/make_data/concordance.cpp
 #include "forms/text_controls.h"
 #include "tools/make_data/book_files.h"
+=======
+#include "forms/label.h"
+#include "reader/canon.h"
+>>>>>>> a48b4e0 (make-data: fewer, fuller files and plainer words):tools/make_data/version_files.cpp
 #include "ui/headless/driver.h"
 
 namespace lectern::make_data {
+
+namespace fs = std::filesystem;
+
+std::string BookText(const Book& book, const std::string& chapter_remark) {
+  constexpr std::size_t kNumberWidth = 4;
+  const std::string kBehind(7, ' ');
+  std::string text;
+  for (const auto& [number, chapter] : book) {
+    text +=
+        "Chapter " + std::to_string(number) + (chapter_remark.empty() ? "" : " " + chapter_remark) + "\r\n";
+    const int last = chapter.empty() ? 0 : chapter.rbegin()->first;
+    for (int verse = 1; verse <= last; ++verse) {
+      std::string line = std::to_string(verse);
+      line.resize(std::max(line.size() + 1, kNumberWidth), ' ');
+      const auto found = chapter.find(verse);
+      if (found != chapter.end()) line += found->second;
+      text += files::Encode(line + kBehind) + "\r\n";
+    }
+  }
+  return text;
+}
+
+void WriteFile(const std::string& path, const std::string& bytes) {
+  const std::string fresh = path + ".new";
+  std::ofstream file(fresh, std::ios::binary | std::ios::trunc);
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  std::error_code failure;
+  if (file) {
+    fs::rename(fresh, path, failure);
+  } else {
+    failure.assign(errno != 0 ? errno : EIO, std::generic_category());
+  }
+  if (failure) throw Obstacle("The file " + path + " could not be written: " + failure.message() + ".");
+}
+
+void WriteBooks(const Version& version, const std::string& folder, const std::string& prefix) {
+  fs::create_directories(folder);
+  for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
+    if (version.books[i].empty()) continue;
+    const std::string name(reader::kCanon[i]);
+    const std::string text = BookText(version.books[i], version.chapter_remark);
+    WriteFile(folder + "/" + prefix + name + ".txt", text);
+    if (name == "1 Samuel" || name == "2 Samuel") {
+      WriteFile(folder + "/" + prefix + name.substr(0, 1) + "-Samuel.txt", text);
+    }
+  }
+}
+
+void WriteStandIn(const Version& version, const std::string& folder, const std::string& prefix) {
+  Version wanted = version;
+  for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
+    std::ifstream book(folder + "/" + prefix + std::string(reader::kCanon[i]) + ".txt");
+    std::string first_line;
+    if (std::getline(book, first_line) && first_line.find(version.chapter_remark) == std::string::npos) {
+      wanted.books[i].clear();
+    }
+  }
+  WriteBooks(wanted, folder, prefix);
+}
+
+void WriteChapterCounts(const Version& version, const std::string& data_folder) {
+  // The tool reads the books from the data folder itself, by names cut to eight characters, so it gets a
+  // folder of its own.
+  const fs::path bench = fs::path(data_folder) / "making";
+  fs::remove_all(bench);
+  fs::create_directories(bench);
+  for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
+    constexpr std::size_t kShortName = 8;
+    const std::string short_name(reader::kCanon[i].substr(0, kShortName));
+    WriteFile((bench / (short_name + ".txt")).string(), BookText(version.books[i], ""));
+  }
+  std::string complaint;
+  headless::Driver driver(bench.string(),
+                          [&complaint](const std::string& line) { complaint += line + "\n"; });
+  driver.Execute("click! Form1.Command12");
+  std::ifstream made(bench / "bookschap.txt", std::ios::binary);
+  std::string records{std::istreambuf_iterator<char>(made), {}};
+  fs::remove_all(bench);
+  if (records.empty() || !complaint.empty())
+    throw Obstacle("The chapters could not be counted: " + complaint);
+  for (const char* number : {"1", "2"}) {
+    const std::string name = std::string("\"") + number + " Samuel\",";
+    const std::size_t at = records.find(name);
+    const std::string count = records.substr(at + name.size(), records.find('\r', at) - at - name.size());
+    records += std::string("\"") + number + "-Samuel\"," + count + "\r\n";
+  }
+  WriteFile(data_folder + "/bookschap.txt", records);
+}
 
 namespace fs = std::filesystem;
 
@@ -29,7 +126,7 @@ struct Spread {
   const std::string* last_verse = nullptr;
 };
 
-// The words of a verse as the scan finds them: behind a blank, up to the first character that is no letter.
+// The words of a verse as the scan finds them: from a blank to the first character that is not a letter.
 std::vector<std::string> WordsOf(const std::string& verse) {
   std::vector<std::string> words;
   std::string word;
@@ -52,7 +149,7 @@ std::string ReadFile(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// The records of the last word, which stand twice at the end, once.
+// Removes the second copy of the last word's records at the end.
 std::string WithoutRepeatedBlock(const std::string& records, const std::string& last_word) {
   const std::string start = "\"" + last_word + "\",";
   std::size_t first = records.size();
@@ -101,7 +198,7 @@ std::vector<std::string> ConcordanceWords(const Version& version, std::size_t mo
 void BuildConcordance(const std::string& data_folder, const reader::Version& version,
                       const std::vector<std::string>& words,
                       const std::function<void(std::size_t, std::size_t)>& progress) {
-  // The tool makes its files in the folder that it reads the books from: it gets a folder of its own.
+  // The tool writes its files to the folder from which it reads the books, so it gets a folder of its own.
   const fs::path bench = fs::path(data_folder) / "making";
   fs::remove_all(bench);
   fs::create_directories(bench);
@@ -129,8 +226,8 @@ void BuildConcordance(const std::string& data_folder, const reader::Version& ver
   }
   std::string records = WithoutRepeatedBlock(ReadFile(target), words.back());
   if (version.concordance == reader::kVersions[1].concordance) {
-    // The program's own tool cuts the repeated block behind one certain record. It serves where that record
-    // is the true end; a text whose last word goes on behind it keeps the rest.
+    // The program's own tool cuts what follows one certain record, which is right where that record is the
+    // true end; a text whose last word goes on behind it keeps the rest.
     driver.Execute("click! Form1.Command18");
     const std::string cut = ReadFile(bench / "CONCORD22.DAT");
     if (cut.ends_with(kTrueEnd) && records.ends_with(kTrueEnd)) records = cut;
