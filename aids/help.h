@@ -3,7 +3,9 @@
 // how long things take, the pictures how to change the book.
 #pragma once
 
+#include <array>
 #include <string>
+#include <string_view>
 
 #include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
@@ -69,5 +71,19 @@ class Help {
   void LeaveAbout();
   void ShowText(const std::string& text);
 };
+
+// The short help notes that the program carries in itself, and the texts that name its makers. A stored note
+// replaces the text of the help pane; most have no door but their name.
+struct StoredNote {
+  std::string_view routine;  // the name it is called by
+  std::string_view text;
+};
+
+extern const std::array<StoredNote, 13> kStoredNotes;
+
+// The text of the note of that name, which has to be one.
+std::string_view StoredNoteText(std::string_view routine);
+
+extern const std::string_view kAboutText;
 
 }  // namespace lectern::aids

@@ -5,6 +5,8 @@
 // the editor and the note marked as altered; the last version of a saved or deleted note is kept.
 #pragma once
 
+#include <functional>
+
 #include "forms/buttons.h"
 #include "forms/containers.h"
 #include "forms/lists.h"
@@ -12,6 +14,7 @@
 #include "forms/rich_text_box.h"
 #include "forms/text_controls.h"
 #include "forms/window.h"
+#include "reader/tool_buttons.h"
 
 namespace lectern::aids {
 
@@ -85,6 +88,14 @@ class Notes {
   void ShowChooser();
   void HideChooser();
   void ShowTitle();
+};
+
+// The doors of the main window to the notes: the tool button and the menu entry.
+class NotesDoors {
+ public:
+  // `notes` makes the window of the notes where there is none yet.
+  NotesDoors(forms::PictureBox& picp, reader::ToolButtons& tools, forms::Menu& cc0,
+             std::function<Notes&()> notes);
 };
 
 }  // namespace lectern::aids

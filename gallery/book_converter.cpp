@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "base/text/characters.h"
-#include "reader/versions.h"
+#include "reader/books.h"
 
 namespace lectern::gallery {
 

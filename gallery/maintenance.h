@@ -14,7 +14,7 @@
 #include <string>
 
 #include "forms/containers.h"
-#include "gallery/browser.h"
+#include "gallery/viewer.h"
 
 namespace lectern::gallery {
 

@@ -8,20 +8,53 @@
 // no reader's sight.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/files/file_slots.h"
 #include "forms/bars_and_timer.h"
 #include "forms/buttons.h"
 #include "forms/containers.h"
 #include "forms/lists.h"
 #include "forms/picture_box.h"
 #include "forms/text_controls.h"
-#include "gallery/picture_record.h"
 #include "reader/reader.h"
 
 namespace lectern::gallery {
+
+// A record of the picture catalogue: the picture's name, the place it illustrates, and who drew it. The
+// name is the picture's file without folder and ending, and in the catalogue it is all that tells one
+// picture from another; the same name may stand in several records. The third field is a whole credit line.
+struct PictureRecord {
+  std::string name;
+  std::string place;
+  std::string author;
+};
+
+// The next three fields of the file, wherever its lines end; error 62 where it ends before.
+PictureRecord ReadPictureRecord(files::FileSlots& slots, int slot);
+
+void WritePictureRecord(files::FileSlots& slots, int slot, const PictureRecord& record);
+
+// The place that a picture illustrates, as the catalogue writes it: the book's name, a blank, the chapter, a
+// colon, and the verse as free text, which is shown and never read.
+//
+//   Genesis 2: 7
+//
+// A place may be anything that a hand typed. Without a colon all that follows the blank counts as the
+// chapter; a chapter that does not begin with a digit is 0.
+// Whether the place begins with the book's name, letter by letter. A book whose name merely begins so is
+// taken along.
+bool IsInBook(std::string_view place, std::string_view book);
+
+// The chapter of a place in a book whose name has `book_length` characters. A number too large to be one
+// is the largest there is.
+int ChapterOf(std::string_view place, std::size_t book_length);
+
+// The place without its book: "2: 7".
+std::string_view ChapterAndVerse(std::string_view place, std::size_t book_length);
 
 class PictureCatalogue {
   forms::Frame& Frame5_;

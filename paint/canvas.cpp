@@ -80,4 +80,15 @@ void Canvas::imgs_Click(int index) {
   if (index == kBelow && picbox.Height + picbox.Top > Frame6.Height) picbox.Top = picbox.Top - kStep;
 }
 
+void PenSettings::Apply(forms::PictureBox& canvas) const {
+  const base::Ignoring ignore;
+  const auto number = [this](int index) { return text::ToInteger(mde(index).Text()); };
+  ignore([&] { canvas.DrawWidth = number(kDrawWidth); });
+  ignore([&] { canvas.DrawStyle = number(kDrawStyle); });
+  ignore([&] { canvas.FillStyle = number(kFillStyle); });
+  ignore([&] { canvas.DrawMode = number(kDrawMode); });
+  ignore([&] { canvas.FillColor = text::ToLong(mde(kFillColor).Text()); });
+  canvas.ForeColor = clr1.BackColor;
+}
+
 }  // namespace lectern::paint

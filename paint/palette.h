@@ -14,8 +14,8 @@
 #include "forms/picture_box.h"
 #include "forms/text_controls.h"
 #include "gallery/picture_catalogue.h"
-#include "paint/pen_settings.h"
-#include "paint/save_slots.h"
+#include "paint/canvas.h"
+#include "paint/zoom_and_saves.h"
 
 namespace lectern::paint {
 

@@ -5,8 +5,8 @@
 #include "base/errors.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
+#include "reader/books.h"
 #include "reader/canon.h"
-#include "reader/chapter_counts.h"
 
 namespace lectern::reader {
 

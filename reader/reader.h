@@ -27,9 +27,9 @@
 #include "forms/text_controls.h"
 #include "forms/window.h"
 #include "reader/bookmark_record.h"
+#include "reader/books.h"
 #include "reader/chapter_store.h"
 #include "reader/reference.h"
-#include "reader/versions.h"
 
 namespace lectern::reader {
 

@@ -6,18 +6,57 @@
 // unknown style leaves bold and italic alone.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
 
+#include "forms/buttons.h"
 #include "forms/containers.h"
+#include "forms/picture_box.h"
+#include "forms/rich_text_box.h"
 #include "forms/text_controls.h"
-#include "reader/desktop_colour.h"
 #include "reader/reader.h"
-#include "reader/second_pane.h"
 #include "reader/tool_buttons.h"
 
 namespace lectern::reader {
+
+// The colours of the settings panel: a strip of swatches, and whether a click on one colours the main window
+// or the panels. Nothing of it is stored; the next start has the colours of the desktop again.
+class DesktopColour {
+ public:
+  // `coloured` is what the panels' colour goes to.
+  DesktopColour(forms::PictureBox& Picture23, std::vector<forms::PlacedControl*> coloured);
+
+ private:
+  void Swatch_Click(forms::PictureBox& swatch);
+  void ApplyDesktopColour();
+
+  forms::PictureBox& Picture23_;
+  std::vector<forms::PlacedControl*> coloured_;
+  // Colours the panels; set at the start.
+  forms::OptionButton Option2{Picture23_, "Option2", {.caption = "Front Color", .checked = true}};
+  // Colours the window.
+  forms::OptionButton Option3{Picture23_, "Option3", {.caption = "Back Color"}};
+  forms::PictureBox Picture24{Picture23_, "Picture24", {.name = "Colours"}};  // holds the swatches
+  std::deque<forms::PictureBox> swatches_;
+  std::string ChosenColour;  // a colour number as text, signed
+};
+
+// The panel with a second pane of text. Nothing opens it; the font settings keep its pane in step with the
+// first, and its button closes it.
+class SecondPane {
+  forms::PictureBox& Picture4_;
+
+ public:
+  explicit SecondPane(forms::PictureBox& Picture4);
+
+  // The text.
+  forms::RichTextBox RTXT2{Picture4_, "RTXT2", {.name = "Text of the other version", .read_only = true}};
+  forms::Label Label36{Picture4_, "Label36"};  // name of the version
+  // Closes the pane.
+  forms::CommandButton Command34{Picture4_, "Command34", {.caption = "Close", .is_cancel = true}};
+};
 
 class Settings {
   Reader& reader_;

@@ -6,28 +6,23 @@
 
 #include "aids/bookmarks.h"
 #include "aids/help.h"
-#include "aids/notes_doors.h"
-#include "aids/page_printing.h"
+#include "aids/notes.h"
+#include "aids/printing.h"
 #include "gallery/book_converter.h"
-#include "gallery/browser.h"
 #include "gallery/maintenance.h"
 #include "gallery/old_catalogue.h"
-#include "gallery/older_list.h"
 #include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"
-#include "reader/chapter_counts.h"
+#include "reader/books.h"
 #include "reader/reader.h"
-#include "reader/second_pane.h"
 #include "reader/session.h"
 #include "reader/settings.h"
 #include "reader/stories.h"
 #include "reader/tool_buttons.h"
+#include "search/concordance.h"
 #include "search/concordance_builder.h"
-#include "search/concordance_editing.h"
-#include "search/concordance_viewer.h"
 #include "search/dictionary.h"
-#include "search/one_pass_builder.h"
-#include "search/result_navigation.h"
+#include "search/results.h"
 #include "search/text_search.h"
 #include "search/trivia.h"
 #include "ui/menus.h"
@@ -64,7 +59,7 @@ class Form1 : public forms::Window {
   reader::SecondPane second_pane_{panels_.Picture4};
   reader::Settings settings_{reader_,      panels_.Picture23, panels_.Coloured(),
                              second_pane_, menus_.oo11,       tools_};
-  reader::ChapterCounts chapter_counts_{reader_};
+  reader::ChapterCounts chapter_counts_{*this, reader_};
   reader::Stories stories_{reader_, menus_.dd1};
   search::TextSearch text_search_{reader_,      panels_.frms, panels_.frmscale, panels_.Frame2,
                                   panels_.picp, tools_,       menus_.cc3};

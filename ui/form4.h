@@ -4,13 +4,10 @@
 
 #include <functional>
 
-#include "paint/brushes.h"
+#include "paint/brushes_and_saving.h"
 #include "paint/canvas.h"
 #include "paint/palette.h"
-#include "paint/pen_settings.h"
-#include "paint/picture_saving.h"
-#include "paint/save_slots.h"
-#include "paint/zoom.h"
+#include "paint/zoom_and_saves.h"
 
 namespace lectern::ui {
 

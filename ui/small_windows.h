@@ -3,8 +3,7 @@
 #pragma once
 
 #include "aids/notes.h"
-#include "aids/printed_page.h"
-#include "aids/printed_picture.h"
+#include "aids/printing.h"
 
 namespace lectern::ui {
 

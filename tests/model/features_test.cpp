@@ -8,7 +8,7 @@
 #include "base/text/characters.h"
 #include "forms/figures.h"
 #include "forms/rich_text_box.h"
-#include "gallery/place.h"
+#include "gallery/picture_catalogue.h"
 #include "tests/kit/session.h"
 #include "tests/kit/test_window.h"
 #include "ui/quotation.h"

@@ -2,8 +2,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "search/entry.h"
-#include "search/highlight.h"
+#include "search/results.h"
 #include "search/text_scan.h"
 #include "tests/kit/plain_scan.h"
 #include "tests/kit/test_window.h"

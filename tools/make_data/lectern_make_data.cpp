@@ -14,7 +14,7 @@
 #include <unistd.h>
 #include <vector>
 
-#include "reader/versions.h"
+#include "reader/books.h"
 #include "tools/make_data/dictionary.h"
 #include "tools/make_data/paint_files.h"
 #include "tools/make_data/pictures.h"

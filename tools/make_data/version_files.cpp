@@ -10,13 +10,8 @@
 
 #include "base/files/text_encoding.h"
 #include "base/text/characters.h"
-<<<<<<< HEAD:tools/make_data/concordance.cpp
 #include "forms/text_controls.h"
-#include "tools/make_data/book_files.h"
-=======
-#include "forms/label.h"
 #include "reader/canon.h"
->>>>>>> a48b4e0 (make-data: fewer, fuller files and plainer words):tools/make_data/version_files.cpp
 #include "ui/headless/driver.h"
 
 namespace lectern::make_data {

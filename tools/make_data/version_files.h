@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "reader/versions.h"
+#include "reader/books.h"
 #include "tools/make_data/texts.h"
 
 namespace lectern::make_data {

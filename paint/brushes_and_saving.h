@@ -2,12 +2,14 @@
 // shows the size of the dot.
 #pragma once
 
+#include "forms/buttons.h"
 #include "forms/containers.h"
 #include "forms/picture_box.h"
 #include "gallery/picture_catalogue.h"
+#include "gallery/viewer.h"
 #include "paint/canvas.h"
-#include "paint/pen_settings.h"
-#include "paint/save_slots.h"
+#include "paint/palette.h"
+#include "paint/zoom_and_saves.h"
 
 namespace lectern::paint {
 
@@ -39,6 +41,28 @@ class Brushes {
  private:
   void picpbs_Click(int index);
   void ShowPointer(int brush);
+};
+
+// A blank page to begin on, and the way of a painting into the gallery: its file among the pictures, and a
+// record in the catalogue, so that it stands on the strip at once.
+class PictureSaving {
+  Palette& palette_;
+  forms::Window& form_;
+  gallery::PictureCatalogue& gallery_;
+  gallery::Viewer& viewer_;
+  Canvas& canvas_;
+
+ public:
+  PictureSaving(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, gallery::Viewer& the_viewer,
+                Canvas& the_canvas, Palette& palette);
+
+  forms::CommandButton Command5{palette_.Picture1, "Command5", {.caption = "New"}};  // begins a blank page
+  forms::CommandButton Command2{form_, "Command2", {.caption = "Save Picture"}};     // saves the picture
+
+ private:
+  void Command5_Click();
+  void Command2_Click();
+  bool IsInCatalogue(const std::string& name);
 };
 
 }  // namespace lectern::paint

@@ -1,16 +1,40 @@
-// The picture as it was opened, and the last four states that were kept. A state is kept whenever a swatch or
-// a brush is clicked, whether or not anything was painted; going back to one changes none.
+// Three levels of zoom, each a doubling of the one before; level 0 is the picture's own size. Zooming bakes
+// the drawing into the picture and paints it stretched, so that the picture that is saved has the size of the
+// level that stands.
 #pragma once
 
 #include <string>
 
+#include "forms/buttons.h"
 #include "forms/containers.h"
 #include "forms/figures.h"
+#include "forms/text_controls.h"
 #include "paint/canvas.h"
-#include "paint/zoom.h"
 
 namespace lectern::paint {
 
+class Zoom {
+  forms::Window& form_;
+  Canvas& canvas_;
+
+ public:
+  Zoom(forms::Window& form, Canvas& the_canvas);
+
+  // In, out.
+  forms::ControlArray<forms::SSCommand> cmdm{form_,
+                                             "cmdm",
+                                             {{.caption = "      +", .name = "Zoom in"},
+                                              {.caption = "      -", .enabled = false, .name = "Zoom out"}}};
+  forms::TextBox txt5{form_, "txt5", {.text = "0", .name = "Zoom level"}};  // the level
+  forms::Image picbox2{form_, "picbox2", {.visible = false}};               // the size that comes next
+
+ private:
+  bool IsTooLargeToDouble() const;
+  void cmdm_Click(int index);
+};
+
+// The picture as it was opened, and the last four states that were kept. A state is kept whenever a swatch or
+// a brush is clicked, whether or not anything was painted; going back to one changes none.
 class SaveSlots {
   forms::Window& form_;
   Canvas& canvas_;

@@ -1,12 +1,30 @@
-#include "reader/chapter_counts.h"
+#include "reader/books.h"
 
 #include "base/errors.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
+#include "forms/window.h"
 #include "reader/canon.h"
 #include "reader/reader.h"
 
 namespace lectern::reader {
+
+VersionOptions::VersionOptions(forms::Window& form) {
+  for (const Version& version : kVersions) {
+    options.emplace_back(form, version.option,
+                         forms::OptionDesign{.name = version.name, .checked = options.empty()});
+  }
+  for (const Version& version : kVersions) {
+    labels_.emplace_back(form, version.option_label, forms::LabelDesign{.caption = version.label});
+  }
+}
+
+const Version& VersionOptions::Current() const {
+  for (std::size_t i = 0; i + 1 < kVersions.size(); ++i) {
+    if (options[i].Value) return kVersions[i];
+  }
+  return kVersions.back();
+}
 
 namespace {
 
@@ -31,13 +49,13 @@ std::optional<int> ChapterCount(forms::Window& form, std::string_view path, std:
   return found;
 }
 
-ChapterCounts::ChapterCounts(Reader& the_reader) : reader_(the_reader) {
+ChapterCounts::ChapterCounts(forms::Window& form, Reader& the_reader) : form_(form), reader_(the_reader) {
   Command12.Click = [this] { Command12_Click(); };
 }
 
 // Reads from the data folder itself and by names cut to eight characters, unlike every other reader.
 void ChapterCounts::Command12_Click() {
-  files::FileSlots& slots = reader_.form.Slots();
+  files::FileSlots& slots = form_.Slots();
   for (int i = 0; i < reader_.lst.ListCount(); ++i) {
     const std::string& name = reader_.lst.List(i);
     int count = 0;

@@ -1,10 +1,28 @@
-#include "search/entry.h"
+#include "search/results.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "base/text/characters.h"
 
 namespace lectern::search {
+
+ResultNavigation::ResultNavigation(reader::Reader& the_reader, forms::Frame& frmc, TextSearch& the_search)
+    : frmc_(frmc), reader_(the_reader), search_(the_search) {
+  search_.lsts.Click = [this] { lsts_Click(); };
+}
+
+void ResultNavigation::lsts_Click() {
+  const int selected = search_.lsts.SelectedIndex();
+  if (selected >= 0) LBLCC.Caption = search_.lsts.List(selected);
+  reader_.List1.Clear();
+  const std::optional<Entry> entry = ParseEntry(LBLCC.Caption());
+  if (!entry) return;
+  reader_.ShowFoundPassage(entry->book_with_blank, entry->chapter);
+  search_.lsts.MousePointer = forms::kPointerDefault;
+  HighlightText(reader_.rtxt, search_.txts.Text(), kMarkColour);
+  if (search_.txts2.Text != "") HighlightText(reader_.rtxt, search_.txts2.Text(), kMarkColour);
+}
 
 namespace {
 
@@ -39,6 +57,22 @@ std::optional<Entry> ParseConcordanceReference(std::string_view text) {
   if (blank == std::string::npos) return std::nullopt;
   CutVerse(*entry, blank);
   return entry;
+}
+
+int HighlightText(forms::RichTextBox& pane, std::string_view term, forms::Colour colour) {
+  const std::size_t length = text::Length(term);
+  std::vector<std::size_t> places;
+  std::size_t position = 0;
+  while (true) {
+    const int found = pane.Find(term, static_cast<int>(position), forms::kFindNoHighlight);
+    // ODDITY(first-character): a term at the very first character is not coloured, and ends the colouring
+    // of all the others.
+    if (found <= 0) break;
+    places.push_back(static_cast<std::size_t>(found));
+    position = places.back() + length;
+  }
+  pane.ColourPlaces(places, length, colour);
+  return static_cast<int>(places.size());
 }
 
 }  // namespace lectern::search
