@@ -15,10 +15,9 @@
 #include <functional>
 #include <vector>
 
-#include "ui/desktop/app/application.h"
 #include "ui/desktop/app/desktop.h"
 #include "ui/desktop/app/theme.h"
-#include "ui/desktop/views/accessible.h"
+#include "ui/desktop/views/painted_widget.h"
 
 namespace {
 
@@ -161,8 +160,8 @@ int main(int /*argc*/, char** arguments) {
   lectern::desktop::PrepareApplication();
   int only_the_name = 1;
   QApplication application(only_the_name, arguments);
-  lectern::desktop::Dress();
-  lectern::desktop::TellScreenReaders();
+  lectern::desktop::ApplyTheme();
+  lectern::desktop::DescribePaintedWidgets();
   lectern::desktop::Desktop desktop(std::filesystem::current_path().string());
   constexpr int kUntilItStands = 500;  // milliseconds
   QTimer::singleShot(kUntilItStands, [] {

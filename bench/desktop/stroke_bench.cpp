@@ -43,10 +43,6 @@ class PaintWindow {
     }
     Send(QEvent::MouseButtonPress, {0, 0}, Qt::LeftButton);
   }
-  ~PaintWindow() {
-    for (const auto& view : views_) view->Abandon();
-  }
-
   QWidget& Canvas() { return *canvas_; }
 
   // The mouse moves, at places that are seen through the viewport.
@@ -109,7 +105,7 @@ BENCHMARK(PaintTheWholeCanvas)->ArgName("zoom")->Arg(0)->Arg(2)->Unit(benchmark:
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
-  desktop::Dress();
+  desktop::ApplyTheme();
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
 }

@@ -132,7 +132,7 @@ def start_again(menu, screen, first, home):
     is_in_front(first)
 
     keeper = menu.click("lectern-keeper")
-    screen.find_beginning("label", "Lectern is open on this folder already, without the keeper's tools")
+    screen.find_beginning("label", "Lectern is already open on this folder, without the keeper's tools")
     press(screen, "OK")
     expect("the keeper cannot start", end_of(keeper) == 1)
 

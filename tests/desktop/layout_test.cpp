@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "ui/desktop/layout/fitted_face.h"
-#include "ui/desktop/layout/reading_order.h"
+#include "ui/desktop/layout/places.h"
 
 namespace lectern::desktop {
 namespace {

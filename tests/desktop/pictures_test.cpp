@@ -55,10 +55,10 @@ TEST(Pictures, ShowThemselvesSmallWithoutTheirPixels) {
   const forms::Picture picture = Decode(Jpeg(false));
   EXPECT_EQ(picture.Width(), kWidth);
   EXPECT_EQ(picture.Height(), kHeight);
-  const QImage before = Filled(picture, {20, 30}).toImage();
+  const QImage before = Scaled(picture, {20, 30}).toImage();
   EXPECT_NE(picture.Source(), nullptr);
   EXPECT_EQ(picture->At(0, 0) & 0xFF, 0xFEU);  // red, from here on from its pixels
-  const QImage after = Filled(picture, {20, 30}).toImage();
+  const QImage after = Scaled(picture, {20, 30}).toImage();
   EXPECT_EQ(picture.Source(), nullptr);
   for (const QImage& image : {before, after}) {
     ASSERT_EQ(image.size(), QSize(20, 30));
@@ -89,7 +89,7 @@ TEST(Pictures, AreRefusedAtOnceOrNotAtAll) {
       ASSERT_TRUE(picture || !good) << "round " << round;
       ++(picture ? taken : refused);
       if (!picture) continue;
-      ASSERT_FALSE(Filled(picture, {20, 30}).isNull()) << "round " << round;
+      ASSERT_FALSE(Scaled(picture, {20, 30}).isNull()) << "round " << round;
       ASSERT_EQ(picture->Width(), picture.Width()) << "round " << round;
     }
   }

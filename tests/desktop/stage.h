@@ -26,7 +26,7 @@ class Stage : public testing::Test {
     };
     events.settled = [this] {
       if (view) view->Settle();
-      timers.Reckon();
+      timers.Update();
     };
     view = std::make_unique<WindowView>(*window, events, [this](forms::Window&) { close(); });
     timers.Watch(*window);
@@ -36,17 +36,13 @@ class Stage : public testing::Test {
     Do([this] { window->Visible = true; });
     EXPECT_TRUE(QTest::qWaitForWindowActive(view->Frame()));
   }
-  ~Stage() override {
-    LetGo();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // the view goes before its events
-  }
+  ~Stage() override { LetGo(); }
 
   // As the program lets a window go.
   void LetGo() {
     if (!window) return;
     timers.Forget(*window);
-    view->Abandon();
-    view.release()->deleteLater();
+    view.reset();
     window.reset();
   }
 

@@ -1,14 +1,77 @@
 #include "ui/desktop/app/desktop.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <algorithm>
+#include <cassert>
+#include <clocale>
+#include <filesystem>
 #include <utility>
 
-#include "ui/desktop/app/doorbell.h"
-#include "ui/desktop/app/icon.h"
+#include "ui/desktop/app/one_program.h"
 #include "ui/desktop/app/theme.h"
+#include "ui/desktop/views/painted_widget.h"
 
 namespace lectern::desktop {
+
+namespace {
+
+// How the two programs answer one that is started on their folder.
+constexpr const char* kReaderProgram = "reader";
+constexpr const char* kKeeperProgram = "keeper";
+
+// Places are measured for fonts at 96 dots an inch. Where a person has set more dots for fonts, the whole
+// window grows with them.
+void ScaleWithFonts() {
+  constexpr double kDotsPerInch = 96;
+  const double dots = qEnvironmentVariable("QT_FONT_DPI").toDouble();
+  if (dots <= 0) return;
+  const double factor = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble();
+  qputenv("QT_SCALE_FACTOR", QByteArray::number((factor > 0 ? factor : 1) * dots / kDotsPerInch));
+  qputenv("QT_FONT_DPI", QByteArray::number(kDotsPerInch));
+  qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");  // the fonts' dots already include the screen's
+}
+
+}  // namespace
+
+void PrepareApplication() {
+  QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+  QApplication::setApplicationName("lectern");
+  QApplication::setDesktopFileName("lectern");
+  QApplication::setQuitOnLastWindowClosed(false);
+  ScaleWithFonts();
+}
+
+int RunApplication(char** arguments, const std::vector<std::string>& bench) {
+  const QByteArray token = TakeActivationToken();
+  PrepareApplication();
+  int only_the_name = 1;
+  QApplication application(only_the_name, arguments);
+  std::setlocale(LC_NUMERIC, "C");  // numbers in files have the same form everywhere
+  ApplyTheme();
+
+  const std::string folder = std::filesystem::current_path().string();
+  const QString name = bench.empty() ? kReaderProgram : kKeeperProgram;
+  OneProgram one_program(folder, name);
+  switch (one_program.Claim(folder, token)) {
+    case OneProgram::Outcome::kSilent:
+      return 1;
+    case OneProgram::Outcome::kAnswered:
+      // The keeper's program has everything that the reader's has.
+      if (name != kKeeperProgram || one_program.Answer() == name) return 0;
+      QMessageBox::information(nullptr, "Lectern 2",
+                               "Lectern is already open on this folder, without the keeper's tools:\n\n" +
+                                   QString::fromStdString(folder) +
+                                   "\n\nClose it, then start the keeper's program again.");
+      return 1;
+    case OneProgram::Outcome::kOurs:
+      break;
+  }
+  DescribePaintedWidgets();
+  Desktop desktop(folder, bench);
+  one_program.Listen([&desktop] { desktop.ComeToFront(); });
+  return desktop.Run();
+}
 
 Desktop::Desktop(std::string data_folder, std::vector<std::string> bench)
     : files_(std::move(data_folder)),
@@ -25,9 +88,10 @@ Desktop::Desktop(std::string data_folder, std::vector<std::string> bench)
   };
   events_.settled = [this] { Settle(); };
   QObject::connect(qApp, &QApplication::focusChanged, &receiver_, [this](QWidget*, QWidget* now) {
-    if (now != nullptr) used_last_ = now->window();
+    if (now == nullptr) return;
+    used_last_ = now->window();
     for (const auto& window : windows_) {
-      if (now != nullptr && window->Frame() == now->window()) return window->FocusArrived();
+      if (window->Frame() == now->window()) return window->FocusArrived();
     }
   });
 }
@@ -40,16 +104,17 @@ void Desktop::JoinWindows() {
         window, events_, [this](forms::Window& closed) { program_.Close(closed); }));
     timers_.Watch(window);
   };
-  program_.windows.let_go = [this](forms::Window& window) {
-    timers_.Forget(window);
-    const auto found = std::find_if(windows_.begin(), windows_.end(),
-                                    [&window](const auto& view) { return view->IsOf(window); });
-    if (found == windows_.end()) return;
-    // One of its own widgets may be at work at this very moment.
-    (*found)->Abandon();
-    found->release()->deleteLater();
-    windows_.erase(found);
-  };
+  program_.windows.let_go = [this](forms::Window& window) { LetGo(window); };
+}
+
+void Desktop::LetGo(const forms::Window& window) {
+  timers_.Forget(window);
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [&window](const auto& view) { return view->IsOf(window); });
+  assert(found != windows_.end());
+  // Destroying widgets moves the focus, and then the list must be whole.
+  const std::unique_ptr<WindowView> closed = std::move(*found);
+  windows_.erase(found);
 }
 
 void Desktop::JoinPlatform() {
@@ -59,15 +124,20 @@ void Desktop::JoinPlatform() {
     return FrontFrame();
   };
   platform_.with_face = [this](forms::Window& window, const std::function<void(QWidget&)>& print) {
-    const QPalette theme = QApplication::palette();
-    const bool is_dark = IsDark(theme.color(QPalette::Base));
-    if (is_dark) QApplication::setPalette(OwnPalette());
-    events_.ShowAll();
-    for (const auto& view : windows_) {
-      if (view->IsOf(window)) print(view->Face());
-    }
-    if (is_dark) QApplication::setPalette(theme);
+    PrintFace(window, print);
   };
+}
+
+// Paper is light, whatever the theme.
+void Desktop::PrintFace(const forms::Window& window, const std::function<void(QWidget&)>& print) {
+  const QPalette theme = QApplication::palette();
+  const bool is_dark = IsDark(theme.color(QPalette::Base));
+  if (is_dark) QApplication::setPalette(OwnPalette());
+  events_.ShowAll();
+  for (const auto& view : windows_) {
+    if (view->IsOf(window)) print(view->Face());
+  }
+  if (is_dark) QApplication::setPalette(theme);
 }
 
 QWidget* Desktop::FrontFrame() const {
@@ -82,7 +152,7 @@ void Desktop::ComeToFront() {
   QWidget* front = QApplication::activeModalWidget();
   if (front == nullptr && used_last_ != nullptr && used_last_->isVisible()) front = used_last_;
   if (front == nullptr) front = FrontFrame();
-  if (front != nullptr) ComeForward(*front);
+  if (front != nullptr) BringToFront(*front);
 }
 
 bool Desktop::Start() {
@@ -93,26 +163,26 @@ bool Desktop::Start() {
 
 int Desktop::Run() {
   if (!Start()) return program_.Status();
-  // A mark in the title bar is no reason to keep the reader from the text.
-  constexpr int kWhenTextIsThere = 200;  // milliseconds
-  QTimer::singleShot(kWhenTextIsThere, [] { QApplication::setWindowIcon(ProgramIcon()); });
+  // Loading the icon can wait until the text is on the screen.
+  constexpr int kUntilTextIsShown = 200;  // milliseconds
+  QTimer::singleShot(kUntilTextIsShown, [] { QApplication::setWindowIcon(ProgramIcon()); });
   return QApplication::exec();
 }
 
-// The main window is the first that the program makes, and stands until it ends.
+// The main window is the first that the program makes, and stays until the program ends.
 void Desktop::ShowBench() {
   bench_ = std::make_unique<BenchView>(*program_.windows.All().front(), *windows_.front(), bench_controls_);
 }
 
 void Desktop::Settle() {
-  if (program_.HasEnded()) return Leave();
-  // Settling a window may deliver an event, and that one make or end others.
+  if (program_.HasEnded()) return End();
+  // Settling a window may deliver an event that makes another one.
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->Settle();
   if (bench_) bench_->Settle();
-  timers_.Reckon();
+  timers_.Update();
 }
 
-void Desktop::Leave() {
+void Desktop::End() {
   for (const auto& window : windows_) {
     if (window->Frame() != nullptr) window->Frame()->hide();
   }

@@ -1,5 +1,5 @@
-// The program with its face: owns the program, shows its windows, brings in what a person does and gives the
-// timers their ticks, until the program ends.
+// The desktop program: owns the windows of `ui::Program` on the screen, brings in what a person does, and
+// ticks the timers until the program ends.
 #pragma once
 
 #include <QObject>
@@ -18,19 +18,28 @@
 
 namespace lectern::desktop {
 
+// Settings of every program with a window.
+// Requires: there is no QApplication yet.
+void PrepareApplication();
+
+// Runs the program in the current folder and returns its exit status. Where a program is already open on that
+// folder, that one comes to the front and this one ends. `bench` names controls off the main window that are
+// shown in a window of their own.
+int RunApplication(char** arguments, const std::vector<std::string>& bench);
+
 class Desktop {
  public:
-  // An application must stand. The controls named in `bench` are shown in a second window.
+  // Requires: there is a QApplication.
   explicit Desktop(std::string data_folder, std::vector<std::string> bench = {});
   ~Desktop();
 
-  // Starts the program and stays until it ends; the exit status.
+  // Starts the program, waits until it ends, and returns its exit status.
   int Run();
 
-  // The first half of it: whether there is anything to stay for.
+  // The first half of Run. Returns false where the program has ended at once.
   bool Start();
 
-  // Brings the window that was used last, or the box that waits for an answer, before whatever covers it.
+  // Raises the window that was used last, or the box that waits for an answer.
   void ComeToFront();
 
   ui::Program& Program() { return program_; }
@@ -39,9 +48,11 @@ class Desktop {
  private:
   void JoinWindows();
   void JoinPlatform();
+  void LetGo(const forms::Window& window);
+  void PrintFace(const forms::Window& window, const std::function<void(QWidget&)>& print);
   void ShowBench();
   void Settle();
-  void Leave();
+  void End();
   QWidget* FrontFrame() const;
 
   DesktopPlatform platform_;
@@ -53,7 +64,7 @@ class Desktop {
   std::vector<std::string> bench_controls_;
   std::unique_ptr<BenchView> bench_;
   QPointer<QWidget> used_last_;
-  QObject receiver_;  // of signals that outlive nothing here
+  QObject receiver_;  // of signals; goes first, so that none arrives while the rest is destroyed
 };
 
 }  // namespace lectern::desktop

@@ -1,5 +1,6 @@
 #include "ui/desktop/app/events.h"
 
+#include <QThread>
 #include <algorithm>
 #include <utility>
 
@@ -7,20 +8,18 @@ namespace lectern::desktop {
 
 namespace {
 
-// While ticks follow one another they are shown at this distance, in milliseconds: about sixty times a
-// second.
-constexpr int kBetweenPictures = 16;
+// While ticks follow one another, the screen is updated about sixty times a second.
+constexpr int kBetweenFrames = 16;  // milliseconds
 
 }  // namespace
 
 LayerView::~LayerView() {
-  if (stale_)
-    std::replace(events_.stale_.begin(), events_.stale_.end(), this, static_cast<LayerView*>(nullptr));
+  if (!stale_) return;
+  std::replace(events_.stale_.begin(), events_.stale_.end(), this, static_cast<LayerView*>(nullptr));
 }
 
 void LayerView::Changed() {
-  if (std::exchange(stale_, true)) return;
-  events_.stale_.push_back(this);
+  if (!std::exchange(stale_, true)) events_.stale_.push_back(this);
 }
 
 Events::Events(Carry carry) : starting([] {}), settled([] {}), carry_(std::move(carry)) {
@@ -44,6 +43,15 @@ void Events::Run(const std::function<void()>& work) {
   Settle();
 }
 
+void Events::RunLater(const std::function<void()>& work) {
+  QTimer::singleShot(0, &soon_, [this, work] {
+    // A nested loop that is no event's, such as that of a drag, has widgets in its hands.
+    if (QThread::currentThread()->loopLevel() <= 1) return Run(work);
+    constexpr int kPause = 20;  // milliseconds
+    QTimer::singleShot(kPause, &soon_, [this, work] { RunLater(work); });
+  });
+}
+
 void Events::DeliverTicks(const std::function<Ticking()>& ticks) {
   if (at_work_) return;
   at_work_ = true;
@@ -51,21 +59,20 @@ void Events::DeliverTicks(const std::function<Ticking()>& ticks) {
   const Ticking ticking = ticks();
   at_work_ = false;
   const qint64 elapsed = since_shown_.elapsed();
-  if (ticking == Ticking::kPauses || elapsed >= kBetweenPictures) {
+  if (ticking == Ticking::kPauses || elapsed >= kBetweenFrames) {
     Settle();
   } else if (!soon_.isActive()) {
-    soon_.start(kBetweenPictures - static_cast<int>(elapsed));
+    soon_.start(kBetweenFrames - static_cast<int>(elapsed));
   }
 }
 
 void Events::ShowAll() {
   const bool was_at_work = std::exchange(at_work_, true);
-  // Refreshing a panel may bring more views into being, which join at the end.
+  // Refreshing a panel may make more views, which join at the end.
   for (std::size_t i = 0; i < stale_.size(); ++i) {
-    LayerView* const view = stale_[i];
+    LayerView* const view = std::exchange(stale_[i], nullptr);
     if (view == nullptr) continue;
     view->stale_ = false;
-    stale_[i] = nullptr;
     view->Refresh();
   }
   stale_.clear();

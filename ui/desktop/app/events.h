@@ -1,9 +1,9 @@
-// How what a person does comes in, and how what came of it goes out.
+// How events come in and how their results go out.
 //
-// One event is delivered at a time and runs to its end; whatever turns up meanwhile, be it from a nested
-// loop of a modal box or the echo of a widget that is being brought up to date, is not an act of the person
-// and is dropped. Views whose controls changed are only noted while an event runs, and are shown once when it
-// has ended: what stood for a moment never reaches the screen.
+// One event is delivered at a time and runs to its end. What arrives meanwhile, from the nested loop of a
+// modal box or as the echo of a widget that is being updated, is not an act of the person and is dropped.
+// While an event runs, views only note that their controls have changed; they are updated once when it has
+// ended, so that states in between never reach the screen.
 #pragma once
 
 #include <QElapsedTimer>
@@ -17,7 +17,7 @@ namespace lectern::desktop {
 
 class Events;
 
-// Something on the screen that shows a control or a window, and is brought up to date between events.
+// Something on the screen that shows a control or a window, and is updated between events.
 class LayerView : public forms::View {
  public:
   explicit LayerView(Events& events) : events_(events) {}
@@ -25,7 +25,7 @@ class LayerView : public forms::View {
 
   void Changed() override;
 
-  // Brings the screen into the state of the model.
+  // Shows the present state of the model.
   virtual void Refresh() = 0;
 
  protected:
@@ -39,31 +39,36 @@ class LayerView : public forms::View {
 
 class Events {
  public:
-  // Carries out an event of a window; a failure in it has been dealt with when this returns.
+  // Runs an event of a window. A failure in it has been dealt with when this returns.
   using Carry = std::function<void(forms::Window&, const std::function<void()>&)>;
 
   explicit Events(Carry carry);
 
+  // Runs an event of a window, then shows its results.
   void Deliver(forms::Window& window, const std::function<void()>& event);
 
-  // The same for work that carries out its events itself.
+  // The same for work that runs its events itself.
   void Run(const std::function<void()>& work);
 
-  // Ticks of timers, which deal with failures themselves. Where many follow one another, what they changed is
-  // shown as often as a screen can.
+  // The same, once Qt has finished with the event at hand and every nested loop has ended. Only such work may
+  // destroy a window: until then its widgets are still in use.
+  void RunLater(const std::function<void()>& work);
+
+  // Ticks of timers, which deal with failures themselves. While they follow one another at once, their
+  // results are shown only as often as a screen can.
   enum class Ticking { kGoesOnAtOnce, kPauses };
   void DeliverTicks(const std::function<Ticking()>& ticks);
 
-  // Whether an event, a box that it opened, or the showing of its results is at work.
+  // Whether an event runs, a box that it opened is up, or its results are being shown.
   bool AtWork() const { return at_work_; }
 
-  // Brings all views that are behind up to date: at the end of an event, and before a box opens.
+  // Updates all views whose controls have changed: at the end of an event, and before a box opens.
   void ShowAll();
 
-  // Runs ahead of an event: what the person did that is no event of its own is brought in.
+  // Called ahead of an event, to take over what the person did without one, such as selecting text.
   std::function<void()> starting;
 
-  // Runs when an event has ended and what came of it is shown.
+  // Called when an event has ended and its results are shown.
   std::function<void()> settled;
 
  private:

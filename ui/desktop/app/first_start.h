@@ -1,9 +1,9 @@
-// The first start from the menu: makes the person's own data folder with `lectern-make-data`, shows how far
-// that is, and says what is wrong where it fails.
+// The first start from the menu: makes the person's own data folder with `lectern-make-data`, shows its
+// progress, and says what is wrong where it fails.
 //
-// The folder is made under another name beside its own and renamed when it is whole, so that a folder that is
-// there is a good one, whatever happened while it was made. Starts at the same time are one: the second
-// brings the window of the first forward.
+// The folder is made under another name beside its own and renamed when it is complete, so that a folder that
+// exists is a good one, whatever happened meanwhile. Of several starts at the same time one makes it, and the
+// others bring its window to the front.
 #pragma once
 
 #include <QByteArray>
@@ -15,44 +15,47 @@
 #include <filesystem>
 #include <string>
 
-#include "ui/desktop/app/folder_lock.h"
+#include "ui/desktop/app/one_program.h"
 
 namespace lectern::desktop {
 
-// Where the folder of the person who runs this lies.
+// The data folder of the person who runs this.
 std::string OwnFolder();
 
 // Whether the program's texts are in the folder.
 bool HoldsTexts(const std::string& folder);
 
-// A program of this installation: beside this one where it lies there, else as the host finds it.
+// The path of a program of this installation: in this program's folder where it is there, else searched as
+// usual.
 std::string ProgramPath(const std::string& name);
 
 class FirstStart : public QDialog {
  public:
-  // An application must stand. The tool is the path of `lectern-make-data`.
+  // `tool` is the path of `lectern-make-data`.
+  // Requires: there is a QApplication.
   FirstStart(std::string folder, std::string tool);
 
   enum class Outcome {
-    kThere,
-    kElsewhere,  // another start makes it, and has come forward
-    kNot,        // it cannot be made, or the person gave up
+    kReady,
+    kElsewhere,  // another start is making it, and came to the front
+    kFailed,     // it cannot be made, or the person gave up
   };
 
-  // Stays until that is settled.
-  Outcome Run(const QByteArray& leave);
+  // Returns when that is settled.
+  Outcome Run(const QByteArray& token);
 
  private:
-  bool Make();
-  void Finish(int status, QProcess::ExitStatus end);
+  void BuildWindow();
+  bool Begin();
+  void End(int status, QProcess::ExitStatus end);
   void ShowProgress();
-  QString PutInPlace();
-  bool TryAgain();
+  void Fail(const QString& obstacle);
+  bool OffersRetry();
 
   const std::filesystem::path folder_;
   const std::filesystem::path unfinished_;  // the folder while it is being made
   const std::string tool_;
-  FolderLock lock_;
+  OneProgram one_program_;
   QProcess maker_;
   QString obstacle_;
   QLabel step_;

@@ -1,35 +1,128 @@
 #include "ui/desktop/app/one_program.h"
 
+#include <QCryptographicHash>
 #include <QDir>
+#include <QLocalSocket>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <QThread>
-
-#include "ui/desktop/app/doorbell.h"
+#include <cassert>
+#include <cerrno>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/file.h>
+#include <system_error>
+#include <utility>
 
 namespace lectern::desktop {
 
-Arrival ArriveAt(const std::string& folder, const std::string& locked, FolderLock& lock,
-                 const QByteArray& leave) {
+namespace {
+
+constexpr const char* kActivationToken = "XDG_ACTIVATION_TOKEN";
+
+// A name made from the folder's path, in the person's own run-time folder, so that neither folders nor
+// persons get in each other's way.
+QString SocketOf(const std::string& folder) {
+  std::error_code failure;
+  const std::filesystem::path canonical = std::filesystem::weakly_canonical(folder, failure);
+  const QByteArray path = QByteArray::fromStdString(failure ? folder : canonical.string());
+  const QByteArray hash = QCryptographicHash::hash(path, QCryptographicHash::Sha256).toHex().left(16);
+  return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + "/lectern-" +
+         QString::fromLatin1(hash);
+}
+
+void ReportSilence(const std::string& folder) {
+  QMessageBox::warning(
+      nullptr, "Lectern 2",
+      "Lectern is already open on this folder, but does not answer:\n\n" +
+          QDir::toNativeSeparators(QString::fromStdString(folder)) +
+          "\n\nTwo programs would overwrite each other's files. Close the first one, or ask the "
+          "person who started it to do so, and start again.");
+}
+
+}  // namespace
+
+QByteArray TakeActivationToken() {
+  const QByteArray token = qgetenv(kActivationToken);
+  return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
+}
+
+void BringToFront(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+OneProgram::OneProgram(std::string folder, QString name)
+    : folder_(std::move(folder)), name_(std::move(name)) {}
+
+OneProgram::Outcome OneProgram::Claim(const std::string& locked, const QByteArray& token) {
   constexpr int kPatience = 5000;  // milliseconds
   constexpr int kPause = 50;
   const QDeadlineTimer patience(kPatience);
   for (;;) {
-    const FolderLock::Outcome outcome = lock.Take(locked);
-    if (outcome == FolderLock::Outcome::kOurs) return {true, {}};
-    const std::optional<QString> answer = Ring(folder, leave, patience);
-    if (answer) return {false, answer};
-    if (outcome == FolderLock::Outcome::kUnknown) return {true, {}};
-    if (patience.hasExpired()) return {false, {}};
+    const Lock lock = TryLock(locked);
+    if (lock == Lock::kTaken) return Outcome::kOurs;
+    if (Call(token, patience)) return Outcome::kAnswered;
+    // Some file systems have no locks; nobody answers, so nobody is there.
+    if (lock == Lock::kUnknown) return Outcome::kOurs;
+    if (patience.hasExpired()) break;
     QThread::msleep(kPause);
   }
+  ReportSilence(folder_);
+  return Outcome::kSilent;
 }
 
-void TellOfSilence(const std::string& folder) {
-  QMessageBox::warning(nullptr, "Lectern 2",
-                       "Lectern is open on this folder already, but does not answer:\n\n" +
-                           QDir::toNativeSeparators(QString::fromStdString(folder)) +
-                           "\n\nTwo programs would lose what the other writes. End the first one, or have "
-                           "whoever started it do so, and start again.");
+OneProgram::Lock OneProgram::TryLock(const std::string& locked) {
+  files::Descriptor folder(::open(locked.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!folder.IsOpen()) return Lock::kUnknown;
+  if (::flock(folder.Number(), LOCK_EX | LOCK_NB) != 0) {
+    return errno == EWOULDBLOCK ? Lock::kHeldByOther : Lock::kUnknown;
+  }
+  lock_ = std::move(folder);
+  return Lock::kTaken;
+}
+
+// One try; whether another program answered.
+bool OneProgram::Call(const QByteArray& token, const QDeadlineTimer& patience) {
+  const auto remaining = [&patience] { return static_cast<int>(patience.remainingTime()); };
+  QLocalSocket line;
+  line.connectToServer(SocketOf(folder_));
+  if (!line.waitForConnected(remaining())) return false;
+  line.write(token + '\n');
+  while (!line.canReadLine()) {
+    if (!line.waitForReadyRead(remaining())) return false;
+  }
+  answer_ = QString::fromUtf8(line.readLine().trimmed());
+  return true;
+}
+
+void OneProgram::Listen(std::function<void()> come_forward) {
+  assert(!server_.isListening());
+  come_forward_ = std::move(come_forward);
+  const QString socket = SocketOf(folder_);
+  QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { AnswerCallers(); });
+  server_.setSocketOptions(QLocalServer::UserAccessOption);
+  QLocalServer::removeServer(socket);  // one that a crash left behind
+  server_.listen(socket);
+}
+
+void OneProgram::AnswerCallers() {
+  while (QLocalSocket* const caller = server_.nextPendingConnection()) {
+    QObject::connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
+    const auto answer = [this, caller] {
+      if (!caller->canReadLine()) return;
+      // The windowing system's layer reads it there when a window asks to come to the front.
+      const QByteArray token = caller->readLine().trimmed();
+      if (!token.isEmpty()) qputenv(kActivationToken, token);
+      come_forward_();
+      caller->write(name_.toUtf8() + '\n');
+      caller->disconnectFromServer();
+    };
+    QObject::connect(caller, &QLocalSocket::readyRead, caller, answer);
+    answer();
+  }
 }
 
 }  // namespace lectern::desktop

@@ -19,8 +19,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// Which decoder the first bytes call for; nullptr for none. Asking Qt instead would load every decoder that
-// the desktop has.
+// The decoder for a file that begins with these bytes; nullptr for none. Qt would load every decoder of the
+// desktop to find out.
 const char* FormatOf(std::string_view bytes) {
   constexpr std::pair<std::string_view, const char*> kBeginnings[] = {
       {"\xFF\xD8\xFF"sv, "jpeg"}, {"\x89PNG\r\n\x1A\n"sv, "png"}, {"GIF8"sv, "gif"}, {"BM"sv, "bmp"},
@@ -32,7 +32,7 @@ const char* FormatOf(std::string_view bytes) {
   return nullptr;
 }
 
-// The pixels of a JPEG, which Qt has as red, green, blue from the top bits down, as the program has them.
+// Copies the pixels of a JPEG, which Qt holds as red, green, blue from the top bits down.
 void CopyOpaque(const QImage& image, forms::Bitmap& bitmap) {
   for (int y = 0; y < image.height(); ++y) {
     const auto* const from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
@@ -57,10 +57,10 @@ forms::Bitmap BitmapOf(QImage image) {
   return bitmap;
 }
 
-// Reads bytes that stay where they are; what has a gigabyte of pixels and more is not read.
-class Reader {
+// Reads a picture from bytes that stay where they are. Refuses one with more than a gigabyte of pixels.
+class PictureReader {
  public:
-  Reader(std::string_view bytes, const char* format)
+  PictureReader(std::string_view bytes, const char* format)
       : held_(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()))),
         buffer_(&held_),
         reader_(&buffer_, format) {
@@ -76,22 +76,21 @@ class Reader {
   QImageReader* operator->() { return &reader_; }
 
  private:
-  static constexpr int kLargest = 1024;  // megabytes, for a header that promises the moon
+  static constexpr int kLargest = 1024;  // megabytes
 
   QByteArray held_;
   QBuffer buffer_;
   QImageReader reader_;
 };
 
-// A JPEG. Read for a small place, it takes a fraction of the time and memory of all its pixels.
+// A JPEG. Decoding it at a small size takes a fraction of the time and memory of all its pixels.
 class JpegSource : public forms::PictureSource {
  public:
-  // Null where the bytes are no picture. Whatever can make the decoder give up shows before the first row, or
-  // behind the last: a picture of one scan has at most gaps on the way, and of any other all scans are read
-  // for the first row.
+  // Returns null where the bytes are no picture. Reading the first row is enough to know: a picture of one
+  // scan has at most gaps after it, and of any other all scans are read for it.
   static std::unique_ptr<const JpegSource> From(std::string_view bytes) {
-    const QSize size = Reader(bytes, kFormat)->size();
-    if (!Reader::Allows(size) || FirstRows(bytes, {size.width(), 1}).isNull()) return nullptr;
+    const QSize size = PictureReader(bytes, kFormat)->size();
+    if (!PictureReader::Allows(size) || FirstRows(bytes, {size.width(), 1}).isNull()) return nullptr;
     return std::make_unique<const JpegSource>(bytes, size);
   }
 
@@ -101,15 +100,15 @@ class JpegSource : public forms::PictureSource {
   int Height() const override { return size_.height(); }
 
   forms::Bitmap Pixels() const override {
-    QImage image = Reader(bytes_, kFormat)->read();
-    // With the last row the decoder looks at what stands behind it, which is no reason to lose the others.
+    QImage image = PictureReader(bytes_, kFormat)->read();
+    // After the last row the decoder looks at what follows the picture; damage there must not lose the rows.
     if (image.isNull()) image = FirstRows(bytes_, {size_.width(), size_.height() - 1}).copy({{}, size_});
     return BitmapOf(std::move(image));
   }
 
-  // Null where the pixels have to be made for it.
-  QImage FilledInto(const QSize& size) const {
-    Reader reader(bytes_, kFormat);
+  // Returns null where it has to be scaled from the pixels.
+  QImage ScaledTo(const QSize& size) const {
+    PictureReader reader(bytes_, kFormat);
     reader->setScaledSize(size);
     return reader->read();
   }
@@ -118,7 +117,7 @@ class JpegSource : public forms::PictureSource {
 
  private:
   static QImage FirstRows(std::string_view bytes, const QSize& size) {
-    Reader reader(bytes, kFormat);
+    PictureReader reader(bytes, kFormat);
     reader->setClipRect({{}, size});
     return reader->read();
   }
@@ -154,25 +153,25 @@ forms::Picture Decode(std::string_view bytes) {
     if (jpeg == nullptr) throw none;
     return forms::Picture(std::move(jpeg));
   }
-  QImage image = Reader(bytes, format)->read();
+  QImage image = PictureReader(bytes, format)->read();
   if (image.isNull()) throw none;
   return forms::Picture(BitmapOf(std::move(image)));
 }
 
-QPixmap Filled(const forms::Picture& picture, const QSize& size) {
+QPixmap Scaled(const forms::Picture& picture, const QSize& size) {
   if (!picture || size.isEmpty()) return {};
   if (const auto* const jpeg = dynamic_cast<const JpegSource*>(picture.Source())) {
-    if (const QImage filled = jpeg->FilledInto(size); !filled.isNull()) return QPixmap::fromImage(filled);
+    if (const QImage scaled = jpeg->ScaledTo(size); !scaled.isNull()) return QPixmap::fromImage(scaled);
   }
   if (picture->Empty()) return {};
   QImage image = ImageOf(*picture);
-  // Without an opacity to reckon with, Qt scales four times as fast.
+  // Without opacity, Qt scales four times as fast.
   if (IsOpaque(*picture)) image.reinterpretAsFormat(QImage::Format_RGBX8888);
   return QPixmap::fromImage(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 QCursor PointerOf(const forms::Picture& picture) {
-  // An image of its own, as the pointer may outlive the picture.
+  // A copy, as the pointer may outlive the picture.
   return picture ? QCursor(QPixmap::fromImage(ImageOf(*picture).copy())) : QCursor(Qt::ArrowCursor);
 }
 

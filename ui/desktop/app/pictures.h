@@ -1,5 +1,5 @@
-// Pictures between the forms and Qt. A pixel of the forms lies in memory as red, green, blue, opacity, which
-// Qt can show where it lies.
+// Pictures between the forms and Qt. Both have a pixel in memory as red, green, blue, opacity, so that Qt can
+// show a bitmap of the forms without a copy.
 #pragma once
 
 #include <QCursor>
@@ -11,19 +11,21 @@
 
 namespace lectern::desktop {
 
-// The bitmap as an image, without a copy: it must outlive the image and stay as it is meanwhile.
+// The bitmap as an image, without a copy.
+// Requires: the bitmap outlives the image and does not change meanwhile.
 QImage ImageOf(const forms::Bitmap& bitmap);
 
-// The picture in the bytes of a JPEG, PNG, GIF, BMP or ICO file, told by the bytes; error 481 for any others.
+// The picture in the bytes of a JPEG, PNG, GIF, BMP or ICO file, whatever the file's name; error 481 for
+// others.
 forms::Picture Decode(std::string_view bytes);
 
-// The picture made to fill that many pixels of the screen.
-QPixmap Filled(const forms::Picture& picture, const QSize& size);
+// The picture scaled to that many pixels of the screen.
+QPixmap Scaled(const forms::Picture& picture, const QSize& size);
 
-// A pointer with the hot spot in its middle.
+// A pointer whose hot spot is its middle.
 QCursor PointerOf(const forms::Picture& picture);
 
-// The pointer for one of the numbers of the forms.
+// The pointer that a number of the forms stands for.
 QCursor PointerOf(int number);
 
 }  // namespace lectern::desktop

@@ -21,17 +21,19 @@ namespace lectern::desktop {
 
 namespace {
 
-QString ToQString(std::string_view text) {
+QString Decoded(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-constexpr double kDotsPerInch = 96;
-
-void Prepare(QMessageBox& box, std::string_view text, std::string_view title) {
-  box.setTextFormat(Qt::PlainText);
-  box.setText(ToQString(text));
-  box.setWindowTitle(ToQString(title));
-}
+// A box that belongs to a window.
+class MessageDialog : public QMessageBox {
+ public:
+  MessageDialog(QWidget* window, std::string_view text, std::string_view title) : QMessageBox(window) {
+    setTextFormat(Qt::PlainText);
+    setText(Decoded(text));
+    setWindowTitle(Decoded(title));
+  }
+};
 
 }  // namespace
 
@@ -39,14 +41,11 @@ DesktopPlatform::DesktopPlatform()
     : before_box([] { return nullptr; }), with_face([](auto&, const auto&) {}) {}
 
 void DesktopPlatform::Message(std::string_view text, std::string_view title) {
-  QMessageBox box(before_box());
-  Prepare(box, text, title);
-  box.exec();
+  MessageDialog(before_box(), text, title).exec();
 }
 
 bool DesktopPlatform::Question(std::string_view text, std::string_view title) {
-  QMessageBox box(before_box());
-  Prepare(box, text, title);
+  MessageDialog box(before_box(), text, title);
   box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
   box.setDefaultButton(QMessageBox::Yes);
   return box.exec() == QMessageBox::Yes;
@@ -56,16 +55,15 @@ std::string DesktopPlatform::Input(std::string_view prompt, std::string_view tit
                                    std::string_view proposed) {
   constexpr int kWidth = 360;
   QInputDialog box(before_box());
-  box.setWindowTitle(ToQString(title));
-  box.setLabelText(ToQString(prompt));
-  box.setTextValue(ToQString(proposed));
+  box.setWindowTitle(Decoded(title));
+  box.setLabelText(Decoded(prompt));
+  box.setTextValue(Decoded(proposed));
   box.resize(kWidth, box.sizeHint().height());
   return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
 void DesktopPlatform::Report(const base::RunTimeError& error) {
-  QMessageBox box(before_box());
-  Prepare(box, error.Report(), base::kProgramName);
+  MessageDialog box(before_box(), error.Report(), base::kProgramName);
   box.setIcon(QMessageBox::Critical);
   box.exec();
 }
@@ -79,12 +77,12 @@ base::Date DesktopPlatform::Today() {
 
 void DesktopPlatform::SeedRandom() {
   const auto now = std::chrono::system_clock::now().time_since_epoch().count();
-  chance_.seed(static_cast<std::mt19937::result_type>(now));
+  random_.seed(static_cast<std::mt19937::result_type>(now));
 }
 
 double DesktopPlatform::Random() {
-  constexpr double kRange = 4294967296.0;  // one more than the largest number that comes
-  return static_cast<double>(chance_()) / kRange;
+  constexpr double kRange = 4294967296.0;  // one more than the largest number that the generator gives
+  return static_cast<double>(random_()) / kRange;
 }
 
 std::vector<std::string> DesktopPlatform::FontNames() {
@@ -100,8 +98,9 @@ base::ScreenSize DesktopPlatform::Screen() {
 
 forms::Picture DesktopPlatform::DecodePicture(std::string_view bytes) { return Decode(bytes); }
 
-// In the size that it has on the screen, or as large as the paper where that is smaller.
+// In the size that it has on the screen, or reduced to the paper's.
 void DesktopPlatform::PrintForm(forms::Window& window) {
+  constexpr double kDotsPerInch = 96;  // of the screen
   const base::RunTimeError no_answer(base::ErrorNumber::kPrinter);
   if (QPrinterInfo::defaultPrinter().isNull()) throw no_answer;
   QPrinter printer(QPrinterInfo::defaultPrinter(), QPrinter::HighResolution);
@@ -112,7 +111,7 @@ void DesktopPlatform::PrintForm(forms::Window& window) {
     const double natural = printer.resolution() / kDotsPerInch;
     const double scale = std::min({natural, paper.width() / face.width(), paper.height() / face.height()});
     painter.scale(scale, scale);
-    // The caret and the ring around what has the focus are not part of the page.
+    // The caret and the focus ring are not part of the page.
     QWidget* const focused = face.window()->focusWidget();
     if (focused != nullptr) focused->clearFocus();
     face.render(&painter);
@@ -122,7 +121,7 @@ void DesktopPlatform::PrintForm(forms::Window& window) {
 }
 
 bool DesktopPlatform::OpenInBrowser(std::string_view address) {
-  return QDesktopServices::openUrl(QUrl(ToQString(address)));
+  return QDesktopServices::openUrl(QUrl(Decoded(address)));
 }
 
 }  // namespace lectern::desktop

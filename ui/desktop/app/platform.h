@@ -1,4 +1,4 @@
-// What the program asks of the desktop: boxes, clock, chance, printer, screen, pictures and browser.
+// What the program needs of the desktop: boxes, clock, random numbers, printer, screen, pictures and browser.
 #pragma once
 
 #include <QWidget>
@@ -27,17 +27,17 @@ class DesktopPlatform : public base::Platform {
   void PrintForm(forms::Window& window) override;
   bool OpenInBrowser(std::string_view address) override;
 
-  // The box of a failure that nothing trapped.
+  // Reports a failure that nothing trapped.
   void Report(const base::RunTimeError& error);
 
-  // Ahead of a box: shows what stands so far, and says over which window the box belongs.
+  // Called ahead of a box: shows the results so far, and returns the window that the box belongs to.
   std::function<QWidget*()> before_box;
 
-  // The face of a window without its menu bar, as it would be printed.
+  // Calls `print` with the face of a window, without its menu bar, as it is to be printed.
   std::function<void(forms::Window&, const std::function<void(QWidget&)>& print)> with_face;
 
  private:
-  std::mt19937 chance_;
+  std::mt19937 random_;
 };
 
 }  // namespace lectern::desktop

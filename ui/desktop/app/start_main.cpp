@@ -1,7 +1,7 @@
-// What the menu starts: makes sure that the person has a data folder, and becomes the program in it.
+// What a desktop's menu starts: makes sure that the person has a data folder, then becomes the program in it.
 //
-//   lectern-start                    the reader's program
-//   lectern-start PROGRAM ARGUMENT…  another one, such as lectern-keeper
+//   lectern-start                     starts the reader's program
+//   lectern-start PROGRAM ARGUMENT…   starts another one, such as lectern-keeper
 #include <QApplication>
 #include <cerrno>
 #include <cstring>
@@ -10,9 +10,9 @@
 #include <unistd.h>
 #include <vector>
 
-#include "ui/desktop/app/application.h"
-#include "ui/desktop/app/doorbell.h"
+#include "ui/desktop/app/desktop.h"
 #include "ui/desktop/app/first_start.h"
+#include "ui/desktop/app/one_program.h"
 #include "ui/desktop/app/theme.h"
 
 namespace lectern::desktop {
@@ -20,12 +20,12 @@ namespace lectern::desktop {
 namespace {
 
 FirstStart::Outcome MakeOwnFolder(char** arguments, const std::string& folder) {
-  const QByteArray leave = LeaveToComeForward();
+  const QByteArray token = TakeActivationToken();
   PrepareApplication();
   int only_the_name = 1;
   QApplication application(only_the_name, arguments);
-  Dress();
-  return FirstStart(folder, ProgramPath("lectern-make-data")).Run(leave);
+  ApplyTheme();
+  return FirstStart(folder, ProgramPath("lectern-make-data")).Run(token);
 }
 
 int Become(const std::string& program, char** arguments) {
@@ -33,7 +33,7 @@ int Become(const std::string& program, char** arguments) {
   for (; *arguments != nullptr; ++arguments) words.push_back(*arguments);
   words.push_back(nullptr);
   ::execvp(words.front(), words.data());
-  std::cerr << program << " could not be started: " << std::strerror(errno) << '\n';
+  std::cerr << "Cannot start " << program << ": " << std::strerror(errno) << '\n';
   return 1;
 }
 
@@ -46,10 +46,10 @@ int main(int count, char** arguments) {
   const std::string folder = OwnFolder();
   if (!HoldsTexts(folder)) {
     const FirstStart::Outcome outcome = MakeOwnFolder(arguments, folder);
-    if (outcome != FirstStart::Outcome::kThere) return outcome == FirstStart::Outcome::kElsewhere ? 0 : 1;
+    if (outcome != FirstStart::Outcome::kReady) return outcome == FirstStart::Outcome::kElsewhere ? 0 : 1;
   }
   if (::chdir(folder.c_str()) != 0) {
-    std::cerr << folder << " could not be entered: " << std::strerror(errno) << '\n';
+    std::cerr << "Cannot open the folder " << folder << ": " << std::strerror(errno) << '\n';
     return 1;
   }
   const bool is_named = count > 1;

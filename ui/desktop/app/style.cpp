@@ -1,7 +1,7 @@
-#include "ui/desktop/app/style.h"
-
+// The style that `MakeStyle` returns.
 #include <QPainter>
 #include <QPainterPath>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <algorithm>
@@ -15,9 +15,6 @@ namespace {
 constexpr double kCorner = 4;  // radius
 constexpr int kScrollBarThickness = 14;
 constexpr int kBesideText = 5;  // in the rows of a list
-
-// A rectangle whose outline falls on whole pixels.
-QRectF OutlineOf(const QRect& rect) { return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5); }
 
 void DrawArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, const QColor& colour) {
   constexpr double kReach = 3.5;
@@ -37,23 +34,25 @@ void DrawArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, co
   painter.restore();
 }
 
-}  // namespace
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
 
-QColor LineColor(const QPalette& palette) {
-  constexpr double kShare = 0.22;
-  return Mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), kShare);
-}
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returned) const override;
+  QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
 
-void DrawFocusRing(QPainter& painter, const QRectF& around, const QPalette& palette) {
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(palette.color(QPalette::Highlight), 2));
-  painter.drawRoundedRect(around.adjusted(1, 1, -1, -1), kCorner - 1, kCorner - 1);
-  painter.restore();
-}
-
-Style::Style() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+ private:
+  static void DrawButton(const QStyleOption& option, QPainter& painter);
+  static void DrawRadio(const QStyleOption& option, QPainter& painter);
+  static void DrawFrame(const QStyleOption& option, QPainter& painter);
+  void DrawScrollBar(const QStyleOptionSlider& option, QPainter& painter, const QWidget* widget) const;
+};
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {
@@ -85,7 +84,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
   }
 }
 
-void Style::DrawButton(const QStyleOption& option, QPainter& painter) const {
+void Style::DrawButton(const QStyleOption& option, QPainter& painter) {
   const QPalette& palette = option.palette;
   const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(&option);
   const bool is_default = button != nullptr && (button->features & QStyleOptionButton::DefaultButton) != 0;
@@ -107,7 +106,7 @@ void Style::DrawButton(const QStyleOption& option, QPainter& painter) const {
   if ((option.state & State_HasFocus) != 0) DrawFocusRing(painter, option.rect, palette);
 }
 
-void Style::DrawRadio(const QStyleOption& option, QPainter& painter) const {
+void Style::DrawRadio(const QStyleOption& option, QPainter& painter) {
   const QPalette& palette = option.palette;
   const bool enabled = (option.state & State_Enabled) != 0;
   const QColor ground = palette.color(QPalette::Window);
@@ -133,7 +132,7 @@ void Style::DrawRadio(const QStyleOption& option, QPainter& painter) const {
   painter.restore();
 }
 
-void Style::DrawFrame(const QStyleOption& option, QPainter& painter) const {
+void Style::DrawFrame(const QStyleOption& option, QPainter& painter) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
@@ -208,11 +207,25 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
   }
 }
 
-// A menu bar makes ready for having too many entries; ours has not, and the file with the icon need not be
-// read.
+// A menu bar loads the icon for entries that do not fit. Ours always fit.
 QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
   if (icon == SP_ToolBarHorizontalExtensionButton) return {};
   return QProxyStyle::standardIcon(icon, option, widget);
+}
+
+}  // namespace
+
+QStyle* MakeStyle() { return new Style; }
+
+QRectF OutlineOf(const QRect& rect) { return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5); }
+
+void DrawFocusRing(QPainter& painter, const QRectF& around, const QPalette& palette) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(palette.color(QPalette::Highlight), 2));
+  painter.drawRoundedRect(around.adjusted(1, 1, -1, -1), kCorner - 1, kCorner - 1);
+  painter.restore();
 }
 
 }  // namespace lectern::desktop

@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/desktop/app/style.h"
-
 namespace lectern::desktop {
 
 namespace {
@@ -13,7 +11,7 @@ namespace {
 constexpr double kSmallestOwnSize = 8;  // points
 constexpr double kLargestOwnSize = 10;
 
-// How bright the eye takes a colour for, from 0 to 1.
+// How bright a colour appears to the eye, from 0 to 1.
 double Luminance(const QColor& colour) {
   const auto linear = [](double part) {
     return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
@@ -47,8 +45,8 @@ QPalette OwnPalette() {
   return palette;
 }
 
-void Dress() {
-  auto* const style = new Style;
+void ApplyTheme() {
+  QStyle* const style = MakeStyle();
   const QPalette plain = style->standardPalette();
   QApplication::setStyle(style);
   const QPalette given = QApplication::palette();
@@ -57,12 +55,29 @@ void Dress() {
   if (!desktop_has_its_own) QApplication::setPalette(OwnPalette());
 }
 
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    icon.addFile(QString(":/icons/lectern-%1.png").arg(size));
+  }
+  return icon;
+}
+
 QFont OwnFont() {
   QFont font = QApplication::font();
   if (font.pointSizeF() > 0) {
     const double size = std::clamp(font.pointSizeF(), kSmallestOwnSize, kLargestOwnSize);
     if (size != font.pointSizeF()) font.setPointSizeF(size);
   }
+  return font;
+}
+
+QFont FontOf(const forms::TextControl& control) {
+  QFont font = OwnFont();
+  if (!control.FontName->empty()) font.setFamily(QString::fromStdString(control.FontName));
+  if (control.FontSize > 0) font.setPointSizeF(control.FontSize);
+  if (control.FontBold) font.setBold(true);
+  if (control.FontItalic) font.setItalic(true);
   return font;
 }
 
@@ -114,13 +129,9 @@ QColor Mixed(const QColor& a, const QColor& b, double share_of_b) {
   return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
 }
 
-QFont FontOf(const forms::TextControl& control) {
-  QFont font = OwnFont();
-  if (!control.FontName->empty()) font.setFamily(QString::fromStdString(control.FontName));
-  if (control.FontSize > 0) font.setPointSizeF(control.FontSize);
-  if (control.FontBold) font.setBold(true);
-  if (control.FontItalic) font.setItalic(true);
-  return font;
+QColor LineColor(const QPalette& palette) {
+  constexpr double kShare = 0.22;
+  return Mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), kShare);
 }
 
 }  // namespace lectern::desktop

@@ -6,7 +6,7 @@
 
 namespace lectern::desktop {
 
-// A timer with the moment when it is due. Switching it on or giving it another interval starts it anew.
+// A timer and the moment when it is due. Switching it on or giving it another interval starts it anew.
 class Timers::Watched : public forms::View {
  public:
   explicit Watched(forms::Timer& timer) : timer_(timer) { timer_.Attach(this); }
@@ -16,14 +16,13 @@ class Timers::Watched : public forms::View {
 
   const forms::Timer& Timer() const { return timer_; }
   bool IsOn() const { return timer_.IsTicking(); }
-  // An interval too short to be told from none.
   bool TicksAtOnce() const { return timer_.Interval <= 1; }
   qint64 Due() const { return due_; }
 
-  void Reckon(qint64 now) {
+  void Update(qint64 now) {
     if (std::exchange(starts_anew_, false)) due_ = now + Interval();
   }
-  // What fell due meanwhile is passed over.
+  // Ticks that fell due meanwhile are skipped.
   void HasTicked(qint64 now) { due_ = TicksAtOnce() ? now : now + Interval() - (now - due_) % Interval(); }
 
  private:
@@ -50,17 +49,16 @@ void Timers::Watch(forms::Window& window) {
   }
 }
 
-void Timers::Forget(forms::Window& window) {
-  std::erase_if(watched_, [&window](const std::unique_ptr<Watched>& watched) {
-    return &watched->Timer().HostWindow() == &window;
-  });
+void Timers::Forget(const forms::Window& window) {
+  std::erase_if(watched_,
+                [&window](const auto& watched) { return &watched->Timer().HostWindow() == &window; });
 }
 
-void Timers::Reckon() {
+void Timers::Update() {
   const qint64 now = clock_.elapsed();
   std::optional<qint64> next;
   for (const auto& watched : watched_) {
-    watched->Reckon(now);
+    watched->Update(now);
     if (watched->IsOn()) next = std::min(next.value_or(watched->Due()), watched->Due());
   }
   if (next) {
@@ -70,14 +68,13 @@ void Timers::Reckon() {
   }
 }
 
-// Whoever is at work reckons anew when the work has ended.
 void Timers::WakeUp() {
-  if (events_.AtWork()) return;
+  if (events_.AtWork()) return;  // the event's end updates the alarm
   const qint64 now = clock_.elapsed();
   events_.DeliverTicks([&] {
     std::vector<const forms::Timer*> due;
     for (const auto& watched : watched_) {
-      watched->Reckon(now);
+      watched->Update(now);
       if (!watched->IsOn() || watched->Due() > now) continue;
       watched->HasTicked(now);
       due.push_back(&watched->Timer());
@@ -89,7 +86,7 @@ void Timers::WakeUp() {
     });
     return goes_on ? Events::Ticking::kGoesOnAtOnce : Events::Ticking::kPauses;
   });
-  Reckon();
+  Update();
 }
 
 }  // namespace lectern::desktop

@@ -1,6 +1,6 @@
-// Gives the timers of the windows their ticks. One at an interval of 1 ticks as soon as what is pending has
-// been served, one at a longer interval keeps its time. While an event or a box is at work none ticks, and
-// what fell due meanwhile is one tick.
+// Ticks the timers of the windows. A timer with an interval of 1 ticks as soon as pending events have been
+// served, one with a longer interval keeps its time. None ticks while an event or a box is at work; ticks
+// that fall due meanwhile are delivered as one.
 #pragma once
 
 #include <QElapsedTimer>
@@ -17,17 +17,18 @@ namespace lectern::desktop {
 
 class Timers {
  public:
-  // A round of ticks: one of every timer that is on and due.
+  // Ticks every timer that is on and due.
   using Round = std::function<void(const std::function<bool(const forms::Timer&)>& due)>;
 
   Timers(Events& events, Round round);
   ~Timers();
 
+  // A window's timers tick from Watch to Forget.
   void Watch(forms::Window& window);
-  void Forget(forms::Window& window);
+  void Forget(const forms::Window& window);
 
-  // After an event: looks which timers are on, and when the next one is due.
-  void Reckon();
+  // After an event: finds out which timers are on, and when the next one is due.
+  void Update();
 
  private:
   class Watched;

@@ -9,7 +9,7 @@ namespace lectern::desktop {
 
 namespace {
 
-// Where a face begins whose controls are to stand in the middle of a frame that they just fit into.
+// Where a face begins whose controls are centred in a frame that they just fit into.
 int Middle(int covered_begin, int covered_size, int face, int room) {
   if (face <= room) return 0;
   return std::clamp((room - covered_size) / 2 - covered_begin, room - face, 0);
@@ -28,7 +28,7 @@ QSize FittedFace::Place(QSize face, const QRect& covered, int menu_bar, QSize ro
   QSize shown = face.boundedTo(room);
   if (too_wide || too_high) {
     Scroll();
-    // The bar that goes up and down takes from the width, and the other from the height.
+    // Each scroll bar takes its thickness from the other direction.
     if (too_high) shown.rwidth() += area_->verticalScrollBar()->sizeHint().width();
     if (too_wide) shown.rheight() += area_->horizontalScrollBar()->sizeHint().height();
     shown = shown.boundedTo(room);

@@ -1,8 +1,6 @@
-// The face of a window, which holds its controls, in a frame that may have to be smaller: the program's
-// windows have one size each, and a screen may have less room than that. Then the empty margin at the sides
-// goes first; where controls would be cut off, the face is scrolled.
-//
-// The face belongs to the frame.
+// The face of a window, which holds its controls, in a frame that may have to be smaller: a window has one
+// size, and a screen may be smaller than that. Then the empty margin at the sides goes first; where controls
+// would be cut off, the face is scrolled.
 #pragma once
 
 #include <QRect>
@@ -14,15 +12,16 @@ namespace lectern::desktop {
 
 class FittedFace {
  public:
+  // The face becomes a child of the frame.
   explicit FittedFace(QWidget& frame);
 
   QWidget& Face() const { return face_; }
 
-  // Lays the face out below a menu bar of that height, in at most that room; the size that the frame is to
-  // have. `covered` is what the controls take up of the face.
+  // Puts a face of that size below a menu bar of that height, into `room` at most. Returns the size that the
+  // frame needs. `covered` is the part of the face that the controls take up.
   QSize Place(QSize face, const QRect& covered, int menu_bar, QSize room);
 
-  // Scrolls to what has come to have the focus.
+  // Scrolls to a widget of the face.
   void BringIntoSight(QWidget& widget);
 
  private:

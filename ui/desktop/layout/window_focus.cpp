@@ -11,7 +11,7 @@ namespace lectern::desktop {
 
 namespace {
 
-// Whether the control lies in the panel; nullptr lies nowhere.
+// Whether the control lies in the panel; false for nullptr.
 bool LiesIn(const forms::Control* control, const forms::Control& panel) {
   const auto* const wanted = dynamic_cast<const forms::Container*>(&panel);
   if (control == nullptr) return false;
@@ -41,15 +41,15 @@ void WindowFocus::Settle() {
   }
   if (frame_.focusWidget() == nullptr) TakeToMainControl();
   FollowPanels(before);
-  // What had the focus may be disabled or hidden now. Qt takes whatever comes next, which is the exit as soon
-  // as anything.
+  // What had the focus may be disabled or hidden now. Qt takes whatever comes next, which may be the exit
+  // button.
   if (window_.Focus() != nullptr && window_.Focus()->RefusesPerson() != forms::Refusal::kNone) {
     TakeToPanel(FrontPanel());
   }
   Arrived();
 }
 
-// What is open when the window is first seen is part of its face.
+// Panels that are open when the window is first seen are part of its face.
 void WindowFocus::FollowPanels(const forms::PlacedControl* before) {
   const bool is_first_time = !opened_;
   if (is_first_time) opened_.emplace();
@@ -142,7 +142,7 @@ void WindowFocus::TakeBackTo(const forms::PlacedControl* control) {
   }
 }
 
-// To its first control, but not to the button that closes it, which may stand first.
+// Moves the focus to the panel's first control, skipping the button that closes it.
 void WindowFocus::TakeToPanel(ControlView* panel) {
   std::vector<ControlView*> order;
   if (panel != nullptr) panel->Children()->AppendInTabOrder(order);
@@ -153,7 +153,7 @@ void WindowFocus::TakeToPanel(ControlView* panel) {
   (first == order.end() ? order.front() : *first)->Widget()->setFocus(Qt::OtherFocusReason);
 }
 
-// The largest of the controls is what the window is for, but for a surface that only the Tab key leads to.
+// The main control is the largest one that a click can give the focus to.
 void WindowFocus::TakeToMainControl() {
   std::vector<ControlView*> order;
   views_.AppendInTabOrder(order);

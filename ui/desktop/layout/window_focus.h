@@ -1,6 +1,6 @@
-// Where the keyboard's input goes in a window. The forms know one control that has the focus, Qt knows one
-// widget; whichever side moves it, the other follows. A panel that opens takes the focus to its first
-// control, and gives it back when it closes.
+// Where the keyboard's input goes in a window. The forms know one control with the focus, Qt knows one
+// widget; when one side moves it, the other follows. A panel that opens takes the focus to its first control,
+// and gives it back when it closes.
 #pragma once
 
 #include <QWidget>
@@ -17,7 +17,7 @@ class ControlView;
 
 class WindowFocus {
  public:
-  // The views find what a widget belongs to; they, the frame and the window outlive this.
+  // The window and the views outlive this. The frame may go just before, in silence.
   WindowFocus(forms::Window& window, Events& events, QWidget& frame, const ChildViews& views)
       : window_(window), events_(events), frame_(frame), views_(views) {}
 
@@ -27,24 +27,24 @@ class WindowFocus {
   // After an event.
   void Settle();
 
-  // Qt moved the focus to another widget of the window.
+  // Qt has moved the focus to another widget of the window.
   void Arrived();
 
-  // Takes the focus to what is about to be pressed by its access key.
+  // Moves the focus to a button that is about to be pressed by its access key.
   void TakeToPress(ControlView& view);
 
-  // From the panel that was opened last to what the window is for, and back.
+  // Moves the focus from the panel that was opened last to the window's main control, and back.
   void ChangeBetweenPanels();
 
  private:
-  // A panel that was opened over the window, and what had the focus before.
+  // A panel that was opened over the window, and the control that had the focus before.
   struct Opened {
     const forms::PlacedControl* panel;
     const forms::PlacedControl* before;
   };
 
   ControlView* ViewWithFocus() const;
-  ControlView* FrontPanel() const;  // that was opened last and is still open; nullptr for none
+  ControlView* FrontPanel() const;  // the open panel that was opened last; nullptr for none
   void FollowPanels(const forms::PlacedControl* before);
   bool IsBeingPressed(const forms::PlacedControl& control) const;
   void TakeBackTo(const forms::PlacedControl* control);
@@ -56,15 +56,15 @@ class WindowFocus {
   QWidget& frame_;
   const ChildViews& views_;
   const forms::PlacedControl* shown_ = nullptr;
-  // Where the focus last came to stay. Coming to a button in order to press it is not staying there: what the
-  // press opens gives the focus back to where it was before.
+  // The control where the focus last stayed. It does not stay on a button that was only pressed: a panel that
+  // the button opens gives the focus back to where it was before.
   const forms::PlacedControl* staying_ = nullptr;
-  std::optional<std::vector<Opened>> opened_;  // in the order of opening; none until the window was seen
+  std::optional<std::vector<Opened>> opened_;  // in order; empty optional until the window was seen
   bool is_wanted_ = false;
   bool presses_ = false;  // by an access key
 };
 
-// The view of a control that is to be seen; nullptr for any other.
+// The view of a control that is visible; nullptr for any other.
 ControlView* SeenViewOf(const forms::Control* control);
 
 }  // namespace lectern::desktop

@@ -3,19 +3,22 @@
 #include <QTextCursor>
 #include <algorithm>
 
+#include "ui/desktop/app/theme.h"
+
 namespace lectern::desktop {
 
 namespace {
 
 constexpr int kLongestNumber = 3;  // digits
 
-// The number that a verse begins with and the blanks behind it; both 0 where the paragraph is none.
+// The length of the number that a verse begins with, and of the blanks after it; both 0 for any other
+// paragraph.
 struct VerseNumber {
   qsizetype digits = 0;
   qsizetype blanks = 0;
 };
 
-VerseNumber NumberOf(QStringView paragraph) {
+VerseNumber VerseNumberOf(QStringView paragraph) {
   VerseNumber number;
   while (number.digits < paragraph.size() && paragraph[number.digits].isDigit()) ++number.digits;
   qsizetype at = number.digits;
@@ -36,13 +39,26 @@ void ForEachParagraph(QStringView text, Use use) {
   }
 }
 
+QTextCharFormat FormatOf(const forms::TextStyle& style, const QPalette& palette, double enlargement) {
+  QTextCharFormat format;
+  if (style.colour) {
+    format.setForeground(Legible(ToColor(*style.colour, palette), palette.color(QPalette::Base)));
+  }
+  if (style.bold) format.setFontWeight(*style.bold ? QFont::Bold : QFont::Normal);
+  if (style.italic) format.setFontItalic(*style.italic);
+  if (style.underline) format.setFontUnderline(*style.underline);
+  if (!style.font.empty()) format.setFontFamilies({QString::fromStdString(style.font)});
+  if (style.size > 0) format.setFontPointSize(style.size * enlargement);
+  return format;
+}
+
 }  // namespace
 
 PageSetting::PageSetting(const QFont& font, const QString& text)
     : font_(font), number_width_(0), metrics_(font) {
   qsizetype digits = 2;
-  ForEachParagraph(text,
-                   [&](QStringView paragraph) { digits = std::max(digits, NumberOf(paragraph).digits); });
+  ForEachParagraph(
+      text, [&](QStringView paragraph) { digits = std::max(digits, VerseNumberOf(paragraph).digits); });
   number_width_ =
       metrics_.horizontalAdvance(QString(digits, u'0')) + 1.6 * metrics_.horizontalAdvance(QChar(u' '));
 }
@@ -64,7 +80,7 @@ std::unique_ptr<QTextDocument> PageSetting::Document(const QString& text, int wi
   cursor.beginEditBlock();
   bool first = true;
   ForEachParagraph(text, [&](QStringView paragraph) {
-    const QTextBlockFormat& format = NumberOf(paragraph).digits > 0 ? verse : plain;
+    const QTextBlockFormat& format = VerseNumberOf(paragraph).digits > 0 ? verse : plain;
     if (std::exchange(first, false)) {
       cursor.setBlockFormat(format);
     } else {
@@ -73,7 +89,7 @@ std::unique_ptr<QTextDocument> PageSetting::Document(const QString& text, int wi
     cursor.insertText(paragraph.toString());
   });
   cursor.endEditBlock();
-  // Keeping the glyphs makes scrolling quick, and takes about a hundred times the room of the text.
+  // Keeping the glyphs makes scrolling quick, and takes about a hundred times the text's own memory.
   constexpr qsizetype kLongestKept = 100'000;
   if (text.size() <= kLongestKept) {
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
@@ -84,7 +100,7 @@ std::unique_ptr<QTextDocument> PageSetting::Document(const QString& text, int wi
 }
 
 QTextLayout::FormatRange PageSetting::NumberGap(const QString& paragraph) const {
-  const VerseNumber number = NumberOf(paragraph);
+  const VerseNumber number = VerseNumberOf(paragraph);
   QTextLayout::FormatRange range;
   range.start = static_cast<int>(number.digits);
   range.length = static_cast<int>(number.blanks);
@@ -93,6 +109,34 @@ QTextLayout::FormatRange PageSetting::NumberGap(const QString& paragraph) const 
   range.format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
   range.format.setFontLetterSpacing((number_width_ - width) / range.length);
   return range;
+}
+
+void LayStyles(QTextDocument& document, const forms::TextRuns& runs, const TextPositions& positions,
+               const PageSetting* setting, const QPalette& palette, double enlargement) {
+  QTextCursor edit(&document);
+  edit.beginEditBlock();
+  auto run = runs.All().begin();
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    QList<QTextLayout::FormatRange> formats;
+    if (setting != nullptr) {
+      const QTextLayout::FormatRange gap = setting->NumberGap(block.text());
+      if (gap.length > 0) formats.append(gap);
+    }
+    const int start = block.position();
+    const int end = start + block.length();
+    for (; run != runs.All().end() && positions.ToQt(run->start) < end; ++run) {
+      const int run_start = std::max(positions.ToQt(run->start), start);
+      const int run_end = std::min(positions.ToQt(run->End()), end);
+      QTextLayout::FormatRange range;
+      range.start = run_start - start;
+      range.length = run_end - run_start;
+      range.format = FormatOf(run->style, palette, enlargement);
+      if (range.length > 0) formats.append(range);
+      if (positions.ToQt(run->End()) > end) break;  // it goes on in the next paragraph
+    }
+    if (block.layout()->formats() != formats) block.layout()->setFormats(formats);
+  }
+  edit.endEditBlock();
 }
 
 }  // namespace lectern::desktop

@@ -1,14 +1,65 @@
-// Panes of text with runs of style. One that is only read is set as a page, with room between the lines; one
-// that is edited is a plain sheet, which takes in and edits a text of many megabytes without a pause.
+// What the views of rich text have in common. A pane that is only read is a page (reading_page.cpp), with
+// space between the lines; one that is edited is a plain sheet (editor.cpp), which loads and edits a text of
+// many megabytes without a pause.
 #pragma once
 
+#include <QAbstractScrollArea>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include "forms/rich_text_box.h"
-#include "ui/desktop/views/control_view.h"
+#include "ui/desktop/text/text_positions.h"
+#include "ui/desktop/views/view_factory.h"
 
 namespace lectern::desktop {
 
-std::unique_ptr<ControlView> MakeRichTextView(forms::RichTextBox& pane, WindowView& window, QWidget& parent);
+class RichTextView : public ViewOf<forms::RichTextBox> {
+ public:
+  using ViewOf::ViewOf;
+
+ protected:
+  // What has changed in the control since it was last shown.
+  struct Changes {
+    bool text;
+    bool styles;  // along with any change of the text or of the colour behind it
+    bool marks;   // colours that the program has set in the text, not those that came with it
+    bool selection;
+  };
+  Changes TakeChanges(const QColor& ground);
+
+  // The control's selection as a cursor of the document, which holds its text.
+  QTextCursor Selection(QTextDocument& document) const;
+
+  // The person has moved the cursor or changed the selection, which the control learns ahead of the next
+  // event.
+  void SelectionMoved();
+  void CommitSelection(const QTextCursor& cursor);
+
+  // Where the first coloured run begins, as Qt counts; nothing where there is none.
+  std::optional<int> FirstMark() const;
+
+  // The part of the viewport that no panel covers: above the panels or below them, whichever is larger.
+  static QRect OpenPart(const QAbstractScrollArea& pane);
+
+  Ground GetGround() const override { return Ground::kField; }
+  bool Needs(const QKeyEvent& key) const override;
+
+  TextPositions positions_;  // of the text that is shown
+
+ private:
+  struct Shown {
+    unsigned text = 0;  // generations of the control
+    unsigned style = 0;
+    QRgb ground = 0;
+    std::pair<int, int> selection;
+  };
+  std::optional<Shown> shown_;
+};
+
+ViewMaker MakeReadingPage;
+ViewMaker MakeEditor;
 
 }  // namespace lectern::desktop

@@ -1,5 +1,5 @@
-// Places in a text as the forms count them and as Qt does. A line end is two characters to the forms and one
-// to Qt; a character beyond U+FFFF is one to the forms and two to Qt. Both count from 0.
+// Positions in a text as the forms count them and as Qt does. A line end is two characters for the forms and
+// one for Qt; a character beyond U+FFFF is one for the forms and two for Qt. Both count from 0.
 #pragma once
 
 #include <QString>
@@ -11,17 +11,17 @@ namespace lectern::desktop {
 
 class TextPositions {
  public:
-  // Takes the measure of a whole text.
+  // Measures a whole text.
   void Read(std::string_view text);
 
   int ToQt(std::size_t position) const;
   std::size_t ToForms(int position) const;
 
-  // Of `removed` characters, by Qt's count, from `at` on, `inserted` took the place.
+  // `inserted` has replaced `removed` characters from `at` on, as Qt counts.
   void Edited(int at, int removed, std::string_view inserted);
 
  private:
-  // The place right behind a character that the two count differently.
+  // The position after a character that the two count differently.
   struct Mark {
     std::size_t forms;
     int qt;
@@ -35,7 +35,7 @@ class TextPositions {
   std::vector<Mark> marks_;
 };
 
-// As a document of Qt takes it in, a line end being a line feed.
+// The text for a document of Qt, where a line ends with a line feed.
 QString ToDocument(std::string_view text);
 
 }  // namespace lectern::desktop

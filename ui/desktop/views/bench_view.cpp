@@ -10,6 +10,7 @@
 #include <cassert>
 
 #include "forms/containers.h"
+#include "ui/desktop/layout/places.h"
 #include "ui/desktop/views/child_views.h"
 #include "ui/desktop/views/view_factory.h"
 
@@ -17,8 +18,8 @@ namespace lectern::desktop {
 
 namespace {
 
-// Wants to show all of what is on it; where the screen has no room for that, it can be scrolled.
-class Page : public QScrollArea {
+// Shows all that is on it, or scrolls where the screen is too small.
+class BenchPage : public QScrollArea {
  public:
   QSize sizeHint() const override { return widget()->size(); }
 };
@@ -50,25 +51,18 @@ BenchView::BenchView(forms::Window& window, WindowView& view, const std::vector<
     }
   }
   row_->addStretch();
-  view.GetEvents().Run([] {});  // shows what was changed
+  view.GetEvents().Run([] {});  // shows the views
   Settle();
   frame_->resize(frame_->sizeHint().boundedTo(frame_->screen()->availableSize() * 9 / 10));
   frame_->show();
 }
 
-// The views look at their controls, and the widgets end with the frame.
-BenchView::~BenchView() {
-  views_.clear();
-  frame_.reset();
-}
+BenchView::~BenchView() = default;
 
-// A widget as large as the control.
+// Makes a widget as large as the control.
 QWidget& BenchView::HolderFor(const forms::PlacedControl& control) {
-  const auto pixels = [](double twips) {
-    return static_cast<int>(std::lround(twips / forms::kTwipsPerPixel));
-  };
   auto* const holder = new QWidget;
-  holder->setFixedSize(pixels(control.Width), pixels(control.Height));
+  holder->setFixedSize(PlaceOf(control).size());
   return *holder;
 }
 
@@ -85,7 +79,7 @@ void BenchView::AddPage(forms::PlacedControl& panel, QWidget& holder) {
   QObject::connect(opener, &QPushButton::clicked, opener, open);
   openers_.emplace_back(&panel, opener);
   open();
-  auto* const page = new Page;
+  auto* const page = new BenchPage;
   page->setFrameShape(QFrame::NoFrame);
   page->setFocusPolicy(Qt::NoFocus);
   page->setWidget(&holder);
@@ -109,9 +103,7 @@ void BenchView::Settle() {
       inner->AppendInTabOrder(order);
     }
   }
-  for (std::size_t i = 1; i < order.size(); ++i) {
-    QWidget::setTabOrder(order[i - 1]->Widget(), order[i]->Widget());
-  }
+  SetTabOrder(order);
 }
 
 }  // namespace lectern::desktop

@@ -1,9 +1,9 @@
-// The keeper's bench: chosen controls that lie off a window, in a second window of their own, so that each
-// can be used with the mouse. They are the same controls with the same handlers; where they stand in the
-// model does not change, nor does anything in the window itself.
+// The keeper's bench: chosen controls that stand off a window, in a second window where the mouse can reach
+// them. They are the same controls with the same handlers; neither their places in the model nor the window
+// itself change.
 //
-// Single controls stand in a row at the top, each panel on a page of its own. A panel that is hidden can be
-// opened again by the button in its place. Lives no longer than the window and its view.
+// Single controls stand in a row at the top, and each panel on a page of its own. A panel that is hidden can
+// be opened again by the button in its place.
 #pragma once
 
 #include <QWidget>
@@ -24,13 +24,14 @@ namespace lectern::desktop {
 
 class BenchView {
  public:
-  // The controls by their names; the panels among them are opened. The window has been shown once.
+  // Shows the controls of these names, and opens the panels among them. The window and its view outlive this.
+  // Requires: the window has all of the controls, and has been shown.
   BenchView(forms::Window& window, WindowView& view, const std::vector<std::string>& controls);
   ~BenchView();
 
   QWidget& Frame() { return *frame_; }
 
-  // After an event: puts what lies over one another in order, and what the keyboard goes through.
+  // After an event: stacks what overlaps, and puts the Tab key's stops in order.
   void Settle();
 
  private:
@@ -39,11 +40,11 @@ class BenchView {
 
   forms::Window& window_;
   WindowView& view_;
-  std::unique_ptr<QWidget> frame_;
-  QHBoxLayout* row_;
-  QTabWidget* pages_;
   std::vector<std::unique_ptr<ControlView>> views_;
   std::vector<std::pair<const forms::PlacedControl*, QPushButton*>> openers_;  // of the pages
+  std::unique_ptr<QWidget> frame_;  // goes before the views, as in WindowView
+  QHBoxLayout* row_;
+  QTabWidget* pages_;
 };
 
 }  // namespace lectern::desktop

@@ -1,19 +1,21 @@
-#include "ui/desktop/views/button_views.h"
-
+// Buttons, and options of which one is set.
+#include <QPushButton>
+#include <QRadioButton>
 #include <algorithm>
 #include <utility>
 #include <vector>
 
+#include "forms/buttons.h"
 #include "ui/desktop/app/pictures.h"
-#include "ui/desktop/text/text_fit.h"
+#include "ui/desktop/layout/text_fit.h"
 #include "ui/desktop/views/keys.h"
-#include "ui/desktop/views/window_view.h"
+#include "ui/desktop/views/view_factory.h"
 
 namespace lectern::desktop {
 
 namespace {
 
-// The window looks after access keys itself, since a menu may have the same letter.
+// The window handles access keys itself, as a menu may have the same letter.
 void SetCaption(QAbstractButton& widget, const std::string& caption) {
   const QString text = ToQString(caption);
   if (widget.text() == text) return;
@@ -21,98 +23,129 @@ void SetCaption(QAbstractButton& widget, const std::string& caption) {
   widget.setShortcut({});
 }
 
+class ButtonView : public ViewOf<forms::Button> {
+ public:
+  using ViewOf::ViewOf;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    widget_ = new QPushButton(parent);
+    widget_->setAutoDefault(false);
+    widget_->setDefault(Control().IsDefaultButton());
+    // A sign or a number on it does not say enough.
+    if (Control().HasNameOfItsOwn()) widget_->setToolTip(ToQString(Control().AccessibleName()));
+    connect(widget_, &QPushButton::clicked, [this] {
+      if (std::exchange(pressed_by_mouse_, false)) {
+        Act([this] { Control().Click(); });
+      } else {
+        Act([this] { Control().PersonClicks(); });
+      }
+    });
+    return widget_;
+  }
+
+  void Apply() override {
+    SetCaption(*widget_, Control().Caption);
+    const auto* const with_picture = dynamic_cast<const forms::SSCommand*>(&Control());
+    if (with_picture == nullptr || with_picture->Picture == picture_) return;
+    picture_ = with_picture->Picture;
+    widget_->setIcon(picture_ ? QIcon(QPixmap::fromImage(ImageOf(*picture_).copy())) : QIcon());
+    widget_->setIconSize({picture_.Width(), picture_.Height()});
+  }
+
+  Ground GetGround() const override { return Ground::kButton; }
+  QFont WantedFont() const override {
+    constexpr int kMargin = 6;
+    return FitLine(ToQString(Control().Caption), ControlView::WantedFont(), Place().width() - 2 * kMargin);
+  }
+  bool SpeaksForItself() const override { return !Control().Caption->empty(); }
+
+  // Enter presses the button that has the focus, not the one of its panel.
+  bool HandleKey(const QKeyEvent& key) override {
+    if (KeyCode(key) != forms::kEnterKey) return false;
+    if (!key.isAutoRepeat()) Act([this] { Control().PersonClicks(); });
+    return true;
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
+      const auto& mouse = static_cast<const QMouseEvent&>(*event);
+      if (mouse.button() == Qt::LeftButton) {
+        pressed_by_mouse_ = true;
+        Act([this, press = ToMouseEvent(mouse, mouse.button())] { Control().PersonPresses(press); });
+      }
+    }
+    if (event->type() == QEvent::KeyPress) pressed_by_mouse_ = false;
+    return ControlView::eventFilter(watched, event);
+  }
+
+ private:
+  QPushButton* widget_ = nullptr;
+  bool pressed_by_mouse_ = false;
+  forms::Picture picture_;  // as shown on it
+};
+
+class OptionView : public ViewOf<forms::Option> {
+ public:
+  using ViewOf::ViewOf;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    widget_ = new QRadioButton(parent);
+    connect(widget_, &QRadioButton::clicked, [this] { Act([this] { Control().PersonClicks(); }); });
+    return widget_;
+  }
+
+  void Apply() override {
+    SetCaption(*widget_, Control().Caption);
+    // Qt does not let the last one of a panel be cleared; the control does.
+    widget_->setAutoExclusive(false);
+    widget_->setChecked(Control().Value);
+    widget_->setAutoExclusive(true);
+  }
+
+  QFont WantedFont() const override {
+    constexpr int kIndicator = 22;
+    return FitLine(ToQString(Control().Caption), ControlView::WantedFont(), Place().width() - kIndicator);
+  }
+  bool SpeaksForItself() const override { return !Control().Caption->empty(); }
+
+  bool HandleKey(const QKeyEvent& key) override {
+    const QPoint way = DirectionOf(key.key());
+    if (!way.isNull()) MoveBy(way.x() + way.y());
+    return !way.isNull();
+  }
+
+ private:
+  // Sets the next option of the panel; after the last one comes the first.
+  void MoveBy(int step) {
+    std::vector<forms::Option*> options;
+    for (forms::Control* sibling : Control().Parent().Children()) {
+      auto* const other = dynamic_cast<forms::Option*>(sibling);
+      if (other != nullptr && other->RefusesPerson() == forms::Refusal::kNone) options.push_back(other);
+    }
+    const auto here =
+        static_cast<int>(std::find(options.begin(), options.end(), &Control()) - options.begin());
+    const auto count = static_cast<int>(options.size());
+    if (here == count) return;
+    forms::Option* const next = options[static_cast<std::size_t>((here + step + count) % count)];
+    Act([next] {
+      next->SetFocus();
+      next->PersonClicks();
+    });
+  }
+
+  QRadioButton* widget_ = nullptr;
+};
+
 }  // namespace
 
-QWidget* ButtonView::Make(QWidget* parent) {
-  widget_ = new QPushButton(parent);
-  widget_->setAutoDefault(false);
-  widget_->setDefault(button_.IsDefaultButton());
-  // A sign or a number on it leaves one guessing.
-  if (button_.HasNameOfItsOwn()) widget_->setToolTip(ToQString(button_.AccessibleName()));
-  connect(widget_, &QPushButton::clicked, [this] {
-    if (std::exchange(pressed_by_mouse_, false)) {
-      Act([this] { button_.Click(); });
-    } else {
-      Act([this] { button_.PersonClicks(); });
-    }
-  });
-  return widget_;
+std::unique_ptr<ControlView> MakeButtonView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<ButtonView, forms::Button>(control, window, parent);
 }
 
-QFont ButtonView::WantedFont() const {
-  constexpr int kMargin = 6;
-  return FitLine(ToQString(button_.Caption), ControlView::WantedFont(), Place().width() - 2 * kMargin);
-}
-
-void ButtonView::Apply() {
-  SetCaption(*widget_, button_.Caption);
-  const auto* const with_picture = dynamic_cast<const forms::SSCommand*>(&button_);
-  if (with_picture == nullptr || with_picture->Picture == picture_) return;
-  picture_ = with_picture->Picture;
-  widget_->setIcon(picture_ ? QIcon(QPixmap::fromImage(ImageOf(*picture_).copy())) : QIcon());
-  widget_->setIconSize({picture_.Width(), picture_.Height()});
-}
-
-// Enter presses the button that has the focus, ahead of its panel's own.
-bool ButtonView::HandleKey(const QKeyEvent& key) {
-  if (KeyCode(key) != forms::kEnterKey) return false;
-  if (!key.isAutoRepeat()) Act([this] { button_.PersonClicks(); });
-  return true;
-}
-
-bool ButtonView::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick) {
-    const auto& mouse = static_cast<const QMouseEvent&>(*event);
-    if (mouse.button() == Qt::LeftButton) {
-      pressed_by_mouse_ = true;
-      Act([this, press = ToMouseEvent(mouse, mouse.button())] { button_.PersonPresses(press); });
-    }
-  }
-  if (event->type() == QEvent::KeyPress) pressed_by_mouse_ = false;
-  return ControlView::eventFilter(watched, event);
-}
-
-QWidget* OptionView::Make(QWidget* parent) {
-  widget_ = new QRadioButton(parent);
-  connect(widget_, &QRadioButton::clicked, [this] { Act([this] { option_.PersonClicks(); }); });
-  return widget_;
-}
-
-QFont OptionView::WantedFont() const {
-  constexpr int kIndicator = 22;
-  return FitLine(ToQString(option_.Caption), ControlView::WantedFont(), Place().width() - kIndicator);
-}
-
-void OptionView::Apply() {
-  SetCaption(*widget_, option_.Caption);
-  // Qt would not have the last one of a panel cleared, as the control may.
-  widget_->setAutoExclusive(false);
-  widget_->setChecked(option_.Value);
-  widget_->setAutoExclusive(true);
-}
-
-bool OptionView::HandleKey(const QKeyEvent& key) {
-  const bool on = key.key() == Qt::Key_Right || key.key() == Qt::Key_Down;
-  const bool back = key.key() == Qt::Key_Left || key.key() == Qt::Key_Up;
-  if (on || back) MoveTo(on ? 1 : -1);
-  return on || back;
-}
-
-// The arrows set the next option of the panel, and the first one behind the last.
-void OptionView::MoveTo(int step) {
-  std::vector<forms::Option*> options;
-  for (forms::Control* sibling : option_.Parent().Children()) {
-    auto* const other = dynamic_cast<forms::Option*>(sibling);
-    if (other != nullptr && other->RefusesPerson() == forms::Refusal::kNone) options.push_back(other);
-  }
-  const auto here = static_cast<int>(std::find(options.begin(), options.end(), &option_) - options.begin());
-  const auto count = static_cast<int>(options.size());
-  if (here == count) return;
-  forms::Option* const next = options[static_cast<std::size_t>((here + step + count) % count)];
-  Act([next] {
-    next->SetFocus();
-    next->PersonClicks();
-  });
+std::unique_ptr<ControlView> MakeOptionView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<OptionView, forms::Option>(control, window, parent);
 }
 
 }  // namespace lectern::desktop

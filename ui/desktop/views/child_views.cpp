@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "ui/desktop/layout/reading_order.h"
+#include "ui/desktop/layout/places.h"
 #include "ui/desktop/views/control_view.h"
 #include "ui/desktop/views/view_factory.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 enum class Layer { kFigure, kLabel, kInput, kPanel };
 
-Layer LayerOf(const forms::Control& control) {
+Layer StackingLayerOf(const forms::Control& control) {
   switch (control.GetKind()) {
     case forms::Kind::kShape:
     case forms::Kind::kLine:
@@ -28,10 +28,10 @@ Layer LayerOf(const forms::Control& control) {
   }
 }
 
-// Whether one control lies below another of the same panel.
+// Whether one control is stacked below another of the same panel.
 bool LiesBelow(const ControlView* a, const ControlView* b) {
-  const Layer layer_of_a = LayerOf(a->Control());
-  const Layer layer_of_b = LayerOf(b->Control());
+  const Layer layer_of_a = StackingLayerOf(a->Control());
+  const Layer layer_of_b = StackingLayerOf(b->Control());
   if (layer_of_a != layer_of_b) return layer_of_a < layer_of_b;
   return layer_of_a == Layer::kPanel && a->Control().ShownAt() < b->Control().ShownAt();
 }
@@ -77,7 +77,7 @@ void ChildViews::Stack() {
     if (view->IsSeen()) wanted.push_back(view.get());
   }
   std::stable_sort(wanted.begin(), wanted.end(), LiesBelow);
-  // As many as are in order already stay as they are; the rest is put on top of them one after another.
+  // Those that are in order already stay as they are; the others are put on top of them one after another.
   auto next = wanted.begin();
   for (QObject* child : parent_.children()) {
     if (next != wanted.end() && (*next)->Widget() == child) ++next;
@@ -89,7 +89,7 @@ void ChildViews::Stack() {
   }
 }
 
-// Only what is used counts, by keys or by the mouse alone: a figure behind it all would join everything.
+// Leaves out what is only looked at: a figure behind other controls would join them all.
 bool ChildViews::AppendInTabOrder(std::vector<ControlView*>& order) const {
   std::vector<std::vector<ControlView*>> stops;
   std::vector<QRect> places;
@@ -106,6 +106,12 @@ bool ChildViews::AppendInTabOrder(std::vector<ControlView*>& order) const {
   for (const std::size_t i : ReadingOrder(places))
     order.insert(order.end(), stops[i].begin(), stops[i].end());
   return !places.empty();
+}
+
+void SetTabOrder(const std::vector<ControlView*>& order) {
+  for (std::size_t i = 1; i < order.size(); ++i) {
+    QWidget::setTabOrder(order[i - 1]->Widget(), order[i]->Widget());
+  }
 }
 
 }  // namespace lectern::desktop

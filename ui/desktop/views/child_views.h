@@ -1,6 +1,5 @@
-// The views of what lies in a window or panel. Of what lies over one another the figures and labels are
-// lowest, then whatever takes input, then panels, of these the last that was shown on top. The keyboard goes
-// through them as the eye does, line by line and from the left to the right.
+// The views of what lies in a window or panel. Where they overlap, figures and labels are lowest, then what
+// takes input, then panels, of which the last that was shown is on top.
 #pragma once
 
 #include <QWidget>
@@ -17,27 +16,34 @@ class WindowView;
 
 class ChildViews {
  public:
+  // The widgets become children of `parent`, which outlives this or goes just before.
   ChildViews(forms::Container& container, WindowView& window, QWidget& parent);
   ~ChildViews();
 
   const std::vector<std::unique_ptr<ControlView>>& All() const { return views_; }
 
-  // The view that made the widget, here or in what lies here; nullptr for none.
+  // The view of that widget, here or in what lies here; nullptr where there is none.
   ControlView* Find(const QWidget& widget) const;
 
-  // Asks these and all that lies in them, until one says yes; whether one did.
+  // Whether the question is answered with yes for one of these or of what lies in them. Stops at the first.
   bool Any(const std::function<bool(ControlView&)>& question) const;
 
   void MarkStale();
   void Recolour();
 
-  // Of these and of all that lies in them.
+  // Stacks the widgets of these and of all that lies in them.
   void Stack();
-  bool AppendInTabOrder(std::vector<ControlView*>& order) const;  // whether any of them is used at all
+
+  // Appends what the Tab key goes through, line by line and from the left to the right. Returns whether a
+  // person uses anything here at all, be it with the mouse alone.
+  bool AppendInTabOrder(std::vector<ControlView*>& order) const;
 
  private:
   QWidget& parent_;
   std::vector<std::unique_ptr<ControlView>> views_;
 };
+
+// Lets the Tab key go through the views in that order.
+void SetTabOrder(const std::vector<ControlView*>& order);
 
 }  // namespace lectern::desktop

@@ -5,26 +5,25 @@
 
 #include "ui/desktop/layout/window_focus.h"
 #include "ui/desktop/views/keys.h"
-#include "ui/desktop/views/spoken.h"
-#include "ui/desktop/views/window_view.h"
+#include "ui/desktop/views/painted_widget.h"
 
 namespace lectern::desktop {
 
 namespace {
 
-constexpr int kLeft = 1;  // buttons of a mouse
-constexpr int kRight = 2;
+constexpr int kLeftButton = 1;
+constexpr int kRightButton = 2;
 
-// A stroke is made of every movement of the mouse; whatever else follows it wants its latest place, so that
-// nothing piles up. Movements are put together as they arrive, which may be before a press is delivered: so
-// it has to be said before the press.
+// A stroke needs every movement of the mouse; anything else needs only its latest place, so that movements do
+// not pile up. Qt merges movements when they arrive, which may be before a press is delivered, so this is set
+// ahead of the press.
 void WantEveryMovement(bool wanted) {
   QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, !wanted);
 }
 
 }  // namespace
 
-// A surface to draw on follows the pointer and is no button.
+// A surface to draw on follows the pointer and is not a button.
 bool ClickableView::IsButton() const {
   return Control().Click || (Control().MouseDown && !Control().MouseMove);
 }
@@ -33,7 +32,7 @@ void ClickableView::PrepareForInput(QWidget& widget) {
   if (IsButton()) {
     const bool waits = IsOneOfARow() && Control().Index() > 0;
     widget.setFocusPolicy(waits ? Qt::ClickFocus : Qt::StrongFocus);
-    if (auto* spoken = dynamic_cast<Spoken*>(&widget)) spoken->press = [this] { PressByKey(kLeft); };
+    if (auto* spoken = dynamic_cast<Spoken*>(&widget)) spoken->press = [this] { PressByKey(kLeftButton); };
   }
   // The mouse draws without taking the focus from the button that was pressed last.
   if (IsSurface()) widget.setFocusPolicy(Qt::TabFocus);
@@ -58,7 +57,7 @@ bool ClickableView::HandleKey(const QKeyEvent& key) {
       !Control().Click &&
       (key.key() == Qt::Key_Menu || (key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier));
   if (!is_left && !is_right) return false;
-  if (!key.isAutoRepeat()) PressByKey(is_left ? kLeft : kRight);
+  if (!key.isAutoRepeat()) PressByKey(is_left ? kLeftButton : kRightButton);
   return true;
 }
 
@@ -71,14 +70,10 @@ std::vector<ControlView*> ClickableView::Row() const {
   return row;
 }
 
-// To the nearest one that stands straight that way.
+// Moves to the nearest one in that direction. Returns whether the key is one that moves.
 bool ClickableView::MoveInRow(int key) {
   const QPoint here = Place().center();
-  QPoint way;
-  if (key == Qt::Key_Left) way = {-1, 0};
-  if (key == Qt::Key_Right) way = {1, 0};
-  if (key == Qt::Key_Up) way = {0, -1};
-  if (key == Qt::Key_Down) way = {0, 1};
+  const QPoint way = DirectionOf(key);
   if (way.isNull()) return false;
   ControlView* nearest = nullptr;
   int least = 0;
@@ -95,7 +90,8 @@ bool ClickableView::MoveInRow(int key) {
   return true;
 }
 
-void ClickableView::StandForRow() {
+// The Tab key stops at the one that had the focus last.
+void ClickableView::BecomeStopOfRow() {
   for (const ControlView* other : Row()) {
     other->Widget()->setFocusPolicy(other == this ? Qt::StrongFocus : Qt::ClickFocus);
   }
@@ -125,7 +121,7 @@ bool ClickableView::Moved(const QMouseEvent& event) {
 }
 
 bool ClickableView::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == Widget() && !GetWindow().IsAbandoned()) {
+  if (watched == Widget()) {
     switch (event->type()) {
       case QEvent::MouseButtonPress:
         return Pressed(static_cast<const QMouseEvent&>(*event));
@@ -137,14 +133,14 @@ bool ClickableView::eventFilter(QObject* watched, QEvent* event) {
       case QEvent::MouseButtonRelease:
         return Released(static_cast<const QMouseEvent&>(*event));
       case QEvent::FocusIn:
-        if (IsOneOfARow()) StandForRow();
+        if (IsOneOfARow()) BecomeStopOfRow();
         break;
       case QEvent::MouseMove:
         return Moved(static_cast<const QMouseEvent&>(*event));
       case QEvent::Enter:
         WantEveryMovement(IsSurface());
         break;
-      case QEvent::Leave:  // comes only when no button is held down any more
+      case QEvent::Leave:  // comes only when no button is held any more
         WantEveryMovement(false);
         break;
       default:

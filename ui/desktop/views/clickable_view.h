@@ -1,7 +1,7 @@
-// What is pressed where it lies, without being a button: labels, images, picture boxes. One whose control has
-// a handler for clicks or presses can be reached and pressed by the keyboard too, with the menu key for the
-// mouse's right button. Several of a control array that tell a press from its button, such as the colours of
-// a palette, are one stop on the way of the Tab key; the arrows go through them.
+// What is pressed where it lies without being a button: labels, images, picture boxes. Where the control has
+// a handler for clicks or presses, the keyboard reaches and presses it too, with the menu key for the mouse's
+// right button. Several of a control array whose handler wants to know the mouse's button, such as the
+// colours of a palette, are one stop of the Tab key; the arrows go through them.
 #pragma once
 
 #include <vector>
@@ -24,7 +24,7 @@ class ClickableView : public ControlView {
   // Gives a new widget the focus policy that the control's handlers call for.
   void PrepareForInput(QWidget& widget);
 
-  // The position of a mouse event, in the control's own scale.
+  // The same event with its place in the control's own scale.
   virtual forms::MouseEvent InScale(forms::MouseEvent mouse) const { return mouse; }
 
   bool HandleKey(const QKeyEvent& key) override;
@@ -33,8 +33,8 @@ class ClickableView : public ControlView {
  private:
   bool IsOneOfARow() const { return IsButton() && !Control().Click && Control().Index() >= 0; }
   std::vector<ControlView*> Row() const;  // with this one
-  bool MoveInRow(int key);                // whether the key is one that moves
-  void StandForRow();                     // as the stop of the Tab key
+  bool MoveInRow(int key);
+  void BecomeStopOfRow();
   void PressByKey(int button);
   bool Pressed(const QMouseEvent& event);
   bool Released(const QMouseEvent& event);

@@ -1,7 +1,6 @@
 #include "ui/desktop/views/control_view.h"
 
 #include <QApplication>
-#include <algorithm>
 #include <cmath>
 
 #include "forms/figures.h"
@@ -9,6 +8,7 @@
 #include "forms/window.h"
 #include "ui/desktop/app/pictures.h"
 #include "ui/desktop/app/theme.h"
+#include "ui/desktop/layout/places.h"
 #include "ui/desktop/views/keys.h"
 #include "ui/desktop/views/window_view.h"
 
@@ -16,18 +16,30 @@ namespace lectern::desktop {
 
 namespace {
 
-// Which of the palette's colours are a control's, and the colour that means that it has none of its own.
+// The roles of a control's colours in the palette, and the colour that means that it has none of its own.
 struct Roles {
   QPalette::ColorRole back;
   QPalette::ColorRole text;
   forms::Colour design;
 };
 
-int ToPixels(double twips) { return static_cast<int>(std::lround(twips / forms::kTwipsPerPixel)); }
+Roles RolesOf(bool is_field, bool is_button) {
+  if (is_field) return {QPalette::Base, QPalette::Text, forms::kWindowBackground};
+  if (is_button) return {QPalette::Button, QPalette::ButtonText, forms::kButtonFace};
+  return {QPalette::Window, QPalette::WindowText, forms::kButtonFace};
+}
 
 }  // namespace
 
 QString ToQString(const std::string& text) { return QString::fromStdString(text); }
+
+bool IsDesignText(const std::string& text) {
+  for (const std::string_view kind : {"Label", "Text"}) {
+    if (!text.starts_with(kind) || text.size() == kind.size()) continue;
+    return text.find_first_not_of("0123456789", kind.size()) == std::string::npos;
+  }
+  return false;
+}
 
 forms::MouseEvent ToMouseEvent(const QMouseEvent& event, Qt::MouseButtons buttons) {
   forms::MouseEvent mouse;
@@ -48,11 +60,9 @@ ControlView::ControlView(forms::PlacedControl& control, WindowView& window, QWid
   control_.Attach(this);
 }
 
-ControlView::~ControlView() {
-  if (!window_.IsAbandoned()) control_.Attach(nullptr);
-}
+ControlView::~ControlView() { control_.Attach(nullptr); }
 
-// A pointer is shown at once: it tells of the very handler that is at work.
+// A pointer is shown at once, as it is about the very handler that runs.
 void ControlView::Changed() {
   LayerView::Changed();
   if (widget_ != nullptr) ApplyPointer();
@@ -61,20 +71,16 @@ void ControlView::Changed() {
 void ControlView::TakeFocus() { window_.FocusIsWanted(); }
 
 QRect ControlView::Place() const {
-  const int left = ToPixels(control_.Left);
-  const int top = ToPixels(control_.Top);
-  const int right = ToPixels(control_.Left + control_.Width);
-  const int bottom = ToPixels(control_.Top + control_.Height);
-  const int thinnest = control_.GetKind() == forms::Kind::kLine ? 1 : 0;
-  const QSize size(std::max(right - left, thinnest), std::max(bottom - top, thinnest));
-  return {corner_.value_or(QPoint(left, top)), size};
+  QRect place = PlaceOf(control_);
+  if (control_.GetKind() == forms::Kind::kLine) place.setSize(place.size().expandedTo({1, 1}));
+  if (stands_in_corner_) place.moveTo(0, 0);
+  return place;
 }
 
-// Storage is no part of what a person sees or reaches, except where it was put on the keeper's bench.
-bool ControlView::IsInReach() const { return corner_.has_value() || !control_.IsStorage(); }
+// Storage is neither seen nor reached, except on the keeper's bench.
+bool ControlView::IsInReach() const { return stands_in_corner_ || !control_.IsStorage(); }
 
 void ControlView::Refresh() {
-  if (window_.IsAbandoned()) return;
   const bool seen = control_.Visible && IsInReach();
   if (widget_ == nullptr) {
     if (!seen) return;
@@ -132,21 +138,19 @@ void ControlView::ApplyFont() {
   widget_->setFont(font);
 }
 
-// The colour that lies behind the control: a filled figure under its middle, or the panel.
+// The colour behind the control: that of a filled figure under its middle, or the panel's.
 QColor ControlView::GroundColor() const {
   for (const forms::Control* sibling : control_.Parent().Children()) {
     if (sibling->GetKind() != forms::Kind::kShape || !sibling->Visible) continue;
     const auto& figure = static_cast<const forms::Shape&>(*sibling);
-    const QRect under(ToPixels(figure.Left), ToPixels(figure.Top), ToPixels(figure.Width),
-                      ToPixels(figure.Height));
-    if (!forms::IsSystemColour(figure.BackColor) && under.contains(Place().center())) {
+    if (!forms::IsSystemColour(figure.BackColor) && PlaceOf(figure).contains(Place().center())) {
       return ToColor(figure.BackColor, parent_.palette());
     }
   }
   return PictureColor().value_or(parent_.palette().color(QPalette::Window));
 }
 
-// The colour of what is drawn behind the control, on the whole; none where nothing is.
+// The average colour of the picture behind the control.
 std::optional<QColor> ControlView::PictureColor() const {
   const auto* const box = dynamic_cast<const forms::PictureBox*>(&control_.Parent());
   if (box == nullptr || !box->Picture()) return std::nullopt;
@@ -155,25 +159,15 @@ std::optional<QColor> ControlView::PictureColor() const {
 }
 
 void ControlView::ApplyColours() {
-  const auto roles_of = [](Ground kind) -> Roles {
-    switch (kind) {
-      case Ground::kField:
-        return {QPalette::Base, QPalette::Text, forms::kWindowBackground};
-      case Ground::kButton:
-        return {QPalette::Button, QPalette::ButtonText, forms::kButtonFace};
-      default:
-        return {QPalette::Window, QPalette::WindowText, forms::kButtonFace};
-    }
-  };
   const Ground kind = GetGround();
   if (kind == Ground::kNone) return;
-  // The fore colour of a panel is what is drawn on it with, not its text's.
+  // The fore colour of a panel is for drawing on it, not for text.
   const forms::Colour fore = kind == Ground::kPanel ? forms::kButtonText : control_.ForeColor();
   const forms::Colour back = control_.BackColor;
   if (colours_ == std::pair(back, fore)) return;
   colours_ = std::pair(back, fore);
 
-  const Roles roles = roles_of(kind);
+  const Roles roles = RolesOf(kind == Ground::kField, kind == Ground::kButton);
   const QPalette theme = QApplication::palette();
   const bool transparent = kind == Ground::kTransparent && back == roles.design;
   const QColor ground = transparent ? GroundColor() : ToColor(back, theme);
@@ -183,7 +177,7 @@ void ControlView::ApplyColours() {
     palette.setColor(roles.text, text);
     palette.setColor(QPalette::Disabled, roles.text, Mixed(text, ground, 0.5));
   };
-  // A panel keeps the theme's colours, whatever was given to the window that it lies on.
+  // A panel keeps the theme's colours, whatever those of its window are.
   if (back != roles.design || kind == Ground::kPanel) {
     palette.setColor(roles.back, ground);
     if (!forms::IsSystemColour(back)) {
@@ -207,7 +201,7 @@ void ControlView::Recolour() {
 }
 
 void ControlView::Act(const std::function<void()>& act) {
-  if (window_.IsAbandoned() || control_.RefusesPerson() != forms::Refusal::kNone) return;
+  if (control_.RefusesPerson() != forms::Refusal::kNone) return;
   Changed();
   GetEvents().Deliver(control_.HostWindow(), act);
 }
@@ -227,7 +221,7 @@ bool ControlView::KeyPressed(const QKeyEvent& key) {
 }
 
 bool ControlView::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && watched == widget_ && !window_.IsAbandoned()) {
+  if (event->type() == QEvent::KeyPress && watched == widget_) {
     return KeyPressed(static_cast<const QKeyEvent&>(*event));
   }
   return QObject::eventFilter(watched, event);

@@ -1,46 +1,156 @@
-#include "ui/desktop/views/figure_views.h"
-
+// What is looked at: pictures, which may also be pressed, shapes, lines and progress bars.
 #include <QPainter>
+#include <QPixmap>
+#include <QProgressBar>
 #include <algorithm>
 
-#include "ui/desktop/app/style.h"
+#include "forms/bars_and_timer.h"
+#include "forms/figures.h"
+#include "ui/desktop/app/pictures.h"
 #include "ui/desktop/app/theme.h"
+#include "ui/desktop/views/clickable_view.h"
 #include "ui/desktop/views/painted_widget.h"
+#include "ui/desktop/views/view_factory.h"
 
 namespace lectern::desktop {
 
-QWidget* ShapeView::Make(QWidget* parent) {
-  auto* const widget = new PaintedWidget(parent, [this](QPainter& painter, const QRect&) { Paint(painter); });
-  widget->setAttribute(Qt::WA_TransparentForMouseEvents);
-  return widget;
+namespace {
+
+// A picture, stretched to its place where the control says so.
+class ImageView : public ViewOf<forms::Image, ClickableView> {
+ public:
+  using ViewOf::ViewOf;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    auto* const widget =
+        new PaintedWidget(parent, [this](QPainter& painter, const QRect&) { Paint(painter); });
+    PrepareForInput(*widget);
+    return widget;
+  }
+
+  void Apply() override {
+    if (Control().Picture == shown_) return;
+    shown_ = Control().Picture;
+    scaled_ = {};
+    Widget()->update();
+  }
+
+  void Resized() override { scaled_ = {}; }
+
+ private:
+  void Paint(QPainter& painter) {
+    const QRect area = Widget()->rect();
+    if (shown_) {
+      const double density = Widget()->devicePixelRatioF();
+      const QSize natural(shown_.Width(), shown_.Height());
+      const QSizeF size = Control().Stretch ? QSizeF(area.size()) : QSizeF(natural);
+      const QSize pixels = (size * density).toSize();
+      if (scaled_.size() != pixels) scaled_ = Scaled(shown_, pixels);
+      painter.drawPixmap(QRect(area.topLeft(), (QSizeF(pixels) / density).toSize()), scaled_);
+    }
+    if (Control().BorderStyle != 0) {
+      painter.setPen(LineColor(Widget()->palette()));
+      painter.drawRect(OutlineOf(area));
+    }
+  }
+
+  forms::Picture shown_;
+  QPixmap scaled_;  // to the pixels of the screen, when it is painted
+};
+
+class ShapeView : public ViewOf<forms::Shape> {
+ public:
+  using ViewOf::ViewOf;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    auto* const widget =
+        new PaintedWidget(parent, [this](QPainter& painter, const QRect&) { Paint(painter); });
+    widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+    return widget;
+  }
+
+  void Apply() override { Widget()->update(); }
+  Ground GetGround() const override { return Ground::kNone; }
+
+ private:
+  // A square or circle is as large as the place allows, in its middle. A figure without a colour of its own
+  // is an outline.
+  void Paint(QPainter& painter) const {
+    const int kind = Control().FigureKind;
+    QRectF area = OutlineOf(Widget()->rect());
+    if (kind == forms::kShapeSquare || kind == forms::kShapeCircle) {
+      const double side = std::min(area.width(), area.height());
+      const QPointF middle = area.center();
+      area = QRectF(middle.x() - side / 2, middle.y() - side / 2, side, side);
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPalette palette = Widget()->palette();
+    painter.setPen(LineColor(palette));
+    if (!forms::IsSystemColour(Control().BackColor)) painter.setBrush(ToColor(Control().BackColor, palette));
+    if (kind == forms::kShapeOval || kind == forms::kShapeCircle) {
+      painter.drawEllipse(area);
+    } else {
+      painter.drawRect(area);
+    }
+  }
+};
+
+class LineView : public ControlView {
+ public:
+  using ControlView::ControlView;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    auto* const widget = new PaintedWidget(parent, [this](QPainter& painter, const QRect& exposed) {
+      painter.fillRect(exposed, LineColor(Widget()->palette()));
+    });
+    widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+    return widget;
+  }
+
+  void Apply() override {}
+};
+
+// A bar without a text. A value past its maximum shows full.
+class ProgressView : public ViewOf<forms::ProgressBar> {
+ public:
+  using ViewOf::ViewOf;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    widget_ = new QProgressBar(parent);
+    widget_->setTextVisible(false);
+    return widget_;
+  }
+
+  void Apply() override {
+    const int end = std::max(Control().Max(), Control().Min() + 1);
+    widget_->setRange(Control().Min, end);
+    widget_->setValue(std::clamp(Control().Value(), Control().Min(), end));
+  }
+
+ private:
+  QProgressBar* widget_ = nullptr;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeImageView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<ImageView, forms::Image>(control, window, parent);
 }
 
-// A square or circle is as large as the place allows, in its middle. Where the figure has no colour of its
-// own it is an outline.
-void ShapeView::Paint(QPainter& painter) const {
-  QRectF area = QRectF(Widget()->rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-  if (shape_.FigureKind == forms::kShapeSquare || shape_.FigureKind == forms::kShapeCircle) {
-    const double side = std::min(area.width(), area.height());
-    const QPointF middle = area.center();
-    area = QRectF(middle.x() - side / 2, middle.y() - side / 2, side, side);
-  }
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(LineColor(Widget()->palette()));
-  if (!forms::IsSystemColour(shape_.BackColor))
-    painter.setBrush(ToColor(shape_.BackColor, Widget()->palette()));
-  if (shape_.FigureKind == forms::kShapeOval || shape_.FigureKind == forms::kShapeCircle) {
-    painter.drawEllipse(area);
-  } else {
-    painter.drawRect(area);
-  }
+std::unique_ptr<ControlView> MakeShapeView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<ShapeView, forms::Shape>(control, window, parent);
 }
 
-QWidget* LineView::Make(QWidget* parent) {
-  auto* const widget = new PaintedWidget(parent, [this](QPainter& painter, const QRect& exposed) {
-    painter.fillRect(exposed, LineColor(Widget()->palette()));
-  });
-  widget->setAttribute(Qt::WA_TransparentForMouseEvents);
-  return widget;
+std::unique_ptr<ControlView> MakeLineView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<LineView, forms::Line>(control, window, parent);
+}
+
+std::unique_ptr<ControlView> MakeProgressView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<ProgressView, forms::ProgressBar>(control, window, parent);
 }
 
 }  // namespace lectern::desktop

@@ -29,8 +29,7 @@ int KeyCode(const QKeyEvent& key) {
   for (const auto& [qt, code] : kCodes) {
     if (key.key() == qt) return code;
   }
-  // Digits and letters have the code of the character, letters in upper case; function keys follow one
-  // another.
+  // Digits and letters have the code of the character, letters in upper case.
   if (key.key() >= Qt::Key_0 && key.key() <= Qt::Key_9) return key.key();
   if (key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z) return key.key();
   constexpr int kFirstFunctionKey = 112;
@@ -47,6 +46,21 @@ int AccessKey(const std::string& caption) {
 int AccessKey(const QKeyEvent& key) {
   const bool alt_alone = (key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) == Qt::AltModifier;
   return alt_alone && key.key() >= Qt::Key_Space && key.key() < Qt::Key_Escape ? key.key() : 0;
+}
+
+QPoint DirectionOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return {-1, 0};
+    case Qt::Key_Right:
+      return {1, 0};
+    case Qt::Key_Up:
+      return {0, -1};
+    case Qt::Key_Down:
+      return {0, 1};
+    default:
+      return {};
+  }
 }
 
 std::optional<QAbstractSlider::SliderAction> ScrollActionOf(const QKeyEvent& key) {
@@ -75,7 +89,7 @@ std::optional<QAbstractSlider::SliderAction> ScrollActionOf(const QKeyEvent& key
 QKeySequence QuoteKey() { return {Qt::CTRL | Qt::SHIFT | Qt::Key_C}; }
 
 std::optional<int> ZoomOf(const QKeyEvent& key) {
-  // Plus may lie on either level of its key.
+  // On some keyboards Plus needs Shift.
   const Qt::KeyboardModifiers held = key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
   if (held != Qt::ControlModifier) return std::nullopt;
   switch (key.key()) {

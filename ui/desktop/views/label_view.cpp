@@ -1,32 +1,36 @@
-#include "ui/desktop/views/label_view.h"
-
+// Labels: text that fits its place, and stands in as the text of an option that has none of its own.
 #include <QLabel>
 #include <QPainter>
 #include <utility>
 
 #include "forms/buttons.h"
+#include "forms/text_controls.h"
 #include "forms/window.h"
-#include "ui/desktop/app/style.h"
-#include "ui/desktop/text/text_fit.h"
-#include "ui/desktop/views/spoken.h"
-#include "ui/desktop/views/window_view.h"
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/layout/places.h"
+#include "ui/desktop/layout/text_fit.h"
+#include "ui/desktop/views/clickable_view.h"
+#include "ui/desktop/views/painted_widget.h"
+#include "ui/desktop/views/view_factory.h"
 
 namespace lectern::desktop {
 
-// A QLabel for those who have it read to them, with its text fitted for those who see it.
-class LabelView::Text : public QLabel, public Spoken {
- public:
-  explicit Text(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
+namespace {
 
-  // Whether the text has the colour of what it stands on, and is not to be seen.
-  void Vanish(bool vanishes) {
-    if (std::exchange(vanishes_, vanishes) != vanishes) update();
+// A QLabel for screen readers, with its text fitted to its place on the screen.
+class FittedLabel : public QLabel, public Spoken {
+ public:
+  explicit FittedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
+
+  // Hides the text, or shows it. It is hidden where it has the colour of its ground.
+  void SetHidden(bool hidden) {
+    if (std::exchange(hidden_, hidden) != hidden) update();
   }
 
-  // Room at both sides, for the ring of a label that can have the focus.
+  // Leaves room at both sides, for the ring of a label that can have the focus.
   void Indent(int pixels) { indent_ = pixels; }
 
-  void Show(const QString& text, Qt::Alignment alignment) {
+  void SetText(const QString& text, Qt::Alignment alignment) {
     if (text != this->text()) {
       setText(text);
       fitted_ = false;
@@ -50,11 +54,11 @@ class LabelView::Text : public QLabel, public Spoken {
     if (!fitted_) {
       fit_ = Fit(text(), font(), size() - QSize(2 * indent_, 0));
       fitted_ = true;
-      setToolTip(fit_.cut && !vanishes_ ? text() : QString());
+      setToolTip(fit_.cut && !hidden_ ? text() : QString());
     }
     QPainter painter(this);
     if (hasFocus()) DrawFocusRing(painter, rect(), palette());
-    if (vanishes_) return;
+    if (hidden_) return;
     painter.setFont(fit_.font);
     painter.setPen(
         palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
@@ -67,56 +71,74 @@ class LabelView::Text : public QLabel, public Spoken {
  private:
   FittedText fit_;
   bool fitted_ = false;
-  bool vanishes_ = false;
+  bool hidden_ = false;
   int indent_ = 0;
 };
 
-QWidget* LabelView::Make(QWidget* parent) {
-  constexpr int kBesideText = 6;  // pixels
-  text_ = new Text(parent);
-  if (IsButton()) text_->Indent(kBesideText);
-  PrepareForInput(*text_);
-  text_->is_echo = label_.IsEcho();
-  return text_;
-}
+class LabelView : public ViewOf<forms::Label, ClickableView> {
+ public:
+  LabelView(forms::Label& label, WindowView& window, QWidget& parent)
+      : ViewOf(label, window, parent), design_text_(IsDesignText(label.Caption) ? label.Caption() : "") {}
 
-void LabelView::Apply() {
-  Qt::Alignment alignment = Qt::AlignLeft;
-  if (label_.Alignment == forms::kAlignRight) alignment = Qt::AlignRight;
-  if (label_.Alignment == forms::kAlignCentre) alignment = Qt::AlignHCenter;
-  text_->Vanish(text_->palette().color(QPalette::WindowText).rgb() == GroundColor().rgb());
-  const bool is_unused = label_.Caption == design_text_;
-  text_->Show(is_unused ? QString() : ToQString(label_.Caption), alignment);
-}
-
-// The option without a caption that stands at the label's left side, as close as its own text would.
-forms::Control* LabelView::OptionBeside() const {
-  constexpr int kNear = 8;  // pixels
-  const QRect place = Place();
-  for (forms::Control* sibling : label_.Parent().Children()) {
-    auto* const option = dynamic_cast<forms::Option*>(sibling);
-    if (option == nullptr || option->Caption != "") continue;
-    const double right = (option->Left + option->Width) / forms::kTwipsPerPixel;
-    const double top = option->Top / forms::kTwipsPerPixel;
-    const double bottom = (option->Top + option->Height) / forms::kTwipsPerPixel;
-    const int middle = place.center().y();
-    if (right <= place.left() + kNear && place.left() - right <= kNear && middle >= top && middle <= bottom) {
-      return option;
-    }
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    constexpr int kBesideText = 6;  // pixels
+    text_ = new FittedLabel(parent);
+    if (IsButton()) text_->Indent(kBesideText);
+    PrepareForInput(*text_);
+    text_->is_echo = Control().IsEcho();
+    return text_;
   }
-  return nullptr;
-}
 
-bool LabelView::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress && !GetWindow().IsAbandoned() && !label_.Click &&
-      !label_.MouseDown && static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton) {
-    forms::Control* const option = OptionBeside();
-    if (option != nullptr && option->RefusesPerson() == forms::Refusal::kNone) {
-      Act([option] { option->PersonClicks(); });
-      return true;
-    }
+  void Apply() override {
+    Qt::Alignment alignment = Qt::AlignLeft;
+    if (Control().Alignment == forms::kAlignRight) alignment = Qt::AlignRight;
+    if (Control().Alignment == forms::kAlignCentre) alignment = Qt::AlignHCenter;
+    text_->SetHidden(text_->palette().color(QPalette::WindowText).rgb() == GroundColor().rgb());
+    const bool is_unused = Control().Caption == design_text_;
+    text_->SetText(is_unused ? QString() : ToQString(Control().Caption), alignment);
   }
-  return ClickableView::eventFilter(watched, event);
+
+  bool SpeaksForItself() const override { return true; }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::MouseButtonPress && !Control().Click && !Control().MouseDown &&
+        static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton) {
+      forms::Control* const option = OptionBeside();
+      if (option != nullptr && option->RefusesPerson() == forms::Refusal::kNone) {
+        Act([option] { option->PersonClicks(); });
+        return true;
+      }
+    }
+    return ClickableView::eventFilter(watched, event);
+  }
+
+ private:
+  // The option without a caption to the left of the label, as close as its own text would be.
+  forms::Control* OptionBeside() const {
+    constexpr int kNear = 8;  // pixels
+    const QRect place = Place();
+    for (forms::Control* sibling : Control().Parent().Children()) {
+      auto* const option = dynamic_cast<forms::Option*>(sibling);
+      if (option == nullptr || option->Caption != "") continue;
+      const QRect beside = PlaceOf(*option);
+      const int gap = place.left() - (beside.left() + beside.width());
+      const int middle = place.center().y();
+      if (std::abs(gap) <= kNear && middle >= beside.top() && middle <= beside.top() + beside.height()) {
+        return option;
+      }
+    }
+    return nullptr;
+  }
+
+  const std::string design_text_;  // not shown; any other caption may be a name that a person gave
+  FittedLabel* text_ = nullptr;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeLabelView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<LabelView, forms::Label>(control, window, parent);
 }
 
 }  // namespace lectern::desktop

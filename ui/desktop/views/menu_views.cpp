@@ -10,15 +10,15 @@
 
 namespace lectern::desktop {
 
-// The letters by which the entries of one list are reached. A caption may mark its own; an entry that marks
-// none gets one that is free, of the beginning of a word if there is one.
+// The letters by which the entries of one list are reached. An entry whose caption marks none gets a free
+// one, from the beginning of a word where possible.
 class MenuBarView::Letters {
  public:
   explicit Letters(const std::vector<forms::Menu*>& entries) {
     for (const forms::Menu* entry : entries) taken_.push_back(AccessKey(entry->Caption));
   }
 
-  // None (null) for what marks one already, and where all are taken.
+  // Returns null for an entry that marks one itself, and where none is free.
   QChar For(const forms::Menu& entry) {
     if (AccessKey(entry.Caption) != 0) return {};
     const QString caption = ToQString(entry.Caption);
@@ -38,23 +38,20 @@ class MenuBarView::Letters {
   QList<int> taken_;
 };
 
-// An entry, with the list that it opens where it has one.
+// An entry, which may open a list of others.
 class MenuBarView::Entry : public LayerView {
  public:
   Entry(forms::Menu& menu, WindowView& view, QAction& action, QChar letter)
-      : LayerView(view.GetEvents()), menu_(menu), view_(view), action_(action), letter_(letter) {
+      : LayerView(view.GetEvents()), menu_(menu), action_(action), letter_(letter) {
     menu_.Attach(this);
     action_.setObjectName(ToQString(menu_.FullName()));
     if (!menu_.Shortcut().empty()) action_.setShortcut(QKeySequence(ToQString(menu_.Shortcut())));
     QObject::connect(&action_, &QAction::triggered, [this] { Chosen(); });
     Refresh();
   }
-  ~Entry() override {
-    if (!view_.IsAbandoned()) menu_.Attach(nullptr);
-  }
+  ~Entry() override { menu_.Attach(nullptr); }
 
   void Refresh() override {
-    if (view_.IsAbandoned()) return;
     const bool is_line = menu_.Caption == "-";
     action_.setSeparator(is_line);
     action_.setText(is_line ? QString() : Marked(ToQString(menu_.Caption)));
@@ -71,20 +68,19 @@ class MenuBarView::Entry : public LayerView {
   }
 
   void Chosen() {
-    if (view_.IsAbandoned() || menu_.RefusesPerson() != forms::Refusal::kNone) return;
-    Changed();  // Qt has turned the mark by itself
+    if (menu_.RefusesPerson() != forms::Refusal::kNone) return;
+    Changed();  // Qt has toggled the mark by itself
     GetEvents().Deliver(menu_.HostWindow(), [this] { menu_.PersonClicks(); });
   }
 
   forms::Menu& menu_;
-  WindowView& view_;
   QAction& action_;
   const QChar letter_;
 };
 
 MenuBarView::MenuBarView(forms::Window& window, WindowView& view, QWidget& frame)
     : bar_(new QMenuBar(&frame)) {
-  bar_->setNativeMenuBar(false);  // it belongs to the window, on every desktop
+  bar_->setNativeMenuBar(false);  // it is part of the window on every desktop
   AddEntries(window, view, *bar_);
 }
 

@@ -1,16 +1,90 @@
 #include "ui/desktop/views/painted_widget.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QLabel>
 #include <QPaintEvent>
-#include <QPainter>
 
-#include "ui/desktop/app/style.h"
+#include "ui/desktop/app/theme.h"
 
 namespace lectern::desktop {
+
+namespace {
+
+bool IsEcho(QAccessibleInterface* shown) {
+  const auto* const spoken = shown == nullptr ? nullptr : dynamic_cast<const Spoken*>(shown->object());
+  return spoken != nullptr && spoken->is_echo;
+}
+
+// A panel, a picture or a label. It is a button where it can be pressed.
+class AccessiblePainting : public QAccessibleWidget {
+ public:
+  AccessiblePainting(QWidget& widget, const Spoken& spoken) : QAccessibleWidget(&widget), spoken_(spoken) {}
+
+  QAccessible::Role role() const override {
+    if (spoken_.press) return QAccessible::Button;
+    if (Label() != nullptr) return QAccessible::StaticText;
+    return widget()->children().isEmpty() ? QAccessible::Graphic : QAccessible::Grouping;
+  }
+
+  QString text(QAccessible::Text kind) const override {
+    const QString text = QAccessibleWidget::text(kind);
+    const bool shows_it = kind == QAccessible::Name && text.isEmpty() && Label() != nullptr;
+    return shows_it ? Label()->text() : text;
+  }
+
+  QStringList actionNames() const override {
+    QStringList names = QAccessibleWidget::actionNames();
+    if (spoken_.press) names.prepend(pressAction());
+    return names;
+  }
+
+  void doAction(const QString& name) override {
+    if (name == pressAction() && spoken_.press) {
+      spoken_.press();
+    } else {
+      QAccessibleWidget::doAction(name);
+    }
+  }
+
+  int childCount() const override { return static_cast<int>(SpokenChildren().size()); }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    return static_cast<int>(SpokenChildren().indexOf(const_cast<QAccessibleInterface*>(child)));
+  }
+  QAccessibleInterface* child(int index) const override { return SpokenChildren().value(index); }
+
+ private:
+  const QLabel* Label() const { return qobject_cast<const QLabel*>(widget()); }
+
+  // What lies in it and is read out.
+  QList<QAccessibleInterface*> SpokenChildren() const {
+    QList<QAccessibleInterface*> spoken;
+    for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
+      QAccessibleInterface* const child = QAccessibleWidget::child(i);
+      if (!IsEcho(child)) spoken.append(child);
+    }
+    return spoken;
+  }
+
+  const Spoken& spoken_;
+};
+
+QAccessibleInterface* Describe(const QString& /*class_name*/, QObject* object) {
+  auto* const widget = qobject_cast<QWidget*>(object);
+  if (const auto* spoken = dynamic_cast<Spoken*>(object)) return new AccessiblePainting(*widget, *spoken);
+  const bool is_plain_window =
+      widget != nullptr && widget->isWindow() && widget->metaObject() == &QWidget::staticMetaObject;
+  return is_plain_window ? new QAccessibleWidget(widget, QAccessible::Window) : nullptr;
+}
+
+}  // namespace
 
 void PaintedWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   paint_(painter, event->rect());
   if (hasFocus()) DrawFocusRing(painter, rect(), palette());
 }
+
+void DescribePaintedWidgets() { QAccessible::installFactory(Describe); }
 
 }  // namespace lectern::desktop

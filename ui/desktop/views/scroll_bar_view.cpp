@@ -1,24 +1,27 @@
-#include "ui/desktop/views/scroll_bar_view.h"
-
+// Horizontal scroll bars. A drag counts when the thumb is let go; meanwhile a tooltip shows the value under
+// it. A value beyond the range has its thumb at the end. A bar with keys of its own is stepped by them
+// wherever the focus is.
 #include <QCursor>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "ui/desktop/app/style.h"
+#include "forms/bars_and_timer.h"
+#include "ui/desktop/app/theme.h"
 #include "ui/desktop/views/keys.h"
-#include "ui/desktop/views/window_view.h"
+#include "ui/desktop/views/view_factory.h"
 
 namespace lectern::desktop {
 
 namespace {
 
-// One step for each notch of the wheel, and a ring around the bar while it has the focus.
-class Bar : public QScrollBar {
+// Makes one step for each notch of the wheel, and has a ring around it while it has the focus.
+class SteppedBar : public QScrollBar {
  public:
-  explicit Bar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
+  explicit SteppedBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
     setFocusPolicy(Qt::StrongFocus);
     setTracking(false);
   }
@@ -33,7 +36,7 @@ class Bar : public QScrollBar {
     event->accept();
   }
 
-  // Keys that go on and keys that go back, whichever way the bar lies.
+  // Up and Down step it as well, though it lies across.
   void keyPressEvent(QKeyEvent* event) override {
     switch (event->key()) {
       case Qt::Key_Right:
@@ -59,42 +62,56 @@ class Bar : public QScrollBar {
   }
 
  private:
-  int turned_ = 0;
+  int turned_ = 0;  // of a notch
+};
+
+class ScrollBarView : public ViewOf<forms::HScrollBar> {
+ public:
+  using ViewOf::ViewOf;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    widget_ = new SteppedBar(parent);
+    widget_->setSingleStep(1);
+    widget_->setPageStep(Control().LargeStep());
+    connect(widget_, &QScrollBar::valueChanged, [this](int value) {
+      if (Control().InRange(value)) Act([this, value] { Control().PersonScrolls(value); });
+    });
+    connect(widget_, &QScrollBar::sliderMoved, [this](int value) { ShowValue(value); });
+    return widget_;
+  }
+
+  void Apply() override {
+    if (widget_->isSliderDown()) return;  // the person holds the thumb
+    widget_->setRange(Control().Min, std::max(Control().Max(), Control().Min()));
+    widget_->setValue(Control().Value);
+  }
+
+  bool HandleWindowKey(const QKeyEvent& key) override {
+    const bool on = IsKey(key, QKeySequence(ToQString(Control().KeyOn())));
+    const bool back = IsKey(key, QKeySequence(ToQString(Control().KeyBack())));
+    if (!on && !back) return false;
+    if (widget_->isEnabled()) {
+      widget_->triggerAction(on ? QAbstractSlider::SliderSingleStepAdd
+                                : QAbstractSlider::SliderSingleStepSub);
+    }
+    return true;
+  }
+
+ private:
+  void ShowValue(int value) {
+    const QString name = ToQString(Control().AccessibleName());
+    const QString number = QString::number(value);
+    QToolTip::showText(QCursor::pos(), name.isEmpty() ? number : name + u' ' + number, widget_);
+  }
+
+  QScrollBar* widget_ = nullptr;
 };
 
 }  // namespace
 
-QWidget* ScrollBarView::Make(QWidget* parent) {
-  widget_ = new Bar(parent);
-  widget_->setSingleStep(1);
-  widget_->setPageStep(bar_.LargeStep());
-  connect(widget_, &QScrollBar::valueChanged, [this](int value) {
-    if (bar_.InRange(value)) Act([this, value] { bar_.PersonScrolls(value); });
-  });
-  connect(widget_, &QScrollBar::sliderMoved, [this](int value) { TellValue(value); });
-  return widget_;
-}
-
-void ScrollBarView::Apply() {
-  if (widget_->isSliderDown()) return;  // the hand is on it
-  widget_->setRange(bar_.Min, std::max(bar_.Max(), bar_.Min()));
-  widget_->setValue(bar_.Value);
-}
-
-bool ScrollBarView::HandleWindowKey(const QKeyEvent& key) {
-  const bool on = IsKey(key, QKeySequence(ToQString(bar_.KeyOn())));
-  const bool back = IsKey(key, QKeySequence(ToQString(bar_.KeyBack())));
-  if (!on && !back) return false;
-  if (widget_->isEnabled()) {
-    widget_->triggerAction(on ? QAbstractSlider::SliderSingleStepAdd : QAbstractSlider::SliderSingleStepSub);
-  }
-  return true;
-}
-
-void ScrollBarView::TellValue(int value) {
-  const QString name = ToQString(bar_.AccessibleName());
-  QToolTip::showText(QCursor::pos(),
-                     name.isEmpty() ? QString::number(value) : name + u' ' + QString::number(value), widget_);
+std::unique_ptr<ControlView> MakeScrollBarView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<ScrollBarView, forms::HScrollBar>(control, window, parent);
 }
 
 }  // namespace lectern::desktop

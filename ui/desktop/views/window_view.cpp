@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
@@ -12,6 +13,7 @@
 #include "ui/desktop/app/pictures.h"
 #include "ui/desktop/app/theme.h"
 #include "ui/desktop/layout/fitted_face.h"
+#include "ui/desktop/layout/places.h"
 #include "ui/desktop/layout/window_focus.h"
 #include "ui/desktop/views/child_views.h"
 #include "ui/desktop/views/control_view.h"
@@ -22,10 +24,8 @@ namespace lectern::desktop {
 
 namespace {
 
-// What the desktop puts around a window, at most: borders and a title.
+// What a desktop puts around a window, at most: borders and a title.
 constexpr QSize kDecoration(8, 36);
-
-int ToPixels(double twips) { return static_cast<int>(std::lround(twips / forms::kTwipsPerPixel)); }
 
 }  // namespace
 
@@ -35,7 +35,7 @@ class WindowView::FrameWidget : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override {
-    event->ignore();  // it is for the program to say what becomes of the window
+    event->ignore();  // the program decides what becomes of the window
     view_.CloseAsked();
   }
 
@@ -70,29 +70,19 @@ WindowView::WindowView(forms::Window& window, Events& events, std::function<void
   LayerView::Changed();
 }
 
-// The widgets go first, while the views that they report to still stand.
+// The focus leaves the widgets while all of them are whole.
 WindowView::~WindowView() {
-  if (!abandoned_) Abandon();
-  frame_.reset();
-}
-
-void WindowView::Abandon() {
-  for (forms::Control* control : window_.Controls()) {
-    if (control->GetKind() != forms::Kind::kTimer) control->Attach(nullptr);
-  }
   window_.Attach(nullptr);
-  abandoned_ = true;
   if (frame_) frame_->hide();
 }
 
-// A pointer is shown at once: it tells of the very handler that is at work.
+// A pointer is shown at once, as it is about the very handler that runs.
 void WindowView::Changed() {
   LayerView::Changed();
   if (frame_) ApplyPointer();
 }
 
 void WindowView::Refresh() {
-  if (abandoned_) return;
   if (!frame_) {
     if (!window_.Visible) return;
     Build();
@@ -104,13 +94,11 @@ void WindowView::Refresh() {
   ApplyColours();
   const bool appears = window_.Visible() && frame_->isHidden();
   frame_->setVisible(window_.Visible);
-  if (std::exchange(front_is_wanted_, false) || appears) ComeToFront();
-}
-
-void WindowView::ComeToFront() {
-  frame_->setWindowState(frame_->windowState() & ~Qt::WindowMinimized);
-  frame_->raise();
-  frame_->activateWindow();
+  if (std::exchange(front_is_wanted_, false) || appears) {
+    frame_->setWindowState(frame_->windowState() & ~Qt::WindowMinimized);
+    frame_->raise();
+    frame_->activateWindow();
+  }
 }
 
 void WindowView::TakeFocus() {
@@ -138,34 +126,19 @@ QWidget& WindowView::Face() {
   return *face_;
 }
 
-// What the controls take up of the client area, whether they can be seen by now or not. A dot is only kept
-// there.
-QRect WindowView::Covered(const QSize& client) const {
-  const QRect all(QPoint(0, 0), client);
-  QRect covered;
-  for (const forms::Control* child : window_.Children()) {
-    const auto* const control = dynamic_cast<const forms::PlacedControl*>(child);
-    if (control == nullptr) continue;
-    const QRect place(ToPixels(control->Left), ToPixels(control->Top), ToPixels(control->Width),
-                      ToPixels(control->Height));
-    if (place.width() > 1 && place.height() > 1) covered |= place & all;
-  }
-  return covered;
-}
-
-// Around the client area, which is what the window's size means; the menu bar takes its height above it.
+// The window's size is that of its client area. The menu bar takes its height above it.
 void WindowView::ApplySize() {
   const QSize client(ToPixels(window_.ClientWidth()), ToPixels(window_.ClientHeight()));
   const int above = menu_bar_ ? menu_bar_->Place(client.width()) : 0;
   const QSize room = frame_->screen()->availableSize() - kDecoration;
   const bool resized = face_->size() != client;
-  const QSize size = fitted_->Place(client, Covered(client), above, room);
+  const QSize size = fitted_->Place(client, CoveredPart(window_, client), above, room);
   if (frame_->size() != size) frame_->setFixedSize(size);
   if (resized && children_) children_->MarkStale();
 }
 
-// Only when the program moves the window: where a person has put it, it stays. Where it takes up all that
-// there is, it begins where the room does.
+// Moves the frame only when the program moves the window: where a person has put it, it stays. A frame that
+// takes all the room begins where the room does.
 void WindowView::ApplyPlace() {
   const std::pair<double, double> wanted{window_.Left, window_.Top};
   if (place_ == wanted) return;
@@ -200,9 +173,8 @@ void WindowView::ApplyColours() {
   if (children_) children_->Recolour();
 }
 
-// The desktop's own programs change while they are looked at, too.
 void WindowView::ThemeChanged() {
-  if (abandoned_ || !children_) return;
+  if (!children_) return;
   Changed();
   children_->Recolour();
   if (!GetEvents().AtWork()) GetEvents().Run([] {});
@@ -212,9 +184,7 @@ void WindowView::Arrange() {
   children_->Stack();
   std::vector<ControlView*> order;
   children_->AppendInTabOrder(order);
-  for (std::size_t i = 1; i < order.size(); ++i) {
-    QWidget::setTabOrder(order[i - 1]->Widget(), order[i]->Widget());
-  }
+  SetTabOrder(order);
 }
 
 void WindowView::WantsToCommit(ControlView& view) {
@@ -224,13 +194,11 @@ void WindowView::WantsToCommit(ControlView& view) {
 }
 
 void WindowView::Commit() {
-  for (ControlView* view : std::exchange(uncommitted_, {})) {
-    if (!abandoned_) view->Commit();
-  }
+  for (ControlView* view : std::exchange(uncommitted_, {})) view->Commit();
 }
 
 void WindowView::Settle() {
-  if (abandoned_ || !frame_ || frame_->isHidden()) return;
+  if (!frame_ || frame_->isHidden()) return;
   if (std::exchange(needs_arranging_, false)) Arrange();
   focus_->Settle();
 }
@@ -240,13 +208,12 @@ void WindowView::FocusIsWanted() {
 }
 
 void WindowView::FocusArrived() {
-  if (abandoned_ || !focus_) return;
+  if (!focus_) return;
   if (QWidget* const focus = frame_->focusWidget()) fitted_->BringIntoSight(*focus);
   focus_->Arrived();
 }
 
 forms::Control* WindowView::ButtonWith(int letter) const {
-  if (abandoned_) return nullptr;
   forms::Control* best = nullptr;
   unsigned best_shown_at = 0;
   for (forms::Control* control : window_.Controls()) {
@@ -266,19 +233,24 @@ bool WindowView::PressAccessKey(int letter) {
   forms::Control* const button = ButtonWith(letter);
   if (button == nullptr) return false;
   if (ControlView* view = SeenViewOf(button)) focus_->TakeToPress(*view);
-  // Leaving the field that had the focus may have done away with the button.
-  if (abandoned_ || button->RefusesPerson() != forms::Refusal::kNone) return true;
+  // Leaving the field that had the focus may have disabled or hidden the button.
+  if (button->RefusesPerson() != forms::Refusal::kNone) return true;
   GetEvents().Deliver(window_, [button] { button->PersonClicks(); });
   return true;
 }
 
 void WindowView::CloseAsked() {
-  if (!abandoned_) GetEvents().Run([this] { close_(window_); });
+  if (GetEvents().AtWork()) return;
+  GetEvents().RunLater([view = QPointer<WindowView>(this)] {
+    if (view == nullptr) return;  // the close box was pressed twice
+    const auto close = view->close_;
+    close(view->window_);
+  });
 }
 
 bool WindowView::HandleKey(const QKeyEvent& key) {
-  if (abandoned_ || !children_) return false;
-  return children_->Any([&key](ControlView& view) { return view.IsSeen() && view.HandleWindowKey(key); });
+  return children_ &&
+         children_->Any([&key](ControlView& view) { return view.IsSeen() && view.HandleWindowKey(key); });
 }
 
 double WindowView::Enlargement() const {
@@ -290,7 +262,7 @@ void WindowView::Enlarge(int steps) {
   constexpr int kSmallest = -6;
   constexpr int kLargest = 14;
   const int wanted = steps == 0 ? 0 : std::clamp(enlarged_ + steps, kSmallest, kLargest);
-  if (abandoned_ || std::exchange(enlarged_, wanted) == wanted) return;
+  if (std::exchange(enlarged_, wanted) == wanted) return;
   GetEvents().Run([this] {
     children_->Any([](ControlView& view) {
       view.Changed();
@@ -301,21 +273,19 @@ void WindowView::Enlarge(int steps) {
 
 bool WindowView::KeyPressed(const QKeyEvent& event) {
   if (HandleKey(event)) return true;
-  if (abandoned_) return false;
-  const int key = event.key();
-  if (key == Qt::Key_Escape) {
-    GetEvents().Deliver(window_, [this] { window_.PressCancelOfFrontPanel(); });
-    return true;
+  switch (event.key()) {
+    case Qt::Key_Escape:
+      GetEvents().Deliver(window_, [this] { window_.PressCancelOfFrontPanel(); });
+      return true;
+    case Qt::Key_F6:
+      focus_->ChangeBetweenPanels();
+      return true;
+    case Qt::Key_F10:
+      if (menu_bar_) menu_bar_->OpenFirst();
+      return menu_bar_ != nullptr;
+    default:
+      return false;
   }
-  if (key == Qt::Key_F6) {
-    focus_->ChangeBetweenPanels();
-    return true;
-  }
-  if (key == Qt::Key_F10 && menu_bar_) {
-    menu_bar_->OpenFirst();
-    return true;
-  }
-  return false;
 }
 
 }  // namespace lectern::desktop

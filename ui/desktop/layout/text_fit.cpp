@@ -1,4 +1,4 @@
-#include "ui/desktop/text/text_fit.h"
+#include "ui/desktop/layout/text_fit.h"
 
 #include <QFontMetrics>
 #include <QTextLayout>
@@ -8,10 +8,10 @@ namespace lectern::desktop {
 
 namespace {
 
-constexpr double kSmallestShare = 0.8;  // of the size that is wanted
+constexpr double kSmallestShare = 0.8;  // of the wanted size
 constexpr double kStep = 0.05;
 
-QFont Scaled(const QFont& font, double share) {
+QFont ScaledFont(const QFont& font, double share) {
   QFont scaled = font;
   if (font.pointSizeF() > 0) {
     scaled.setPointSizeF(font.pointSizeF() * share);
@@ -21,19 +21,19 @@ QFont Scaled(const QFont& font, double share) {
   return scaled;
 }
 
-// The largest share of the font at which the text fits, or the smallest there is.
+// The font at the largest size at which the text fits, or at the smallest allowed.
 template <class Fits>
 QFont LargestThatFits(const QFont& font, Fits fits) {
   if (fits(font)) return font;
   QFont scaled = font;
   for (double share = 1 - kStep; share > kSmallestShare - kStep / 2; share -= kStep) {
-    scaled = Scaled(font, share);
+    scaled = ScaledFont(font, share);
     if (fits(scaled)) break;
   }
   return scaled;
 }
 
-// The lines that there is room for, the last of them ending in dots.
+// The lines that fit, the last of them ending in dots.
 QString CutToLines(const QString& text, const QFont& font, const QSize& place) {
   QTextLayout layout(text, font);
   QTextOption option;

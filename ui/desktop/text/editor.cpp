@@ -1,0 +1,144 @@
+// A sheet: a text that is edited. Each edit goes to the control as it is, whatever the size of the text.
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <algorithm>
+#include <string>
+
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/text/page_setting.h"
+#include "ui/desktop/text/rich_text_view.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+class Editor : public RichTextView {
+ public:
+  using RichTextView::RichTextView;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    sheet_ = new QPlainTextEdit(parent);
+    sheet_->setTabChangesFocus(true);
+    document_ = sheet_->document();
+    connect(document_, &QTextDocument::contentsChange,
+            [this](int at, int removed, int added) { NoteEdit(at, removed, added); });
+    connect(document_, &QTextDocument::contentsChanged, [this] { ReportEdit(); });
+    connect(sheet_, &QPlainTextEdit::cursorPositionChanged, [this] { SelectionMoved(); });
+    connect(sheet_, &QPlainTextEdit::selectionChanged, [this] { SelectionMoved(); });
+    return sheet_;
+  }
+
+  QFont WantedFont() const override { return ForWriting(ControlView::WantedFont()); }
+
+  void Apply() override {
+    const Changes changes = TakeChanges(sheet_->palette().color(QPalette::Base));
+    const bool runs_moved = std::exchange(runs_moved_, false);
+    if (changes.text) {
+      Load();
+    } else if (runs_moved || changes.styles) {
+      ShowStyles();
+    }
+    if (changes.selection) sheet_->setTextCursor(Selection(*document_));
+    if (changes.text) sheet_->verticalScrollBar()->setValue(0);
+    if (changes.marks) ScrollToFirstMark();
+  }
+
+  void Commit() override {
+    if (reports_edit_) return;  // the selection belongs to the text after the edit
+    CommitSelection(sheet_->textCursor());
+  }
+
+ private:
+  struct Edit {
+    std::size_t start;
+    std::size_t removed;
+    std::string inserted;
+  };
+
+  void Load() {
+    constexpr int kMargin = 8;  // pixels
+    const std::string& text = Control().Text;
+    positions_.Read(text);
+    has_styles_ = false;
+    document_->setUndoRedoEnabled(false);
+    document_->setDocumentMargin(kMargin);
+    sheet_->setPlainText(ToDocument(text));
+    ShowStyles();
+    document_->setUndoRedoEnabled(true);
+    length_ = Length();
+  }
+
+  void ShowStyles() {
+    const bool has_runs = !Control().Runs().All().empty();
+    if (!has_runs && !has_styles_) return;
+    has_styles_ = has_runs;
+    LayStyles(*document_, Control().Runs(), positions_, nullptr, sheet_->palette(), 1);
+  }
+
+  void ScrollToFirstMark() {
+    const std::optional<int> mark = FirstMark();
+    if (!mark) return;
+    QTextCursor at(document_);
+    at.setPosition(*mark);
+    const QRect place = sheet_->cursorRect(at);
+    const QRect open = OpenPart(*sheet_);
+    if (place.top() >= open.top() && place.bottom() <= open.bottom()) return;
+    sheet_->verticalScrollBar()->setValue(at.block().firstLineNumber());
+  }
+
+  int Length() const { return document_->characterCount() - 1; }
+
+  void NoteEdit(int at, int removed, int added) {
+    if (GetEvents().AtWork()) return;
+    // Qt counts the end of the document along where an edit reaches it.
+    const int length = Length();
+    const int beyond = std::max({at + added - length, at + removed - length_, 0});
+    removed -= beyond;
+    added -= beyond;
+    if (removed < 0 || added < 0 || length != length_ - removed + added) {
+      at = 0;
+      removed = length_;
+      added = length;
+    }
+    if (removed == 0 && added == 0) return;
+    QTextCursor cursor(document_);
+    cursor.setPosition(at);
+    cursor.setPosition(at + added, QTextCursor::KeepAnchor);
+    QString text = cursor.selectedText();
+    text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+    std::string inserted = forms::WithCrLf(text.toStdString());
+    const std::size_t start = positions_.ToForms(at);
+    const std::size_t end = positions_.ToForms(at + removed);
+    positions_.Edited(at, removed, inserted);
+    length_ = length;
+    edit_ = {start, end - start, std::move(inserted)};
+  }
+
+  void ReportEdit() {
+    const auto edit = std::exchange(edit_, std::nullopt);
+    if (!edit) return;
+    runs_moved_ = has_styles_;
+    reports_edit_ = true;
+    Act([&] { Control().PersonEdits(edit->start, edit->removed, edit->inserted); });
+    reports_edit_ = false;
+    SelectionMoved();
+  }
+
+  QPlainTextEdit* sheet_ = nullptr;
+  QTextDocument* document_ = nullptr;  // owned by sheet_
+  int length_ = 0;                     // of the text, as Qt counts
+  std::optional<Edit> edit_;           // noted and not yet reported
+  bool has_styles_ = false;
+  bool runs_moved_ = false;  // along with text that was edited
+  bool reports_edit_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeEditor(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<Editor, forms::RichTextBox>(control, window, parent);
+}
+
+}  // namespace lectern::desktop

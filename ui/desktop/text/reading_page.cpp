@@ -1,0 +1,251 @@
+// A page: a text that is read, selected and copied, and not edited.
+#include <QAbstractTextDocumentLayout>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QTextFrame>
+#include <QWheelEvent>
+#include <algorithm>
+#include <functional>
+#include <string>
+
+#include "ui/desktop/app/theme.h"
+#include "ui/desktop/text/page_setting.h"
+#include "ui/desktop/text/rich_text_view.h"
+#include "ui/desktop/views/keys.h"
+#include "ui/desktop/views/window_view.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+constexpr int kPageMargin = 14;  // pixels
+
+class PageWidget : public QTextEdit {
+ public:
+  explicit PageWidget(QWidget* parent) : QTextEdit(parent) {
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setCursorWidth(0);
+    // The text has the same width whatever its length.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  }
+
+  // Whether the selection can be quoted, and copying the quotation. `quote` is empty where the text is not
+  // quoted.
+  std::function<bool()> can_quote;
+  std::function<void()> quote;
+
+  // The wheel was turned with Ctrl: the text is to be that many steps larger.
+  std::function<void(int steps)> wants_larger;
+
+  // What is at the top of the viewport.
+  struct Place {
+    int position = 0;  // in the document
+    int above = 0;     // pixels of its line that are out of sight
+  };
+
+  Place TopPlace() const {
+    const QTextCursor top = cursorForPosition(QPoint(viewport()->width() / 2, 0));
+    return {top.position(), -cursorRect(top).top()};
+  }
+
+  void ScrollTo(const Place& place) {
+    QTextCursor at(document());
+    at.setPosition(std::min(place.position, document()->characterCount() - 1));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(at).top() + place.above);
+  }
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if ((event->modifiers() & Qt::ControlModifier) == 0) return QTextEdit::wheelEvent(event);
+    constexpr int kNotch = 120;
+    turned_ += event->angleDelta().y();
+    const int steps = turned_ / kNotch;
+    turned_ %= kNotch;
+    event->accept();
+    if (steps != 0) wants_larger(steps);
+  }
+
+  // Where nothing is selected, the menu is about the paragraph that was pressed on.
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    const bool by_mouse = event->reason() == QContextMenuEvent::Mouse;
+    if (by_mouse && !textCursor().hasSelection()) SelectParagraphAt(event->pos());
+    QMenu* const menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (quote) {
+      const QList<QAction*> actions = menu->actions();
+      auto* const action = new QAction(tr("Copy with &Reference"), menu);
+      action->setShortcut(QuoteKey());
+      action->setEnabled(can_quote());
+      connect(action, &QAction::triggered, this, [this] { quote(); });
+      menu->insertAction(actions.size() > 1 ? actions[1] : nullptr, action);
+    }
+    menu->popup(by_mouse ? event->globalPos() : viewport()->mapToGlobal(cursorRect().bottomLeft()));
+  }
+
+ private:
+  void SelectParagraphAt(const QPoint& point) {
+    QTextCursor cursor = cursorForPosition(point);
+    const QRectF paragraph = document()->documentLayout()->blockBoundingRect(cursor.block());
+    if (point.y() + verticalScrollBar()->value() > paragraph.bottom()) return;
+    cursor.movePosition(QTextCursor::StartOfBlock);
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+  }
+
+  int turned_ = 0;  // of a notch of the wheel
+};
+
+class ReadingPage : public RichTextView {
+ public:
+  using RichTextView::RichTextView;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    page_ = new PageWidget(parent);
+    page_->wants_larger = [this](int steps) { GetWindow().Enlarge(steps); };
+    if (Control().Quote) {
+      page_->can_quote = [this] { return CanQuote(); };
+      page_->quote = [this] { Quote(); };
+    }
+    connect(page_, &QTextEdit::cursorPositionChanged, [this] { SelectionMoved(); });
+    connect(page_, &QTextEdit::selectionChanged, [this] { SelectionMoved(); });
+    return page_;
+  }
+
+  // What is read for a long time is larger than what is pressed, and as large as the reader wants it.
+  QFont WantedFont() const override {
+    const double size = Control().FontSize > 0 ? Control().FontSize() : forms::kReadingSize;
+    QFont font = ControlView::WantedFont();
+    font.setPointSizeF(size * GetWindow().Enlargement());
+    return font;
+  }
+
+  void FontWillChange() override { place_ = page_->TopPlace(); }
+
+  void Apply() override {
+    const Changes changes = TakeChanges(page_->palette().color(QPalette::Base));
+    const bool is_new = changes.text && !(document_ != nullptr && text_ == Control().Text);
+    const bool is_set_anew = !is_new && font_ != page_->font();
+    if (changes.text) SetRoomAbove(0);
+    QScrollBar* const bar = page_->verticalScrollBar();
+    const int scrolled = bar->value();
+    if (is_new || is_set_anew) {
+      Load();
+    } else if (changes.styles) {
+      LayStyles(*document_);
+    }
+    if (changes.selection || is_set_anew) page_->setTextCursor(Selection(*document_));
+    // Qt has scrolled to the selection; the reader's place counts more.
+    if (changes.text) bar->setValue(is_new ? 0 : scrolled);
+    if (is_set_anew) page_->ScrollTo(place_);
+    if (changes.marks) ScrollToFirstMark();
+  }
+
+  // The keys that move a caret elsewhere scroll a page. With Shift they select, and the caret is shown from
+  // then on.
+  bool HandleKey(const QKeyEvent& key) override {
+    if (const auto action = ScrollActionOf(key)) {
+      page_->verticalScrollBar()->triggerAction(*action);
+      return true;
+    }
+    if (MovesCaret(key)) page_->setCursorWidth(1);
+    return false;
+  }
+
+  bool HandleWindowKey(const QKeyEvent& key) override {
+    if (const auto steps = ZoomOf(key)) {
+      GetWindow().Enlarge(*steps);
+      return true;
+    }
+    if (!Control().Quote || !IsKey(key, QuoteKey())) return false;
+    Quote();
+    return true;
+  }
+
+  void Commit() override { CommitSelection(page_->textCursor()); }
+
+ private:
+  // A new document is quicker than writing into the one that is shown.
+  void Load() {
+    text_ = Control().Text;
+    font_ = page_->font();
+    positions_.Read(text_);
+    const QString shown = ToDocument(text_);
+    setting_.emplace(font_, shown);
+    std::unique_ptr<QTextDocument> document = setting_->Document(shown, page_->viewport()->width());
+    document->setDocumentMargin(kPageMargin);
+    LayStyles(*document);
+    document->setParent(page_);
+    const std::unique_ptr<QTextDocument> former(document_);
+    document_ = document.release();
+    page_->setDocument(document_);
+    SetRoomAbove(std::exchange(room_above_, 0));
+    page_->setCursorWidth(0);
+  }
+
+  void LayStyles(QTextDocument& document) {
+    desktop::LayStyles(document, Control().Runs(), positions_, &*setting_, page_->palette(),
+                       GetWindow().Enlargement());
+  }
+
+  // Leaves room ahead of the text, so that its first lines can be scrolled down. What is seen stays where it
+  // is, as far as possible.
+  void SetRoomAbove(int pixels) {
+    const int more = pixels - std::exchange(room_above_, pixels);
+    if (more == 0) return;
+    QTextFrameFormat format = document_->rootFrame()->frameFormat();
+    format.setTopMargin(kPageMargin + pixels);
+    document_->rootFrame()->setFrameFormat(format);
+    QScrollBar* const bar = page_->verticalScrollBar();
+    bar->setValue(bar->value() + more);
+  }
+
+  // Brings the first mark to the upper third of what no panel covers, unless it is there already. A mark in
+  // the first lines, which a panel covers however the text is scrolled, gets room above.
+  void ScrollToFirstMark() {
+    const std::optional<int> mark = FirstMark();
+    if (!mark) return;
+    QTextCursor at(document_);
+    at.setPosition(*mark);
+    const QRect place = page_->cursorRect(at);
+    const QRect open = OpenPart(*page_);
+    if (place.top() >= open.top() && place.bottom() <= open.bottom()) return;
+    QScrollBar* const bar = page_->verticalScrollBar();
+    const int top = bar->value() + place.top();  // of the mark, in the whole text
+    const int wanted = top - open.top() - open.height() / 3;
+    if (top < open.top()) SetRoomAbove(room_above_ - wanted);
+    bar->setValue(std::max(wanted, 0));
+  }
+
+  bool CanQuote() {
+    Commit();
+    return !Control().Quote().empty();
+  }
+
+  void Quote() {
+    if (CanQuote()) QGuiApplication::clipboard()->setText(ToQString(Control().Quote()));
+  }
+
+  PageWidget* page_ = nullptr;
+  QTextDocument* document_ = nullptr;  // owned by page_
+  std::optional<PageSetting> setting_;
+  std::string text_;         // as loaded
+  QFont font_;               // the same
+  PageWidget::Place place_;  // ahead of a change of the font
+  int room_above_ = 0;       // pixels
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeReadingPage(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<ReadingPage, forms::RichTextBox>(control, window, parent);
+}
+
+}  // namespace lectern::desktop

@@ -1,0 +1,286 @@
+// Lists in even rows: list boxes and file lists, and the list of folders.
+#include <QAbstractListModel>
+#include <QKeyEvent>
+#include <QListView>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QStringListModel>
+#include <QStyledItemDelegate>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/lists.h"
+#include "forms/window.h"
+#include "ui/desktop/views/keys.h"
+#include "ui/desktop/views/view_factory.h"
+
+namespace lectern::desktop {
+
+namespace {
+
+// Rows with a little space between them.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    constexpr int kSpace = 5;
+    const QVariant font = index.data(Qt::FontRole);
+    const QFontMetrics metrics(font.isValid() ? font.value<QFont>() : option.font);
+    return {metrics.horizontalAdvance(index.data().toString()) + 2 * kSpace, metrics.height() + kSpace};
+  }
+
+ protected:
+  // The selection shows where the focus is; a frame around the row is not needed.
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->state &= ~QStyle::State_HasFocus;
+  }
+};
+
+// A list that selects nothing by itself: it reports what the person does, and its view shows the selection
+// that results.
+class ListWidget : public QListView {
+ public:
+  explicit ListWidget(QWidget* parent) : QListView(parent) {
+    setItemDelegate(new RowDelegate(this));
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setVerticalScrollMode(ScrollPerItem);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setTextElideMode(Qt::ElideRight);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
+  }
+
+  // Rows count from 0; -1 is below the last one.
+  std::function<void(int row, const QMouseEvent& mouse)> pressed;
+  std::function<void(int row)> double_clicked;
+  std::function<void(int row)> moved;  // by a key
+
+  // Selects the row, or nothing for -1. Scrolls to a row that was not selected before.
+  void ShowSelected(int row) {
+    if (row == SelectedRow()) return;
+    const QModelIndex index = row < 0 ? QModelIndex() : model()->index(row, 0);
+    if (index.isValid()) {
+      selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+      scrollTo(index);
+    } else {
+      selectionModel()->clearSelection();
+    }
+  }
+
+  // Qt finds the row and makes it the current one.
+  void keyboardSearch(const QString& text) override {
+    const int selected = SelectedRow();
+    QListView::keyboardSearch(text);
+    const int row = currentIndex().row();
+    if (row >= 0 && row != selected) moved(row);
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    pressed_row_ = indexAt(event->position().toPoint()).row();
+    pressed(pressed_row_, *event);
+  }
+  void mouseMoveEvent(QMouseEvent* /*event*/) override {}
+  void mouseReleaseEvent(QMouseEvent* /*event*/) override {}
+
+  // Two quick presses on different rows are no double click.
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    const int row = indexAt(event->position().toPoint()).row();
+    if (row == pressed_row_ && event->button() == Qt::LeftButton) {
+      double_clicked(row);
+    } else {
+      mousePressEvent(event);
+    }
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    switch (event->key()) {
+      case Qt::Key_Up:
+        return Move(MoveUp);
+      case Qt::Key_Down:
+        return Move(MoveDown);
+      case Qt::Key_PageUp:
+        return Move(MovePageUp);
+      case Qt::Key_PageDown:
+        return Move(MovePageDown);
+      case Qt::Key_Home:
+        return Move(MoveHome);
+      case Qt::Key_End:
+        return Move(MoveEnd);
+      default:
+        QListView::keyPressEvent(event);
+    }
+  }
+
+  // Leaves empty, above and below, what is too low for one more row, so that no row is cut.
+  void updateGeometries() override {
+    const int row = sizeHintForRow(0);
+    const QMargins kept_empty = viewportMargins();
+    const int height = viewport()->height() + kept_empty.top() + kept_empty.bottom();
+    const int spare = row > 0 ? height % row : 0;
+    const QMargins wanted(0, spare / 2, 0, spare - spare / 2);
+    if (wanted != kept_empty) setViewportMargins(wanted);
+    QListView::updateGeometries();
+  }
+
+ private:
+  int SelectedRow() const {
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.first().row();
+  }
+
+  void Move(CursorAction action) {
+    const int selected = SelectedRow();
+    const QModelIndex target = moveCursor(action, Qt::NoModifier);
+    // With nothing selected the first move selects the current row.
+    const bool stays = selected < 0 && currentIndex().isValid() && action != MoveEnd && action != MoveHome;
+    const int row = stays ? currentIndex().row() : target.row();
+    if (row >= 0 && row != selected) moved(row);
+  }
+
+  int pressed_row_ = -1;
+};
+
+// The control's items, read where they are shown, so that a long list costs what is seen of it. Items that
+// were added at the end join the others; any other change makes the list anew.
+class ItemModel : public QAbstractListModel {
+ public:
+  explicit ItemModel(const forms::ItemList& list) : list_(list) {}
+
+  int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
+
+  QVariant data(const QModelIndex& index, int role) const override {
+    return role == Qt::DisplayRole ? ToQString(list_.List(index.row())) : QVariant();
+  }
+
+  // Takes over the control's changes. Returns whether the list was made anew.
+  bool Follow() {
+    const int count = list_.ListCount();
+    if (generation_ != list_.Generation()) {
+      beginResetModel();
+      rows_ = count;
+      generation_ = list_.Generation();
+      endResetModel();
+      return true;
+    }
+    if (count > rows_) {
+      beginInsertRows({}, rows_, count - 1);
+      rows_ = count;
+      endInsertRows();
+    }
+    return false;
+  }
+
+ private:
+  const forms::ItemList& list_;
+  int rows_ = 0;
+  unsigned generation_ = 0;
+};
+
+class ListView : public ViewOf<forms::ItemList> {
+ public:
+  ListView(forms::ItemList& list, WindowView& window, QWidget& parent)
+      : ViewOf(list, window, parent), items_(list) {}
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    widget_ = new ListWidget(parent);
+    widget_->setModel(&items_);
+    widget_->pressed = [this](int row, const QMouseEvent& mouse) {
+      Act([&] { Control().PersonPresses(ToMouseEvent(mouse, mouse.button())); });
+      if (mouse.button() != Qt::LeftButton) return;
+      Act([&] { Control().PersonMovesSelection(row < Control().ListCount() ? row : -1); });
+    };
+    widget_->double_clicked = [this](int) { Act([this] { Control().DblClick(); }); };
+    widget_->moved = [this](int row) {
+      Act([&] {
+        if (row < Control().ListCount()) Control().PersonMovesSelection(row);
+      });
+    };
+    return widget_;
+  }
+
+  // A list that is made anew stays scrolled as it was, as far as it can.
+  void Apply() override {
+    QScrollBar* const bar = widget_->verticalScrollBar();
+    const int top = bar->value();
+    if (items_.Follow()) bar->setValue(top);
+    widget_->ShowSelected(Control().SelectedIndex());
+  }
+
+  Ground GetGround() const override { return Ground::kField; }
+
+ private:
+  ItemModel items_;
+  ListWidget* widget_ = nullptr;
+};
+
+// The folders on the way to the one that is open, and those inside it, indented by their depth. A double
+// click or Enter opens one.
+class FolderView : public ViewOf<forms::DirListBox> {
+ public:
+  using ViewOf::ViewOf;
+
+ protected:
+  QWidget* Make(QWidget* parent) override {
+    widget_ = new ListWidget(parent);
+    widget_->setModel(&rows_);
+    widget_->pressed = [this](int row, const QMouseEvent&) { widget_->ShowSelected(row); };
+    widget_->double_clicked = [this](int row) { Open(row); };
+    widget_->moved = [this](int row) { widget_->ShowSelected(row); };
+    return widget_;
+  }
+
+  void Apply() override {
+    if (!entries_.empty() && path_ == Control().Path()) return;
+    path_ = Control().Path;
+    entries_ = Control().Entries();
+    const std::string open = Control().HostWindow().Files().HostPath(path_);
+    QStringList rows;
+    int open_row = -1;
+    for (const forms::DirListBox::Entry& entry : entries_) {
+      constexpr qsizetype kIndent = 3;  // blanks
+      if (entry.path == open) open_row = static_cast<int>(rows.size());
+      rows.append(QString(kIndent * entry.depth, u' ') + ToQString(entry.name));
+    }
+    rows_.setStringList(rows);
+    widget_->ShowSelected(open_row);
+  }
+
+  Ground GetGround() const override { return Ground::kField; }
+
+  bool HandleKey(const QKeyEvent& key) override {
+    if (KeyCode(key) != forms::kEnterKey) return false;
+    Open(widget_->currentIndex().row());
+    return true;
+  }
+
+ private:
+  void Open(int row) {
+    if (row < 0 || row >= static_cast<int>(entries_.size())) return;
+    Act([this, path = entries_[static_cast<std::size_t>(row)].path] { Control().PersonOpens(path); });
+  }
+
+  std::vector<forms::DirListBox::Entry> entries_;  // as shown
+  std::string path_;
+  QStringListModel rows_;
+  ListWidget* widget_ = nullptr;
+};
+
+}  // namespace
+
+std::unique_ptr<ControlView> MakeListView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<ListView, forms::ItemList>(control, window, parent);
+}
+
+std::unique_ptr<ControlView> MakeFolderView(forms::Control& control, WindowView& window, QWidget& parent) {
+  return MakeViewOf<FolderView, forms::DirListBox>(control, window, parent);
+}
+
+}  // namespace lectern::desktop

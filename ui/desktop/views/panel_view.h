@@ -1,0 +1,43 @@
+// Panels: what other controls lie in. The views of what lies in a panel are made when the panel is first
+// seen.
+#pragma once
+
+#include <memory>
+
+#include "ui/desktop/views/child_views.h"
+#include "ui/desktop/views/clickable_view.h"
+
+namespace lectern::desktop {
+
+class PanelView : public ClickableView {
+ public:
+  // Requires: the control is a container.
+  PanelView(forms::PlacedControl& control, WindowView& window, QWidget& parent)
+      : ClickableView(control, window, parent), container_(dynamic_cast<forms::Container&>(control)) {}
+
+  void Refresh() override;
+  void Stacked() override;
+  ChildViews* Children() override { return children_.get(); }
+
+ protected:
+  QWidget* Make(QWidget* parent) override;
+  void Apply() override;
+  void Resized() override;
+  Ground GetGround() const override { return Ground::kPanel; }
+
+  virtual void Paint(QPainter& painter, const QRect& exposed) = 0;
+
+  // Paints fine lines along the edges of the panel, except for those on an edge of what it lies in.
+  void PaintEdges(QPainter& painter) const;
+
+ private:
+  void CastShadow();
+
+  forms::Container& container_;
+  std::unique_ptr<ChildViews> children_;
+  QWidget* shadow_ = nullptr;  // of a panel that was opened over its window
+  unsigned shown_at_ = 0;
+  QRgb ground_ = 0;  // as the children know it
+};
+
+}  // namespace lectern::desktop
