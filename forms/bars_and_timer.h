@@ -18,10 +18,13 @@ struct HScrollBarDesign {
   int large_step = 1;           // how far a click into the trough goes
   std::string_view key_back{};  // steps back, wherever the focus is, such as "Ctrl+PgUp"
   std::string_view key_on{};    // the same for a step on
+  bool follows_thumb = false;   // while a person drags it
+  bool counts_from_1 = false;   // a person is shown 1 for the value 0
 };
 
 // Writing a Value outside Min to Max is refused (error 380); a Value that a new Max leaves outside stays as
-// it is. Change runs once at the end of a person's drag.
+// it is. Change runs once at the end of a person's drag; a bar that follows the thumb runs it at every
+// position that the drag passes.
 class HScrollBar : public PlacedControl {
  public:
   using Design = HScrollBarDesign;
@@ -38,14 +41,18 @@ class HScrollBar : public PlacedControl {
                .change = [this] { Change(); }}),
         large_step_(design.large_step),
         key_back_(design.key_back),
-        key_on_(design.key_on) {}
+        key_on_(design.key_on),
+        follows_thumb_(design.follows_thumb),
+        counts_from_1_(design.counts_from_1) {}
 
   bool InRange(int value) const { return value >= Min && value <= Max; }
   int LargeStep() const { return large_step_; }
   const std::string& KeyBack() const { return key_back_; }
   const std::string& KeyOn() const { return key_on_; }
+  bool FollowsThumb() const { return follows_thumb_; }
+  int ShownNumber(int value) const { return counts_from_1_ ? value + 1 : value; }
 
-  // The person lets go of the thumb at a value. Requires: InRange(value).
+  // The person moves the thumb to a value. Requires: InRange(value).
   void PersonScrolls(int value) {
     assert(InRange(value));
     Value = value;
@@ -60,6 +67,8 @@ class HScrollBar : public PlacedControl {
   int large_step_;
   std::string key_back_;
   std::string key_on_;
+  bool follows_thumb_;
+  bool counts_from_1_;
 };
 
 struct ProgressBarDesign {

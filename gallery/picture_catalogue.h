@@ -108,7 +108,8 @@ class PictureCatalogue {
   // Index of the last slot on the strip's page.
   forms::Label lblendpic{Frame5_, "lblendpic", {.caption = "lblendpic"}};
   // Index of the viewer's picture.
-  forms::HScrollBar picnm{picp_, "picnm", {.name = "Picture of the book"}};
+  forms::HScrollBar picnm{
+      picp_, "picnm", {.name = "Picture of the book", .follows_thumb = true, .counts_from_1 = true}};
 
  private:
   void ExtractBookPictures();

@@ -14,8 +14,8 @@ constexpr std::string_view kBlanks = " \t\r\n";
 
 struct Line {
   std::string_view number;  // of a verse; "" for any other line
-  std::string_view words;   // what was selected of it, without the blanks around
-  bool has_number;          // whether the number was selected along
+  std::string_view words;   // what is selected of it, trimmed
+  bool has_number;          // whether the number is selected too
 };
 
 std::string_view Trimmed(std::string_view text) {
@@ -23,7 +23,7 @@ std::string_view Trimmed(std::string_view text) {
   return first == std::string_view::npos ? "" : text::TrimEnd(text.substr(first));
 }
 
-// The digits that a verse begins with and that a blank follows.
+// The digits that a line begins with, if a blank follows them.
 std::string_view NumberOf(std::string_view line) {
   const std::size_t end = line.find_first_not_of("0123456789");
   return end == std::string_view::npos || line[end] != ' ' ? "" : line.substr(0, end);

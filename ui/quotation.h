@@ -1,5 +1,5 @@
-// A passage as a reader takes it elsewhere: the words that were selected in a chapter, and behind them where
-// they stand, as in "Jesus wept. (John 11:35, KJV)".
+// A passage as a reader copies it: the selected words of a chapter and their place, as in
+// "Jesus wept. (John 11:35, KJV)".
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@
 
 namespace lectern::ui {
 
-// The selection of a pane that shows the chapter. A verse by itself goes without its number; several keep
-// theirs and a line each. The heading of the chapter that follows is left out. Of a line whose chapter is not
-// known only the book is told. "" where no words are selected.
+// Quotes the selection of a pane that shows the chapter. A single verse loses its number; several keep
+// theirs, each on a line of its own. The heading of the next chapter is left out. Where the chapter is not
+// known, only the book is named. Returns "" where no words are selected.
 std::string QuotationFrom(const forms::RichTextBox& pane, const reader::ShownChapter& place);
 
-// The same for `length` characters of a chapter's text from `start` on, which counts from 0.
+// The same for `length` characters of a chapter's text from `start` on, counted from 0.
 std::string Quotation(std::string_view text, std::size_t start, std::size_t length,
                       const reader::ShownChapter& place);
 

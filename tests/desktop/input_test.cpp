@@ -7,6 +7,7 @@
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include "tests/desktop/stage.h"
 
@@ -84,6 +85,15 @@ TEST_F(Stage, AScrollBarCountsADragAtItsEndAndStepsByOne) {
   EXPECT_EQ(bar->value(), 10);
   EXPECT_EQ(window->bar.Value, 30);
   EXPECT_EQ(Key("bar", Qt::Key_Left), "bar 9");
+  // One that follows the thumb counts every position, and shows a person its number from 1 on.
+  Log();
+  auto* const follower = Find<QScrollBar>("follower");
+  follower->setSliderDown(true);
+  follower->setSliderPosition(3);
+  EXPECT_EQ(QToolTip::text(), "Picture 4");
+  follower->setSliderPosition(5);
+  follower->setSliderDown(false);
+  EXPECT_EQ(Log(), "follower 3, follower 5");
 }
 
 TEST_F(Stage, TypingAndPickingInAComboBoxAreTwoThings) {

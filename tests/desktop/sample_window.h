@@ -26,18 +26,39 @@ class SampleWindow : public forms::Window {
     const struct {
       forms::PlacedControl* control;
       double left, top, width, height;
-    } kPlaces[] = {
-        {&label, 10, 10, 90, 20},         {&line_box, 110, 8, 150, 24},        {&page_box, 10, 40, 250, 70},
-        {&command, 10, 120, 110, 28},     {&search, 130, 120, 130, 28},        {&option, 10, 158, 110, 22},
-        {&bare_option, 130, 158, 20, 22}, {&option_text, 152, 160, 108, 20},   {&combo, 10, 185, 250, 26},
-        {&bar, 10, 220, 250, 22},         {&progress, 10, 250, 250, 16},       {&list, 280, 10, 145, 180},
-        {&files, 280, 200, 145, 66},      {&folders, 435, 10, 145, 180},       {&drives, 435, 200, 145, 26},
-        {&image, 600, 10, 80, 60},        {&clickable_image, 690, 10, 80, 60}, {&shape, 600, 80, 40, 40},
-        {&swatch_label, 610, 90, 30, 20}, {&line, 650, 100, 120, 0},           {&frame, 600, 130, 180, 136},
-        {&in_frame, 10, 30, 160, 20},     {&ss_option, 10, 56, 100, 22},       {&ss_option2, 10, 80, 100, 22},
-        {&ss_command, 10, 104, 100, 26},  {&canvas, 10, 280, 250, 200},        {&page, 280, 280, 245, 200},
-        {&sheet, 535, 280, 245, 200},     {&panel, 300, 250, 300, 160},        {&cancel, 180, 120, 100, 28},
-        {&in_panel, 10, 10, 200, 24},     {&far_away, 1200, 10, 100, 20}};
+    } kPlaces[] = {{&label, 10, 10, 90, 20},
+                   {&line_box, 110, 8, 150, 24},
+                   {&page_box, 10, 40, 250, 70},
+                   {&command, 10, 120, 110, 28},
+                   {&search, 130, 120, 130, 28},
+                   {&option, 10, 158, 110, 22},
+                   {&bare_option, 130, 158, 20, 22},
+                   {&option_text, 152, 160, 108, 20},
+                   {&combo, 10, 185, 250, 26},
+                   {&bar, 10, 220, 250, 22},
+                   {&progress, 10, 250, 250, 16},
+                   {&list, 280, 10, 145, 180},
+                   {&files, 280, 200, 145, 66},
+                   {&folders, 435, 10, 145, 180},
+                   {&drives, 435, 200, 145, 26},
+                   {&image, 600, 10, 80, 60},
+                   {&clickable_image, 690, 10, 80, 60},
+                   {&shape, 600, 80, 40, 40},
+                   {&swatch_label, 610, 90, 30, 20},
+                   {&line, 650, 100, 120, 0},
+                   {&frame, 600, 130, 180, 136},
+                   {&in_frame, 10, 30, 160, 20},
+                   {&ss_option, 10, 56, 100, 22},
+                   {&ss_option2, 10, 80, 100, 22},
+                   {&ss_command, 10, 104, 100, 26},
+                   {&canvas, 10, 280, 250, 200},
+                   {&follower, 10, 490, 250, 22},
+                   {&page, 280, 280, 245, 200},
+                   {&sheet, 535, 280, 245, 200},
+                   {&panel, 300, 250, 300, 160},
+                   {&cancel, 180, 120, 100, 28},
+                   {&in_panel, 10, 10, 200, 24},
+                   {&far_away, 1200, 10, 100, 20}};
     for (const auto& [control, left, top, width, height] : kPlaces) {
       control->Left = left * kPixel;
       control->Top = top * kPixel;
@@ -79,6 +100,8 @@ class SampleWindow : public forms::Window {
       *this,
       "bar",
       {.value = 1, .min = 1, .max = 50, .name = "Chapter", .key_back = "Ctrl+PgUp", .key_on = "Ctrl+PgDown"}};
+  forms::HScrollBar follower{
+      *this, "follower", {.max = 9, .name = "Picture", .follows_thumb = true, .counts_from_1 = true}};
   forms::ProgressBar progress{*this, "progress", {.value = 40, .name = "Progress"}};
   forms::ListBox list{*this, "list", {.name = "Books"}};
   forms::FileListBox files{*this, "files", {.name = "Files", .pattern = "*.txt"}};
@@ -114,6 +137,7 @@ class SampleWindow : public forms::Window {
     list.KeyDown = [this](int code) { log.push_back("list key " + std::to_string(code)); };
     line_box.LostFocus = [this] { log.push_back("line_box left"); };
     bar.Change = [this] { log.push_back("bar " + std::to_string(bar.Value)); };
+    follower.Change = [this] { log.push_back("follower " + std::to_string(follower.Value)); };
     sheet.Change = [this] { log.push_back("sheet change"); };
     canvas.Click = nullptr;
     canvas.ForeColor = forms::kBlack;

@@ -82,12 +82,12 @@ TEST_F(Stage, WhatStoodForAMomentNeverShows) {
 TEST_F(Stage, TheKeyboardGoesThroughTheColumnsLineByLine) {
   Find("line_box")->setFocus();
   std::string order;
-  for (int i = 0; i < 13; ++i) {
+  for (int i = 0; i < 14; ++i) {
     order += FocusName() + " ";
     QTest::keyClick(view->Frame()->focusWidget(), Qt::Key_Tab);
   }
   EXPECT_EQ(order,
-            "line_box page_box command search option combo bar canvas list folders files drives "
+            "line_box page_box command search option combo bar canvas follower list folders files drives "
             "clickable_image ");
 }
 

@@ -42,7 +42,10 @@ class Editor : public RichTextView {
     }
     if (changes.selection) sheet_->setTextCursor(Selection(*document_));
     if (changes.text) sheet_->verticalScrollBar()->setValue(0);
-    if (changes.marks) ScrollToFirstMark();
+    if (!changes.marks) return;
+    BringMarkIntoSight(*sheet_, [this](const QTextCursor& at, const QRect&, const QRect&) {
+      sheet_->verticalScrollBar()->setValue(at.block().firstLineNumber());
+    });
   }
 
   void Commit() override {
@@ -75,17 +78,6 @@ class Editor : public RichTextView {
     if (!has_runs && !has_styles_) return;
     has_styles_ = has_runs;
     LayStyles(*document_, Control().Runs(), positions_, nullptr, sheet_->palette(), 1);
-  }
-
-  void ScrollToFirstMark() {
-    const std::optional<int> mark = FirstMark();
-    if (!mark) return;
-    QTextCursor at(document_);
-    at.setPosition(*mark);
-    const QRect place = sheet_->cursorRect(at);
-    const QRect open = OpenPart(*sheet_);
-    if (place.top() >= open.top() && place.bottom() <= open.bottom()) return;
-    sheet_->verticalScrollBar()->setValue(at.block().firstLineNumber());
   }
 
   int Length() const { return document_->characterCount() - 1; }
@@ -137,8 +129,6 @@ class Editor : public RichTextView {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeEditor(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<Editor, forms::RichTextBox>(control, window, parent);
-}
+ViewMaker* const kMakeEditor = MakeViewOf<Editor, forms::RichTextBox>;
 
 }  // namespace lectern::desktop

@@ -210,18 +210,13 @@ class ReadingPage : public RichTextView {
   // Brings the first mark to the upper third of what no panel covers, unless it is there already. A mark in
   // the first lines, which a panel covers however the text is scrolled, gets room above.
   void ScrollToFirstMark() {
-    const std::optional<int> mark = FirstMark();
-    if (!mark) return;
-    QTextCursor at(document_);
-    at.setPosition(*mark);
-    const QRect place = page_->cursorRect(at);
-    const QRect open = OpenPart(*page_);
-    if (place.top() >= open.top() && place.bottom() <= open.bottom()) return;
-    QScrollBar* const bar = page_->verticalScrollBar();
-    const int top = bar->value() + place.top();  // of the mark, in the whole text
-    const int wanted = top - open.top() - open.height() / 3;
-    if (top < open.top()) SetRoomAbove(room_above_ - wanted);
-    bar->setValue(std::max(wanted, 0));
+    BringMarkIntoSight(*page_, [this](const QTextCursor&, const QRect& place, const QRect& open) {
+      QScrollBar* const bar = page_->verticalScrollBar();
+      const int top = bar->value() + place.top();  // of the mark, in the whole text
+      const int wanted = top - open.top() - open.height() / 3;
+      if (top < open.top()) SetRoomAbove(room_above_ - wanted);
+      bar->setValue(std::max(wanted, 0));
+    });
   }
 
   bool CanQuote() {
@@ -244,8 +239,6 @@ class ReadingPage : public RichTextView {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeReadingPage(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<ReadingPage, forms::RichTextBox>(control, window, parent);
-}
+ViewMaker* const kMakeReadingPage = MakeViewOf<ReadingPage, forms::RichTextBox>;
 
 }  // namespace lectern::desktop

@@ -50,6 +50,7 @@ std::optional<int> RichTextView::FirstMark() const {
   return std::nullopt;
 }
 
+// Above the panels or below them, whichever is larger.
 QRect RichTextView::OpenPart(const QAbstractScrollArea& pane) {
   const QWidget& viewport = *pane.viewport();
   QRect open = viewport.rect();
@@ -70,11 +71,6 @@ QRect RichTextView::OpenPart(const QAbstractScrollArea& pane) {
 
 bool RichTextView::Needs(const QKeyEvent& key) const {
   return KeyCode(key) == forms::kEnterKey && !Control().ReadOnly();
-}
-
-std::unique_ptr<ControlView> MakeRichTextView(forms::Control& control, WindowView& window, QWidget& parent) {
-  const bool is_read = dynamic_cast<const forms::RichTextBox&>(control).ReadOnly();
-  return is_read ? MakeReadingPage(control, window, parent) : MakeEditor(control, window, parent);
 }
 
 }  // namespace lectern::desktop

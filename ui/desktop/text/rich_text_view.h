@@ -38,11 +38,18 @@ class RichTextView : public ViewOf<forms::RichTextBox> {
   void SelectionMoved();
   void CommitSelection(const QTextCursor& cursor);
 
-  // Where the first coloured run begins, as Qt counts; nothing where there is none.
-  std::optional<int> FirstMark() const;
-
-  // The part of the viewport that no panel covers: above the panels or below them, whichever is larger.
-  static QRect OpenPart(const QAbstractScrollArea& pane);
+  // Calls `scroll` with the place where the first coloured run begins, unless that is to be seen already, and
+  // with the part of the viewport that no panel covers. `Edit` is the kind of the widget.
+  template <class Edit, class Scroll>
+  void BringMarkIntoSight(const Edit& edit, Scroll scroll) const {
+    const std::optional<int> mark = FirstMark();
+    if (!mark) return;
+    QTextCursor at(edit.document());
+    at.setPosition(*mark);
+    const QRect place = edit.cursorRect(at);
+    const QRect open = OpenPart(edit);
+    if (place.top() < open.top() || place.bottom() > open.bottom()) scroll(at, place, open);
+  }
 
   Ground GetGround() const override { return Ground::kField; }
   bool Needs(const QKeyEvent& key) const override;
@@ -50,6 +57,9 @@ class RichTextView : public ViewOf<forms::RichTextBox> {
   TextPositions positions_;  // of the text that is shown
 
  private:
+  std::optional<int> FirstMark() const;  // as Qt counts
+  static QRect OpenPart(const QAbstractScrollArea& pane);
+
   struct Shown {
     unsigned text = 0;  // generations of the control
     unsigned style = 0;
@@ -58,8 +68,5 @@ class RichTextView : public ViewOf<forms::RichTextBox> {
   };
   std::optional<Shown> shown_;
 };
-
-ViewMaker MakeReadingPage;
-ViewMaker MakeEditor;
 
 }  // namespace lectern::desktop

@@ -140,12 +140,7 @@ class OptionView : public ViewOf<forms::Option> {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeButtonView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<ButtonView, forms::Button>(control, window, parent);
-}
-
-std::unique_ptr<ControlView> MakeOptionView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<OptionView, forms::Option>(control, window, parent);
-}
+ViewMaker* const kMakeButtonView = MakeViewOf<ButtonView, forms::Button>;
+ViewMaker* const kMakeOptionView = MakeViewOf<OptionView, forms::Option>;
 
 }  // namespace lectern::desktop

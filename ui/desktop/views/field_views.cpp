@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QWheelEvent>
+#include <string>
+#include <type_traits>
 
 #include "forms/lists.h"
 #include "forms/rich_text.h"
@@ -15,64 +17,53 @@ namespace lectern::desktop {
 
 namespace {
 
-class OneLineView : public ViewOf<forms::TextBox> {
+// `Edit` is QLineEdit or QPlainTextEdit.
+template <class Edit>
+class TextBoxView : public ViewOf<forms::TextBox> {
  public:
   using ViewOf::ViewOf;
 
  protected:
   QWidget* Make(QWidget* parent) override {
-    edit_ = new QLineEdit(parent);
+    edit_ = new Edit(parent);
     edit_->setReadOnly(Control().ReadOnly());
-    connect(edit_, &QLineEdit::textEdited, [this](const QString& text) {
-      shown_ = text.toStdString();
-      Act([this] { Control().PersonTypes(shown_); });
-    });
+    if constexpr (kHasSeveralLines) {
+      edit_->setTabChangesFocus(true);
+      connect(edit_, &QPlainTextEdit::textChanged, [this] {
+        if (GetEvents().AtWork()) return;  // the echo of Apply
+        Typed(forms::WithCrLf(edit_->toPlainText().toStdString()));
+      });
+    } else {
+      connect(edit_, &QLineEdit::textEdited, [this](const QString& text) { Typed(text.toStdString()); });
+    }
     return edit_;
   }
 
   void Apply() override {
     if (Control().Text == shown_) return;
     shown_ = Control().Text;
-    edit_->setText(IsDesignText(shown_) ? QString() : ToQString(shown_));
-  }
-
-  Ground GetGround() const override { return Ground::kField; }
-
- private:
-  QLineEdit* edit_ = nullptr;
-  std::string shown_;
-};
-
-class SeveralLinesView : public ViewOf<forms::TextBox> {
- public:
-  using ViewOf::ViewOf;
-
- protected:
-  QWidget* Make(QWidget* parent) override {
-    edit_ = new QPlainTextEdit(parent);
-    edit_->setReadOnly(Control().ReadOnly());
-    edit_->setTabChangesFocus(true);
-    connect(edit_, &QPlainTextEdit::textChanged, [this] {
-      if (GetEvents().AtWork()) return;
-      shown_ = forms::WithCrLf(edit_->toPlainText().toStdString());
-      Act([this] { Control().PersonTypes(shown_); });
-    });
-    return edit_;
-  }
-
-  void Apply() override {
-    if (Control().Text == shown_) return;
-    shown_ = Control().Text;
-    edit_->setPlainText(ToQString(shown_));
+    const QString text = IsDesignText(shown_) ? QString() : ToQString(shown_);
+    if constexpr (kHasSeveralLines) {
+      edit_->setPlainText(text);
+    } else {
+      edit_->setText(text);
+    }
   }
 
   Ground GetGround() const override { return Ground::kField; }
   bool Needs(const QKeyEvent& key) const override {
-    return KeyCode(key) == forms::kEnterKey && !Control().ReadOnly();
+    return kHasSeveralLines && KeyCode(key) == forms::kEnterKey && !Control().ReadOnly();
   }
 
  private:
-  QPlainTextEdit* edit_ = nullptr;
+  static constexpr bool kHasSeveralLines = std::is_same_v<Edit, QPlainTextEdit>;
+
+  void Typed(const std::string& text) {
+    shown_ = text;
+    Act([this] { Control().PersonTypes(shown_); });
+  }
+
+  Edit* edit_ = nullptr;
   std::string shown_;
 };
 
@@ -153,19 +144,9 @@ class DriveView : public ViewOf<forms::DriveListBox> {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeTextBoxView(forms::Control& control, WindowView& window, QWidget& parent) {
-  const bool has_several_lines = dynamic_cast<const forms::TextBox&>(control).MultiLine();
-  const auto maker = has_several_lines ? MakeViewOf<SeveralLinesView, forms::TextBox>
-                                       : MakeViewOf<OneLineView, forms::TextBox>;
-  return maker(control, window, parent);
-}
-
-std::unique_ptr<ControlView> MakeComboView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<ComboView, forms::ComboBox>(control, window, parent);
-}
-
-std::unique_ptr<ControlView> MakeDriveView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<DriveView, forms::DriveListBox>(control, window, parent);
-}
+ViewMaker* const kMakeOneLineView = MakeViewOf<TextBoxView<QLineEdit>, forms::TextBox>;
+ViewMaker* const kMakeSeveralLinesView = MakeViewOf<TextBoxView<QPlainTextEdit>, forms::TextBox>;
+ViewMaker* const kMakeComboView = MakeViewOf<ComboView, forms::ComboBox>;
+ViewMaker* const kMakeDriveView = MakeViewOf<DriveView, forms::DriveListBox>;
 
 }  // namespace lectern::desktop

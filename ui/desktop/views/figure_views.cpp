@@ -65,10 +65,7 @@ class ShapeView : public ViewOf<forms::Shape> {
 
  protected:
   QWidget* Make(QWidget* parent) override {
-    auto* const widget =
-        new PaintedWidget(parent, [this](QPainter& painter, const QRect&) { Paint(painter); });
-    widget->setAttribute(Qt::WA_TransparentForMouseEvents);
-    return widget;
+    return MakeFigure(parent, [this](QPainter& painter, const QRect&) { Paint(painter); });
   }
 
   void Apply() override { Widget()->update(); }
@@ -103,11 +100,9 @@ class LineView : public ControlView {
 
  protected:
   QWidget* Make(QWidget* parent) override {
-    auto* const widget = new PaintedWidget(parent, [this](QPainter& painter, const QRect& exposed) {
+    return MakeFigure(parent, [this](QPainter& painter, const QRect& exposed) {
       painter.fillRect(exposed, LineColor(Widget()->palette()));
     });
-    widget->setAttribute(Qt::WA_TransparentForMouseEvents);
-    return widget;
   }
 
   void Apply() override {}
@@ -137,20 +132,9 @@ class ProgressView : public ViewOf<forms::ProgressBar> {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeImageView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<ImageView, forms::Image>(control, window, parent);
-}
-
-std::unique_ptr<ControlView> MakeShapeView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<ShapeView, forms::Shape>(control, window, parent);
-}
-
-std::unique_ptr<ControlView> MakeLineView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<LineView, forms::Line>(control, window, parent);
-}
-
-std::unique_ptr<ControlView> MakeProgressView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<ProgressView, forms::ProgressBar>(control, window, parent);
-}
+ViewMaker* const kMakeImageView = MakeViewOf<ImageView, forms::Image>;
+ViewMaker* const kMakeShapeView = MakeViewOf<ShapeView, forms::Shape>;
+ViewMaker* const kMakeLineView = MakeViewOf<LineView, forms::Line>;
+ViewMaker* const kMakeProgressView = MakeViewOf<ProgressView, forms::ProgressBar>;
 
 }  // namespace lectern::desktop

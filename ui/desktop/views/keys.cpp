@@ -8,24 +8,22 @@
 namespace lectern::desktop {
 
 int KeyCode(const QKeyEvent& key) {
-  constexpr std::pair<int, int> kCodes[] = {
-      {Qt::Key_Return, forms::kEnterKey},
-      {Qt::Key_Enter, forms::kEnterKey},
-      {Qt::Key_Escape, forms::kEscapeKey},
-      {Qt::Key_Backspace, 8},
-      {Qt::Key_Tab, 9},
-      {Qt::Key_Space, 32},
-      {Qt::Key_PageUp, 33},
-      {Qt::Key_PageDown, 34},
-      {Qt::Key_End, 35},
-      {Qt::Key_Home, 36},
-      {Qt::Key_Left, 37},
-      {Qt::Key_Up, 38},
-      {Qt::Key_Right, 39},
-      {Qt::Key_Down, 40},
-      {Qt::Key_Insert, 45},
-      {Qt::Key_Delete, 46},
-  };
+  constexpr std::pair<int, int> kCodes[] = {{Qt::Key_Return, forms::kEnterKey},
+                                            {Qt::Key_Enter, forms::kEnterKey},
+                                            {Qt::Key_Escape, forms::kEscapeKey},
+                                            {Qt::Key_Backspace, 8},
+                                            {Qt::Key_Tab, 9},
+                                            {Qt::Key_Space, 32},
+                                            {Qt::Key_PageUp, 33},
+                                            {Qt::Key_PageDown, 34},
+                                            {Qt::Key_End, 35},
+                                            {Qt::Key_Home, 36},
+                                            {Qt::Key_Left, 37},
+                                            {Qt::Key_Up, 38},
+                                            {Qt::Key_Right, 39},
+                                            {Qt::Key_Down, 40},
+                                            {Qt::Key_Insert, 45},
+                                            {Qt::Key_Delete, 46}};
   for (const auto& [qt, code] : kCodes) {
     if (key.key() == qt) return code;
   }
@@ -49,41 +47,27 @@ int AccessKey(const QKeyEvent& key) {
 }
 
 QPoint DirectionOf(int key) {
-  switch (key) {
-    case Qt::Key_Left:
-      return {-1, 0};
-    case Qt::Key_Right:
-      return {1, 0};
-    case Qt::Key_Up:
-      return {0, -1};
-    case Qt::Key_Down:
-      return {0, 1};
-    default:
-      return {};
-  }
+  if (key == Qt::Key_Left) return {-1, 0};
+  if (key == Qt::Key_Right) return {1, 0};
+  if (key == Qt::Key_Up) return {0, -1};
+  return key == Qt::Key_Down ? QPoint(0, 1) : QPoint();
 }
 
 std::optional<QAbstractSlider::SliderAction> ScrollActionOf(const QKeyEvent& key) {
   const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
   if (key.key() == Qt::Key_Space && modifiers == Qt::ShiftModifier) return QAbstractSlider::SliderPageStepSub;
   if (modifiers != Qt::NoModifier) return std::nullopt;
-  switch (key.key()) {
-    case Qt::Key_Up:
-      return QAbstractSlider::SliderSingleStepSub;
-    case Qt::Key_Down:
-      return QAbstractSlider::SliderSingleStepAdd;
-    case Qt::Key_PageUp:
-      return QAbstractSlider::SliderPageStepSub;
-    case Qt::Key_PageDown:
-    case Qt::Key_Space:
-      return QAbstractSlider::SliderPageStepAdd;
-    case Qt::Key_Home:
-      return QAbstractSlider::SliderToMinimum;
-    case Qt::Key_End:
-      return QAbstractSlider::SliderToMaximum;
-    default:
-      return std::nullopt;
+  using Slider = QAbstractSlider;
+  constexpr std::pair<int, Slider::SliderAction> kActions[] = {
+      {Qt::Key_Up, Slider::SliderSingleStepSub},   {Qt::Key_Down, Slider::SliderSingleStepAdd},
+      {Qt::Key_PageUp, Slider::SliderPageStepSub}, {Qt::Key_PageDown, Slider::SliderPageStepAdd},
+      {Qt::Key_Space, Slider::SliderPageStepAdd},  {Qt::Key_Home, Slider::SliderToMinimum},
+      {Qt::Key_End, Slider::SliderToMaximum},
+  };
+  for (const auto& [qt, action] : kActions) {
+    if (key.key() == qt) return action;
   }
+  return std::nullopt;
 }
 
 QKeySequence QuoteKey() { return {Qt::CTRL | Qt::SHIFT | Qt::Key_C}; }
@@ -92,18 +76,10 @@ std::optional<int> ZoomOf(const QKeyEvent& key) {
   // On some keyboards Plus needs Shift.
   const Qt::KeyboardModifiers held = key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
   if (held != Qt::ControlModifier) return std::nullopt;
-  switch (key.key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-      return 1;
-    case Qt::Key_Minus:
-    case Qt::Key_Underscore:
-      return -1;
-    case Qt::Key_0:
-      return 0;
-    default:
-      return std::nullopt;
-  }
+  if (key.key() == Qt::Key_Plus || key.key() == Qt::Key_Equal) return 1;
+  if (key.key() == Qt::Key_Minus || key.key() == Qt::Key_Underscore) return -1;
+  if (key.key() == Qt::Key_0) return 0;
+  return std::nullopt;
 }
 
 bool IsKey(const QKeyEvent& key, const QKeySequence& named) {

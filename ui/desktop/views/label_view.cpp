@@ -137,8 +137,6 @@ class LabelView : public ViewOf<forms::Label, ClickableView> {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeLabelView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<LabelView, forms::Label>(control, window, parent);
-}
+ViewMaker* const kMakeLabelView = MakeViewOf<LabelView, forms::Label>;
 
 }  // namespace lectern::desktop

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/lists.h"
@@ -100,22 +101,15 @@ class ListWidget : public QListView {
   }
 
   void keyPressEvent(QKeyEvent* event) override {
-    switch (event->key()) {
-      case Qt::Key_Up:
-        return Move(MoveUp);
-      case Qt::Key_Down:
-        return Move(MoveDown);
-      case Qt::Key_PageUp:
-        return Move(MovePageUp);
-      case Qt::Key_PageDown:
-        return Move(MovePageDown);
-      case Qt::Key_Home:
-        return Move(MoveHome);
-      case Qt::Key_End:
-        return Move(MoveEnd);
-      default:
-        QListView::keyPressEvent(event);
+    constexpr std::pair<int, CursorAction> kMoves[] = {
+        {Qt::Key_Up, MoveUp},         {Qt::Key_Down, MoveDown},
+        {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown},
+        {Qt::Key_Home, MoveHome},     {Qt::Key_End, MoveEnd},
+    };
+    for (const auto& [key, action] : kMoves) {
+      if (event->key() == key) return Move(action);
     }
+    QListView::keyPressEvent(event);
   }
 
   // Leaves empty, above and below, what is too low for one more row, so that no row is cut.
@@ -275,12 +269,7 @@ class FolderView : public ViewOf<forms::DirListBox> {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeListView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<ListView, forms::ItemList>(control, window, parent);
-}
-
-std::unique_ptr<ControlView> MakeFolderView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<FolderView, forms::DirListBox>(control, window, parent);
-}
+ViewMaker* const kMakeListView = MakeViewOf<ListView, forms::ItemList>;
+ViewMaker* const kMakeFolderView = MakeViewOf<FolderView, forms::DirListBox>;
 
 }  // namespace lectern::desktop

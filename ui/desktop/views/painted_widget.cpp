@@ -85,6 +85,12 @@ void PaintedWidget::paintEvent(QPaintEvent* event) {
   if (hasFocus()) DrawFocusRing(painter, rect(), palette());
 }
 
+PaintedWidget* MakeFigure(QWidget* parent, PaintedWidget::Paint paint) {
+  auto* const widget = new PaintedWidget(parent, std::move(paint));
+  widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+  return widget;
+}
+
 void DescribePaintedWidgets() { QAccessible::installFactory(Describe); }
 
 }  // namespace lectern::desktop

@@ -30,6 +30,9 @@ class PaintedWidget : public QWidget, public Spoken {
   Paint paint_;
 };
 
+// A widget that is only looked at: clicks fall through it.
+PaintedWidget* MakeFigure(QWidget* parent, PaintedWidget::Paint paint);
+
 // From now on, describes such widgets to screen readers.
 void DescribePaintedWidgets();
 

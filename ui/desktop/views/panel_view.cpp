@@ -68,10 +68,7 @@ void PanelView::Refresh() {
 // A panel that is there from the start is part of the window's face and lies flat.
 void PanelView::CastShadow() {
   if (Control().ShownAt() == 0 || Control().Parent().Outer() != nullptr) return;
-  if (shadow_ == nullptr) {
-    shadow_ = new PaintedWidget(Widget()->parentWidget(), PaintShadow);
-    shadow_->setAttribute(Qt::WA_TransparentForMouseEvents);
-  }
+  if (shadow_ == nullptr) shadow_ = MakeFigure(Widget()->parentWidget(), PaintShadow);
   shadow_->setGeometry(Widget()->geometry().adjusted(-kShadow, -kShadow / 2, kShadow, kShadow));
   shadow_->setVisible(IsSeen());
 }
@@ -107,8 +104,6 @@ void PanelView::PaintEdges(QPainter& painter) const {
   if (place.right() < around.right()) painter.fillRect(area.right(), 0, 1, area.height(), line);
 }
 
-std::unique_ptr<ControlView> MakeFrameView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<FrameView, forms::Frame>(control, window, parent);
-}
+ViewMaker* const kMakeFrameView = MakeViewOf<FrameView, forms::Frame>;
 
 }  // namespace lectern::desktop

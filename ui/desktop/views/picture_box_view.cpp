@@ -171,9 +171,6 @@ class PictureBoxView : public ViewOf<forms::PictureBox, PanelView> {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakePictureBoxView(forms::Control& control, WindowView& window,
-                                                QWidget& parent) {
-  return MakeViewOf<PictureBoxView, forms::PictureBox>(control, window, parent);
-}
+ViewMaker* const kMakePictureBoxView = MakeViewOf<PictureBoxView, forms::PictureBox>;
 
 }  // namespace lectern::desktop

@@ -1,6 +1,6 @@
-// Horizontal scroll bars. A drag counts when the thumb is let go; meanwhile a tooltip shows the value under
-// it. A value beyond the range has its thumb at the end. A bar with keys of its own is stepped by them
-// wherever the focus is.
+// Horizontal scroll bars. A drag counts when the thumb is let go, or at every position that it passes;
+// meanwhile a tooltip shows the value under it. A value beyond the range has its thumb at the end. A bar with
+// keys of its own is stepped by them wherever the focus is.
 #include <QCursor>
 #include <QKeyEvent>
 #include <QPainter>
@@ -23,7 +23,6 @@ class SteppedBar : public QScrollBar {
  public:
   explicit SteppedBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
     setFocusPolicy(Qt::StrongFocus);
-    setTracking(false);
   }
 
  protected:
@@ -38,20 +37,12 @@ class SteppedBar : public QScrollBar {
 
   // Up and Down step it as well, though it lies across.
   void keyPressEvent(QKeyEvent* event) override {
-    switch (event->key()) {
-      case Qt::Key_Right:
-      case Qt::Key_Down:
-        return triggerAction(SliderSingleStepAdd);
-      case Qt::Key_Left:
-      case Qt::Key_Up:
-        return triggerAction(SliderSingleStepSub);
-      case Qt::Key_PageDown:
-        return triggerAction(SliderPageStepAdd);
-      case Qt::Key_PageUp:
-        return triggerAction(SliderPageStepSub);
-      default:
-        QScrollBar::keyPressEvent(event);  // Home and End
-    }
+    const QPoint way = DirectionOf(event->key());
+    const int steps = way.x() + way.y();
+    if (steps != 0) return triggerAction(steps > 0 ? SliderSingleStepAdd : SliderSingleStepSub);
+    if (event->key() == Qt::Key_PageDown) return triggerAction(SliderPageStepAdd);
+    if (event->key() == Qt::Key_PageUp) return triggerAction(SliderPageStepSub);
+    QScrollBar::keyPressEvent(event);  // Home and End
   }
 
   void paintEvent(QPaintEvent* event) override {
@@ -72,6 +63,7 @@ class ScrollBarView : public ViewOf<forms::HScrollBar> {
  protected:
   QWidget* Make(QWidget* parent) override {
     widget_ = new SteppedBar(parent);
+    widget_->setTracking(Control().FollowsThumb());
     widget_->setSingleStep(1);
     widget_->setPageStep(Control().LargeStep());
     connect(widget_, &QScrollBar::valueChanged, [this](int value) {
@@ -101,7 +93,7 @@ class ScrollBarView : public ViewOf<forms::HScrollBar> {
  private:
   void ShowValue(int value) {
     const QString name = ToQString(Control().AccessibleName());
-    const QString number = QString::number(value);
+    const QString number = QString::number(Control().ShownNumber(value));
     QToolTip::showText(QCursor::pos(), name.isEmpty() ? number : name + u' ' + number, widget_);
   }
 
@@ -110,8 +102,6 @@ class ScrollBarView : public ViewOf<forms::HScrollBar> {
 
 }  // namespace
 
-std::unique_ptr<ControlView> MakeScrollBarView(forms::Control& control, WindowView& window, QWidget& parent) {
-  return MakeViewOf<ScrollBarView, forms::HScrollBar>(control, window, parent);
-}
+ViewMaker* const kMakeScrollBarView = MakeViewOf<ScrollBarView, forms::HScrollBar>;
 
 }  // namespace lectern::desktop

@@ -9,33 +9,36 @@
 
 namespace lectern::desktop {
 
-// Returns nullptr for menus and timers, which lie in no panel.
-std::unique_ptr<ControlView> MakeView(forms::Control& control, WindowView& window, QWidget& parent);
-
-// What each kind's file provides.
-// Requires: the control is of that kind.
 using ViewMaker = std::unique_ptr<ControlView>(forms::Control& control, WindowView& window, QWidget& parent);
-ViewMaker MakeButtonView;      // button_views.cpp
-ViewMaker MakeOptionView;      //
-ViewMaker MakeLabelView;       // label_view.cpp
-ViewMaker MakeImageView;       // figure_views.cpp
-ViewMaker MakeShapeView;       //
-ViewMaker MakeLineView;        //
-ViewMaker MakeProgressView;    //
-ViewMaker MakeTextBoxView;     // field_views.cpp
-ViewMaker MakeComboView;       //
-ViewMaker MakeDriveView;       //
-ViewMaker MakeListView;        // list_views.cpp
-ViewMaker MakeFolderView;      //
-ViewMaker MakeScrollBarView;   // scroll_bar_view.cpp
-ViewMaker MakeFrameView;       // panel_view.cpp
-ViewMaker MakePictureBoxView;  // picture_box_view.cpp
-ViewMaker MakeRichTextView;    // text/: a page that is read, or a sheet that is edited
 
-// The body of a maker.
+// Returns nullptr for menus and timers, which lie in no panel.
+ViewMaker MakeView;
+
+// The maker of a kind, as its file defines it.
 template <class View, class Kind>
 std::unique_ptr<ControlView> MakeViewOf(forms::Control& control, WindowView& window, QWidget& parent) {
   return std::make_unique<View>(dynamic_cast<Kind&>(control), window, parent);
 }
+
+// The makers of all kinds.
+// Requires: the control is of that kind.
+extern ViewMaker* const kMakeButtonView;  // button_views.cpp
+extern ViewMaker* const kMakeOptionView;
+extern ViewMaker* const kMakeLabelView;  // label_view.cpp
+extern ViewMaker* const kMakeImageView;  // figure_views.cpp
+extern ViewMaker* const kMakeShapeView;
+extern ViewMaker* const kMakeLineView;
+extern ViewMaker* const kMakeProgressView;
+extern ViewMaker* const kMakeOneLineView;  // field_views.cpp
+extern ViewMaker* const kMakeSeveralLinesView;
+extern ViewMaker* const kMakeComboView;
+extern ViewMaker* const kMakeDriveView;
+extern ViewMaker* const kMakeListView;  // list_views.cpp
+extern ViewMaker* const kMakeFolderView;
+extern ViewMaker* const kMakeScrollBarView;   // scroll_bar_view.cpp
+extern ViewMaker* const kMakeFrameView;       // panel_view.cpp
+extern ViewMaker* const kMakePictureBoxView;  // picture_box_view.cpp
+extern ViewMaker* const kMakeReadingPage;     // text/reading_page.cpp
+extern ViewMaker* const kMakeEditor;          // text/editor.cpp
 
 }  // namespace lectern::desktop
