@@ -35,6 +35,7 @@ void ScaleWithFonts() {
 }  // namespace
 
 void PrepareApplication() {
+  assert(qApp == nullptr);
   QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
   QApplication::setApplicationName("lectern");
   QApplication::setDesktopFileName("lectern");

@@ -45,7 +45,7 @@ void Events::Run(const std::function<void()>& work) {
 
 void Events::RunLater(const std::function<void()>& work) {
   QTimer::singleShot(0, &soon_, [this, work] {
-    // A nested loop that is no event's, such as that of a drag, has widgets in its hands.
+    // A drag runs a loop of its own, in the middle of a widget's event.
     if (QThread::currentThread()->loopLevel() <= 1) return Run(work);
     constexpr int kPause = 20;  // milliseconds
     QTimer::singleShot(kPause, &soon_, [this, work] { RunLater(work); });

@@ -1,5 +1,6 @@
 #include "ui/desktop/app/one_program.h"
 
+#include <QCoreApplication>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLocalSocket>
@@ -43,6 +44,7 @@ void ReportSilence(const std::string& folder) {
 }  // namespace
 
 QByteArray TakeActivationToken() {
+  assert(QCoreApplication::instance() == nullptr);
   const QByteArray token = qgetenv(kActivationToken);
   return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token;
 }

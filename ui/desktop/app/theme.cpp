@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 
 namespace lectern::desktop {
@@ -46,6 +47,7 @@ QPalette OwnPalette() {
 }
 
 void ApplyTheme() {
+  assert(qApp != nullptr);
   QStyle* const style = MakeStyle();
   const QPalette plain = style->standardPalette();
   QApplication::setStyle(style);

@@ -14,10 +14,8 @@ namespace lectern::desktop {
 namespace {
 
 class Editor : public RichTextView {
- public:
   using RichTextView::RichTextView;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     sheet_ = new QPlainTextEdit(parent);
     sheet_->setTabChangesFocus(true);
@@ -53,7 +51,6 @@ class Editor : public RichTextView {
     CommitSelection(sheet_->textCursor());
   }
 
- private:
   struct Edit {
     std::size_t start;
     std::size_t removed;

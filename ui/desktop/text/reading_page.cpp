@@ -103,10 +103,8 @@ class PageWidget : public QTextEdit {
 };
 
 class ReadingPage : public RichTextView {
- public:
   using RichTextView::RichTextView;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     page_ = new PageWidget(parent);
     page_->wants_larger = [this](int steps) { GetWindow().Enlarge(steps); };
@@ -171,7 +169,6 @@ class ReadingPage : public RichTextView {
 
   void Commit() override { CommitSelection(page_->textCursor()); }
 
- private:
   // A new document is quicker than writing into the one that is shown.
   void Load() {
     text_ = Control().Text;

@@ -1,6 +1,7 @@
 #include "ui/desktop/text/rich_text_view.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "ui/desktop/views/keys.h"
 #include "ui/desktop/views/window_view.h"
@@ -37,6 +38,7 @@ void RichTextView::SelectionMoved() {
 }
 
 void RichTextView::CommitSelection(const QTextCursor& cursor) {
+  assert(shown_);
   const auto start = static_cast<int>(positions_.ToForms(cursor.selectionStart()));
   const int length = static_cast<int>(positions_.ToForms(cursor.selectionEnd())) - start;
   Control().PersonSelects(start, length);

@@ -36,6 +36,9 @@ class RichTextView : public ViewOf<forms::RichTextBox> {
   // The person has moved the cursor or changed the selection, which the control learns ahead of the next
   // event.
   void SelectionMoved();
+
+  // Hands the cursor's selection to the control.
+  // Requires: the control was shown.
   void CommitSelection(const QTextCursor& cursor);
 
   // Calls `scroll` with the place where the first coloured run begins, unless that is to be seen already, and

@@ -24,10 +24,8 @@ void SetCaption(QAbstractButton& widget, const std::string& caption) {
 }
 
 class ButtonView : public ViewOf<forms::Button> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     widget_ = new QPushButton(parent);
     widget_->setAutoDefault(false);
@@ -79,17 +77,14 @@ class ButtonView : public ViewOf<forms::Button> {
     return ControlView::eventFilter(watched, event);
   }
 
- private:
   QPushButton* widget_ = nullptr;
   bool pressed_by_mouse_ = false;
   forms::Picture picture_;  // as shown on it
 };
 
 class OptionView : public ViewOf<forms::Option> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     widget_ = new QRadioButton(parent);
     connect(widget_, &QRadioButton::clicked, [this] { Act([this] { Control().PersonClicks(); }); });
@@ -116,7 +111,6 @@ class OptionView : public ViewOf<forms::Option> {
     return !way.isNull();
   }
 
- private:
   // Sets the next option of the panel; after the last one comes the first.
   void MoveBy(int step) {
     std::vector<forms::Option*> options;

@@ -1,6 +1,7 @@
 #include "ui/desktop/views/control_view.h"
 
 #include <QApplication>
+#include <cassert>
 #include <cmath>
 
 #include "forms/figures.h"
@@ -106,6 +107,7 @@ void ControlView::Refresh() {
 
 void ControlView::MakeWidget() {
   widget_ = Make(&parent_);
+  assert(widget_ != nullptr);
   widget_->setObjectName(ToQString(control_.FullName()));
   if (control_.HasNameOfItsOwn() || !SpeaksForItself()) {
     widget_->setAccessibleName(ToQString(control_.AccessibleName()));

@@ -20,10 +20,8 @@ namespace {
 // `Edit` is QLineEdit or QPlainTextEdit.
 template <class Edit>
 class TextBoxView : public ViewOf<forms::TextBox> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     edit_ = new Edit(parent);
     edit_->setReadOnly(Control().ReadOnly());
@@ -55,7 +53,6 @@ class TextBoxView : public ViewOf<forms::TextBox> {
     return kHasSeveralLines && KeyCode(key) == forms::kEnterKey && !Control().ReadOnly();
   }
 
- private:
   static constexpr bool kHasSeveralLines = std::is_same_v<Edit, QPlainTextEdit>;
 
   void Typed(const std::string& text) {
@@ -83,10 +80,8 @@ class ChooserWidget : public QComboBox {
 };
 
 class ComboView : public ViewOf<forms::ComboBox> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     widget_ = new ChooserWidget(parent);
     widget_->setEditable(true);
@@ -118,15 +113,12 @@ class ComboView : public ViewOf<forms::ComboBox> {
   // Enter picks the entry whose text was typed.
   bool Needs(const QKeyEvent& key) const override { return KeyCode(key) == forms::kEnterKey; }
 
- private:
   QComboBox* widget_ = nullptr;
 };
 
 class DriveView : public ViewOf<forms::DriveListBox> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     widget_ = new ChooserWidget(parent);
     for (const std::string& drive : Control().Drives()) widget_->addItem(ToQString(drive));
@@ -138,7 +130,6 @@ class DriveView : public ViewOf<forms::DriveListBox> {
 
   void Apply() override { widget_->setCurrentIndex(widget_->findText(ToQString(Control().Drive))); }
 
- private:
   QComboBox* widget_ = nullptr;
 };
 

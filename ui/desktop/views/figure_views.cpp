@@ -18,10 +18,8 @@ namespace {
 
 // A picture, stretched to its place where the control says so.
 class ImageView : public ViewOf<forms::Image, ClickableView> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     auto* const widget =
         new PaintedWidget(parent, [this](QPainter& painter, const QRect&) { Paint(painter); });
@@ -38,7 +36,6 @@ class ImageView : public ViewOf<forms::Image, ClickableView> {
 
   void Resized() override { scaled_ = {}; }
 
- private:
   void Paint(QPainter& painter) {
     const QRect area = Widget()->rect();
     if (shown_) {
@@ -60,10 +57,8 @@ class ImageView : public ViewOf<forms::Image, ClickableView> {
 };
 
 class ShapeView : public ViewOf<forms::Shape> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     return MakeFigure(parent, [this](QPainter& painter, const QRect&) { Paint(painter); });
   }
@@ -71,7 +66,6 @@ class ShapeView : public ViewOf<forms::Shape> {
   void Apply() override { Widget()->update(); }
   Ground GetGround() const override { return Ground::kNone; }
 
- private:
   // A square or circle is as large as the place allows, in its middle. A figure without a colour of its own
   // is an outline.
   void Paint(QPainter& painter) const {
@@ -95,10 +89,8 @@ class ShapeView : public ViewOf<forms::Shape> {
 };
 
 class LineView : public ControlView {
- public:
   using ControlView::ControlView;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     return MakeFigure(parent, [this](QPainter& painter, const QRect& exposed) {
       painter.fillRect(exposed, LineColor(Widget()->palette()));
@@ -110,10 +102,8 @@ class LineView : public ControlView {
 
 // A bar without a text. A value past its maximum shows full.
 class ProgressView : public ViewOf<forms::ProgressBar> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     widget_ = new QProgressBar(parent);
     widget_->setTextVisible(false);
@@ -126,7 +116,6 @@ class ProgressView : public ViewOf<forms::ProgressBar> {
     widget_->setValue(std::clamp(Control().Value(), Control().Min(), end));
   }
 
- private:
   QProgressBar* widget_ = nullptr;
 };
 

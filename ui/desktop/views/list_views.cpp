@@ -218,10 +218,8 @@ class ListView : public ViewOf<forms::ItemList> {
 // The folders on the way to the one that is open, and those inside it, indented by their depth. A double
 // click or Enter opens one.
 class FolderView : public ViewOf<forms::DirListBox> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     widget_ = new ListWidget(parent);
     widget_->setModel(&rows_);
@@ -255,7 +253,6 @@ class FolderView : public ViewOf<forms::DirListBox> {
     return true;
   }
 
- private:
   void Open(int row) {
     if (row < 0 || row >= static_cast<int>(entries_.size())) return;
     Act([this, path = entries_[static_cast<std::size_t>(row)].path] { Control().PersonOpens(path); });

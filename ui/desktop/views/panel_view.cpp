@@ -27,10 +27,8 @@ void PaintShadow(QPainter& painter, const QRect& /*exposed*/) {
 }
 
 class FrameView : public ViewOf<forms::Frame, PanelView> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   void Apply() override {
     PanelView::Apply();
     Widget()->update();

@@ -95,10 +95,8 @@ class KeyPen {
 };
 
 class PictureBoxView : public ViewOf<forms::PictureBox, PanelView> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   void Apply() override {
     PanelView::Apply();
     const forms::Area changed = Control().TakeChangedArea();
@@ -156,7 +154,6 @@ class PictureBoxView : public ViewOf<forms::PictureBox, PanelView> {
     return PanelView::eventFilter(watched, event);
   }
 
- private:
   forms::MouseEvent LeftButtonAt(const QPoint& place) const {
     forms::MouseEvent mouse;
     mouse.button = 1;

@@ -57,10 +57,8 @@ class SteppedBar : public QScrollBar {
 };
 
 class ScrollBarView : public ViewOf<forms::HScrollBar> {
- public:
   using ViewOf::ViewOf;
 
- protected:
   QWidget* Make(QWidget* parent) override {
     widget_ = new SteppedBar(parent);
     widget_->setTracking(Control().FollowsThumb());
@@ -90,7 +88,6 @@ class ScrollBarView : public ViewOf<forms::HScrollBar> {
     return true;
   }
 
- private:
   void ShowValue(int value) {
     const QString name = ToQString(Control().AccessibleName());
     const QString number = QString::number(Control().ShownNumber(value));
