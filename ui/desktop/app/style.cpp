@@ -14,7 +14,7 @@ namespace {
 
 constexpr double kCorner = 4;  // radius
 constexpr int kScrollBarThickness = 14;
-constexpr int kBesideText = 5;  // in the rows of a list
+constexpr int kRowMargin = 5;  // in the rows of a list
 
 void DrawArrow(QPainter& painter, const QRect& rect, Qt::ArrowType direction, const QColor& colour) {
   constexpr double kReach = 3.5;
@@ -73,7 +73,7 @@ class Style : public QProxyStyle {
       case PM_ScrollBarExtent:
         return kScrollBarThickness;
       case PM_FocusFrameHMargin:
-        return kBesideText;
+        return kRowMargin;
       case PM_ButtonShiftHorizontal:
       case PM_ButtonShiftVertical:
         return 0;
