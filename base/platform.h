@@ -1,6 +1,6 @@
 // What the program needs of the desktop it runs on, in one interface: boxes, clock, chance, printer,
-// screen, pictures and browser. Each layer brings its own. All of it is called from handlers, on the one
-// thread; a box returns when the person has answered, and nothing else is delivered meanwhile.
+// screen, pictures and browser. Each layer brings its own. Handlers call it, all on one thread. A box returns
+// when the person has answered; no other event is delivered meanwhile.
 #pragma once
 
 #include <string>
@@ -52,7 +52,7 @@ class Platform {
   // they are no picture.
   virtual forms::Picture DecodePicture(std::string_view bytes) = 0;
 
-  // Sends a window's client area, controls included, to the default printer; error 482 where none answers.
+  // Sends a window's client area, controls included, to the default printer; error 482 if there is none.
   virtual void PrintForm(forms::Window& window) = 0;
 
   // Hands an address to the default browser; whether it was accepted.

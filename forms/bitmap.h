@@ -70,7 +70,7 @@ class Bitmap {
   Area Dot(int x, int y, int diameter, Pixel pen, RasterOperation operation);
 
   // The whole of another bitmap, stretched to width by height at (left, top); each pixel takes the
-  // nearest one of the source. What is transparent in the source leaves the destination.
+  // nearest one of the source. Where the source is transparent, the destination stays.
   Area Stretch(const Bitmap& source, int left, int top, int width, int height);
 
   // As much of another bitmap as there is room for, at the top left.

@@ -1,5 +1,5 @@
-// A control: a plain object that holds its state under the names the handlers use. A layer shows it and
-// brings in what a person does; without a layer it works all the same.
+// A control: a plain object that holds its state under the names that the handlers use. A layer shows it and
+// delivers what a person does; without a layer it works the same.
 //
 // A control belongs to the window or the panel it is made in, which outlives it, and never moves in memory.
 // Places and sizes are in twips (1/1440 inch, 15 to a pixel at 96 dots an inch), within the parent.
@@ -108,7 +108,7 @@ enum class Anchor {
   kLeft,     // top, left and bottom
   kRight,    // top, right and bottom
   kFill,     // all four
-  kStorage,  // none: storage of the program's, which no person sees or reaches
+  kStorage,  // none: storage, which no person sees or reaches
 };
 
 // A press or a movement of the mouse over a control, in the control's own scale.
@@ -122,7 +122,7 @@ struct MouseEvent {
 // Why a person cannot act on a control.
 enum class Refusal { kNone, kDisabled, kHidden };
 
-// Whatever holds controls: a window, a frame, a picture box, a menu.
+// What can hold controls: a window, a frame, a picture box, a menu.
 class Container {
  public:
   Container() = default;
@@ -133,7 +133,7 @@ class Container {
   virtual Window& HostWindow() = 0;
   virtual bool IsShown() const = 0;
   virtual std::string ContainerName() const = 0;
-  virtual Container* Outer() const = 0;  // what it lies in itself; nullptr for a window
+  virtual Container* Outer() const = 0;  // its own container; nullptr for a window
 
   const std::vector<Control*>& Children() const { return children_; }
 
@@ -160,7 +160,7 @@ class Control : public PropertyOwner {
   const std::string& AccessibleName() const { return accessible_name_; }
   bool HasNameOfItsOwn() const { return has_name_of_its_own_; }  // beside its caption
 
-  // Whether it is to be seen, along with everything that it lies in.
+  // Whether it and everything that contains it is visible.
   bool IsShown() const;
   Refusal RefusesPerson() const;
 
@@ -175,7 +175,7 @@ class Control : public PropertyOwner {
   // name.
   virtual bool ReadIndexed(std::string_view property, const std::vector<int>& arguments, Value& value) const;
 
-  // The window it lies in was hidden.
+  // Its window was hidden.
   virtual void WindowWasHidden() {}
 
   // What a person does at the control. Handlers never call these; views and scripts do. Whether the
@@ -220,7 +220,7 @@ class PlacedControl : public Control {
   void AnchorTo(Anchor anchor) { anchor_ = anchor; }
   Anchor GetAnchor() const { return anchor_; }
 
-  // Whether a person never comes to it, nor to what lies in it, on the window that it belongs to.
+  // Whether it, with all that it contains, is out of the person's reach.
   bool IsStorage() const { return anchor_ == Anchor::kStorage; }
 
   Property<double> Left;

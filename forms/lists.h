@@ -21,13 +21,13 @@ class ItemList : public TextControl {
   void Select(int index);  // from code: runs nothing; -1 for none
   int SelectedIndex() const { return selected_; }
 
-  // Grows with every change but an item added at the end: who shows the list can tell an addition from the
-  // rest.
+  // Grows with every change except an item added at the end, so that a view can tell additions from other
+  // changes.
   unsigned Generation() const { return generation_; }
 
   bool ReadIndexed(std::string_view property, const std::vector<int>& arguments, Value& value) const override;
 
-  // The person picks an item, or clicks where none is (-1), which leaves the selection.
+  // The person picks an item, or clicks on the empty part (-1), which keeps the selection.
   void PersonPicks(int index);
   void PersonMovesSelection(int index);  // by a key: the selection and the click, without a press
 
@@ -51,8 +51,8 @@ struct ListBoxDesign {
   bool sorted = false;  // keeps itself in order
 };
 
-// A list that is sorted by design keeps its items in the order of their character codes whatever the order
-// they come in; any other keeps the order they came in.
+// A list that is sorted by design keeps its items in the order of their character codes; any other keeps them
+// in the order in which they were added.
 class ListBox : public ItemList {
  public:
   using Design = ListBoxDesign;

@@ -5,7 +5,7 @@
 // screen, where drawing with AutoRedraw off appears, to go again as soon as the box's picture or size is
 // written or its window is hidden.
 //
-// Assigning Picture clears every drawing, also where it is the picture that stands already. Drawing
+// Assigning Picture clears every drawing, even if it is the same picture. Drawing
 // coordinates are pixels where ScaleMode is 3 and twips otherwise; mouse events report the same.
 #pragma once
 
@@ -45,7 +45,7 @@ class PictureBox : public Holding<TextControl> {
   // What is to be seen at the moment; no pixels where the box shows nothing but its colour.
   const Bitmap& Shown() const;
 
-  // The part of Shown that changed since the last call, for whoever paints it.
+  // The part of Shown that changed since the last call, for the view that paints it.
   Area TakeChangedArea();
 
   bool ReadIndexed(std::string_view property, const std::vector<int>& arguments, Value& value) const override;
@@ -79,7 +79,7 @@ class PictureBox : public Holding<TextControl> {
   void DrawOn(Draw draw);
 
   Bitmap persistent_;             // empty until something is drawn or shown
-  std::optional<Bitmap> screen_;  // stands while it differs from the persistent bitmap
+  std::optional<Bitmap> screen_;  // set while it differs from the persistent bitmap
   Area changed_;
 };
 

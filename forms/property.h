@@ -27,7 +27,7 @@ class PropertyBase;
 // What a property holds when its type is not known: for reading and writing properties by name.
 using Value = std::variant<bool, int, double, std::string, Picture>;
 
-// Whatever shows a control or window on a screen. It is told that something changed and looks for itself.
+// What shows a control or window on a screen. It is notified of a change and reads the new state itself.
 class View {
  public:
   View() = default;
@@ -153,8 +153,8 @@ class Property : public PropertyBase {
   T value_;
 };
 
-// A property whose writing has consequences: what refuses a value by throwing, what runs when a new one
-// stands, and whether writing the value that stands already is a write all the same.
+// A property whose writing has consequences: `refuse` throws if a value cannot be taken, `change` runs after
+// a new value is stored, and with `counts_when_equal` writing the same value again is a write too.
 template <class T>
 class RuledProperty : public Property<T> {
  public:
@@ -172,7 +172,7 @@ class RuledProperty : public Property<T> {
     return *this;
   }
 
-  // Changes the value where it stands: a write without a copy, for values that are large.
+  // Changes the value in place: a write without a copy, for large values.
   template <class Edit>
   void EditInPlace(Edit edit) {
     edit(this->value_);
@@ -240,7 +240,7 @@ void Property<T>::Write(const Value& value) {
 //
 //   Command22.Click = [this] { Command22_Click(); };
 //
-// An event without a handler passes.
+// An event without a handler does nothing.
 template <class... Arguments>
 class Event {
  public:

@@ -66,7 +66,7 @@ void TextRuns::SetColour(const std::vector<std::size_t>& starts, std::size_t len
         if (run->start == at) {
           piece = take_until(end);
         } else {
-          piece.length = run->start - at;  // the gap ahead of it
+          piece.length = run->start - at;  // the gap before it
         }
       }
       piece.style.colour = colour;

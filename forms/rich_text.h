@@ -11,7 +11,7 @@
 
 namespace lectern::forms {
 
-// How a run differs from the pane it stands in; what is not set is the pane's own.
+// How a run differs from its pane; what is not set is as in the pane.
 struct TextStyle {
   std::optional<Colour> colour;
   std::optional<bool> bold;
@@ -31,7 +31,7 @@ struct TextRun {
   std::size_t End() const { return start + length; }
 };
 
-// Runs in order of place, none over another; between them the style is the pane's.
+// Runs in ascending order that do not overlap; between them the style is the pane's.
 class TextRuns {
  public:
   const std::vector<TextRun>& All() const { return runs_; }
@@ -61,8 +61,8 @@ struct RichText {
 bool LooksLikeRtf(std::string_view bytes);
 
 // Reads rich text as word processors write it, as far as a help page needs: paragraphs, fonts, sizes, bold,
-// italic, underlined, colours and special characters. Whatever else stands in it is passed over, and any
-// bytes at all come out as some text.
+// italic, underlined, colours and special characters. Everything else is skipped, and any bytes give some
+// text.
 RichText ReadRtf(std::string_view bytes);
 
 // Plain text with every line end made CR LF.

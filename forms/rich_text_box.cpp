@@ -16,7 +16,7 @@ void RefuseNegative(int value) {
   if (value < 0) throw base::RunTimeError(base::ErrorNumber::kInvalidProperty);
 }
 
-// Whether `sought` (in lower case) stands at the byte, whatever the case of the text.
+// Whether `sought` (in lower case) begins at the byte, without regard to case.
 bool StandsAt(std::string_view text, std::size_t byte, std::string_view sought) {
   for (std::size_t at = 0; at < sought.size();) {
     if (byte >= text.size()) return false;
@@ -64,7 +64,7 @@ RichTextBox::RichTextBox(Container& parent, std::string name, const Design& desi
   is_ascii_ = text::IsAscii(Text());
 }
 
-// A write of the whole text leaves no run and no selection of the old one standing.
+// Writing the whole text removes all runs and the selection.
 void RichTextBox::TextWritten() {
   length_.reset();
   reached_ = {};

@@ -45,7 +45,7 @@ class RichTextBox : public TextControl {
   // Replaces the whole content by rich text.
   void Show(RichText content);
 
-  // Where `sought` stands first at or behind `start`; -1 where it does not, and for an empty text. Case
+  // The first position of `sought` from `start` on; -1 if there is none, and for an empty text. Case
   // does not matter, and the inside of words counts. With kFindNoHighlight the selection stays; without, it
   // moves to what was found.
   int Find(std::string_view sought, int start, int options);
@@ -73,8 +73,8 @@ class RichTextBox : public TextControl {
   ComputedProperty<Colour> SelColor;      // of the selection; read from its first character
   Event<> Change;
 
-  // What the person selected, with word of where it stands, as it is copied for use elsewhere; "" where the
-  // selection holds nothing of the kind. Empty for a pane whose text is not quoted.
+  // The selection with its reference, as it is copied for use elsewhere; "" if nothing can be quoted. Empty
+  // for a pane whose text is not quoted.
   std::function<std::string()> Quote;
 
  private:

@@ -39,7 +39,7 @@ class Window : public PropertyOwner, public Container {
 
   // The picture in a file of that name: errors of the file system, or 481.
   Picture LoadPicture(std::string_view name) const;
-  // Writes the picture as a BMP, whatever the name ends in; 424 where there is no picture.
+  // Writes the picture as a BMP, whatever its extension; 424 where there is no picture.
   void SavePicture(const Picture& picture, std::string_view name) const;
   // The same over something a person made: the picture that was there stays under `backup`.
   void SavePictureKeepingBackup(const Picture& picture, std::string_view name) const;
@@ -49,7 +49,7 @@ class Window : public PropertyOwner, public Container {
   // By name, without regard to case, and index (-1 outside arrays); nullptr where there is none.
   Control* Find(std::string_view name, int index = -1) const;
 
-  // Routines that no control starts, by name: a door for whoever keeps the program and its data.
+  // Routines that no control starts, by name, for preparing the data.
   std::map<std::string, std::function<void(const std::string& text)>, std::less<>> routines;
 
   virtual void Form_Load() {}

@@ -20,7 +20,7 @@ Appending::Appending(const FileSystem& files, Descriptor file, std::string path,
 Appending::~Appending() {
   try {
     if (file_.IsOpen()) Close();
-  } catch (...) {  // what could not be written is taken back; there is nobody left to be told
+  } catch (...) {  // a destructor cannot report it; what was not written whole is taken back
   }
 }
 

@@ -20,7 +20,7 @@ class Appending {
   Appending& operator=(Appending&&) = delete;
   Appending(const Appending&) = delete;
   Appending& operator=(const Appending&) = delete;
-  ~Appending();  // closes, whatever fails
+  ~Appending();  // closes; ignores a failure
 
   // Requires: neither closed nor failed before.
   void Write(std::string_view bytes);

@@ -72,7 +72,7 @@ FileSlots::Reading& FileSlots::BeforeEnd(int slot) {
   return reading;
 }
 
-// The text of a part of the file. How its bytes are meant is decided by the whole line that it lies in.
+// The text of a part of the file. The encoding is decided by the whole line that contains it.
 std::string_view FileSlots::Decoded(Reading& reading, std::string_view part, std::string_view whole) {
   if (text::IsAscii(part) || text::IsUtf8(whole)) return part;
   reading.decoded = DecodeCodePage(part);

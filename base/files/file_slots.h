@@ -1,8 +1,8 @@
 // The numbered files of one window. A handler opens a file on a number that it chooses (1 to 255), reads
 // or appends, and closes it; all handlers of the window share the numbers.
 //
-// A file is read whole at its opening and handed out piece by piece; a piece is good until the number is
-// read from or opened again, also when it was closed meanwhile. Failures are RunTimeErrors: 52 for a number
+// A file is read whole at its opening and handed out piece by piece; a piece stays valid until the next read
+// from the number or its next opening, even after it was closed. Failures are RunTimeErrors: 52 for a number
 // that is not open, 55 for one that is already, 62 for a read behind the end, and those of the file system.
 #pragma once
 

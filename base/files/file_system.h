@@ -69,7 +69,7 @@ class FileSystem {
   // The name as the host knows it; the last element need not exist.
   std::string HostPath(std::string_view name) const;
 
-  // Called ahead of each operation with the host's path; what it throws, the operation throws. Through it a
+  // Called before each operation with the host's path; what it throws, the operation throws. Through it a
   // test stops the program at a certain operation or lets one fail.
   std::function<void(Operation, const std::string& path)> before;
 

@@ -13,7 +13,7 @@ namespace lectern::files {
 // Throws the RunTimeError that stands for the host's error number.
 [[noreturn]] void FailWith(int host_error);
 
-// What stands at a path, of whatever kind.
+// What exists at a path.
 struct Standing {
   bool there = false;
   bool folder = false;
@@ -33,11 +33,11 @@ struct OpenFile {
   std::uint64_t length = 0;
 };
 
-// Never waits: a pipe or a device that lies where a file is wanted is no file.
+// Never blocks: a pipe or a device does not count as a file.
 OpenFile OpenRegular(const std::string& path, int flags);
 
-// The entry of a folder that is the element but for case; of several the first in code order; "" where none
-// is.
+// The entry of a folder that equals the element without regard to case; the first in code order if there are
+// several, "" if there is none.
 std::string EntryLike(const std::string& folder, std::string_view element);
 
 template <class Take>

@@ -33,7 +33,7 @@ void RecordReader::SkipBlanks() {
   while (at_ < text_.size() && (text_[at_] == ' ' || text_[at_] == '\t')) ++at_;
 }
 
-// Behind a field stands a comma or a line end, which goes with it; anything else begins the next field.
+// A comma or a line end after a field belongs to it; anything else begins the next field.
 void RecordReader::SkipFieldEnd() {
   SkipBlanks();
   if (AtEnd()) return;

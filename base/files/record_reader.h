@@ -39,9 +39,8 @@ class RecordReader {
     return {start, length};
   }
 
-  // The next line that begins with `start`, or the last line of all where none does any more: as reading line
-  // by line would come to it, but past the lines between in one sweep. Requires: !AtEnd(), and `start` is not
-  // empty.
+  // The next line that begins with `start`, or the last line if no further line does. The same as reading
+  // line by line, but faster. Requires: !AtEnd(), and `start` is not empty.
   std::string_view LineStarting(std::string_view start);
 
   // All that is left.

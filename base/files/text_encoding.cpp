@@ -58,7 +58,7 @@ std::string Decode(std::string_view bytes) {
 
 namespace {
 
-// Lines are told apart one by one when they are read.
+// The encoding is decided for each line when it is read.
 bool HasLineInUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
     const std::size_t end = std::min(bytes.find('\n'), bytes.size() - 1) + 1;

@@ -1,4 +1,4 @@
-// How text stands in files. In memory it is UTF-8; in files it is the 8-bit western code page
+// The encoding of text in files. In memory it is UTF-8; in files it is the 8-bit western code page
 // (Windows-1252), so that the data can move between systems.
 //
 // Reading takes a line that is valid UTF-8 for what it is and any other for the code page. Writing uses

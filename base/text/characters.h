@@ -1,7 +1,6 @@
-// Text is UTF-8 in memory; positions in it are told in characters (code points), counted from 1. These
-// take and measure pieces of a text in those terms. A byte that belongs to no valid sequence counts as a
-// character of its own, so that no text can lead them astray. Texts of ASCII alone cost no more than
-// the same work on bytes.
+// Text is UTF-8 in memory; positions count characters (code points) from 1. These functions take and measure
+// pieces of a text by characters. A byte that belongs to no valid sequence counts as a character of its own,
+// so that no text can lead them astray. Texts of ASCII alone cost no more than the same work on bytes.
 #pragma once
 
 #include <cstddef>
@@ -17,7 +16,7 @@ bool IsUtf8(std::string_view text);
 // The number of characters.
 std::size_t Length(std::string_view text);
 
-// The byte where character `position` begins (from 1), or the text's size where it lies behind the end.
+// The byte where character `position` begins (from 1), or the text's size if the position is past the end.
 std::size_t ByteOf(std::string_view text, std::size_t position);
 
 // The first `count` characters, or all of them where there are fewer.
@@ -50,7 +49,7 @@ std::string Upper(std::string_view text);
 // The same text but for case.
 bool EqualFolded(std::string_view a, std::string_view b);
 
-// The order of file lists: without regard to case, and by character code where that leaves a tie.
+// The order of file lists: without regard to case, and ties by character code.
 bool LessFolded(std::string_view a, std::string_view b);
 
 }  // namespace lectern::text

@@ -39,7 +39,7 @@ class TextList {
   void Erase(std::size_t index);                          // Requires: index < Count()
   void Clear();                                           // keeps the room
 
-  // Makes room ahead of adding so many texts of this length.
+  // Reserves memory for so many more texts of this length.
   void Reserve(std::size_t count, std::size_t length);
 
   bool operator==(const TextList& other) const;
