@@ -115,19 +115,6 @@ TEST_F(Access, ThePaletteIsOneStopWhoseColoursTheArrowsGoThrough) {
   EXPECT_EQ(window.Focus()->FullName(), "clrboxs(7)");
 }
 
-TEST_F(Access, TheWholeChapterIsThereToBeRead) {
-  forms::Window& window = *desktop.Program().Touch("Form1");
-  const auto& pane = dynamic_cast<const forms::RichTextBox&>(*window.Find("rtxt"));
-  QAccessibleInterface* const read = Read(pane);
-  QAccessibleTextInterface* const text = read->textInterface();
-  ASSERT_NE(text, nullptr);
-  std::string expected = pane.Text;
-  std::erase(expected, '\r');
-  EXPECT_GT(expected.size(), 40U);
-  EXPECT_EQ(text->text(0, text->characterCount()).toStdString(), expected);
-  EXPECT_TRUE(read->state().readOnly);
-}
-
 TEST_F(Access, WhatIsDrawnTwiceIsReadOnce) {
   ShowEverything();
   forms::Window& window = *desktop.Program().Touch("Form1");

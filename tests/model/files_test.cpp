@@ -181,18 +181,6 @@ TEST_F(Files, KeepTheVersionBeforeAndTheLongestOfThoseBeforeIt) {
   expect_before("nothing", "all of it!");
 }
 
-TEST_F(Files, LeaveAFileAsItWasWhenTheDiskIsFull) {
-  folder.Write("words.dat", "\"kept\",\"Ruth 1 1\"\r\n");
-  files.before = [](Operation operation, const std::string&) {
-    if (operation == Operation::kWrite) throw base::RunTimeError(base::ErrorNumber::kDiskFull);
-  };
-  slots.OpenForAppending(1, Name("\\words.dat"));
-  slots.WriteRecord(1, "new", "Ruth 1 2");
-  EXPECT_EQ(ErrorOf([&] { slots.Close(1); }), 61);
-  EXPECT_FALSE(slots.IsOpen(1));
-  EXPECT_EQ(folder.Read("words.dat"), "\"kept\",\"Ruth 1 1\"\r\n");
-}
-
 TEST(PathNames, FitPatternsAsFileListsDo) {
   for (const auto& [name, pattern] : std::vector<std::pair<const char*, const char*>>{
            {"Ruth and Naomi.BKM", "*.bkm"}, {".bkm", "*.bkm"}, {"cdx4.ico", "CDX?.ico"}, {"aXbXc", "*b*c"}}) {

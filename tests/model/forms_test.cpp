@@ -76,21 +76,6 @@ TEST(ListBox, SortsByCharacterCodeOrKeepsTheOrderAndForgetsTheSelectionWithItsIt
   EXPECT_FALSE(sorted.Selected(0));
 }
 
-TEST(OptionButton, ClearsItsNeighboursAndCountsEveryClick) {
-  TestWindow test;
-  Frame frame(test.form, "frame");
-  OptionButton first(test.form, "optk", {.checked = true});
-  OptionButton second(test.form, "optn");
-  OptionButton elsewhere(frame, "op1", {.checked = true});
-  int clicks = 0;
-  second.Click = [&] { ++clicks; };
-  second.PersonClicks();
-  second.PersonClicks();
-  EXPECT_FALSE(first.Value);
-  EXPECT_TRUE(elsewhere.Value);
-  EXPECT_EQ(clicks, 2);
-}
-
 TEST(Keys, PressTheDefaultAndTheCancelButtonOfThePanelAroundOrOfTheFrontOne) {
   TestWindow test;
   test.form.Visible = true;
@@ -124,20 +109,6 @@ TEST(Keys, PressTheDefaultAndTheCancelButtonOfThePanelAroundOrOfTheFrontOne) {
   below.PersonKeys(kEscapeKey);
   test.form.PressCancelOfFrontPanel();
   EXPECT_EQ(pressed, "close_back leave leave ");
-}
-
-TEST(Control, IsOutOfReachWhenItOrWhatItLiesInIsHiddenOrItIsDisabled) {
-  TestWindow test;
-  Frame panel(test.form, "panel");
-  CommandButton button(panel, "button");
-  EXPECT_EQ(button.RefusesPerson(), Refusal::kHidden);  // the window is not shown yet
-  test.form.Visible = true;
-  EXPECT_EQ(button.RefusesPerson(), Refusal::kNone);
-  button.Enabled = false;
-  EXPECT_EQ(button.RefusesPerson(), Refusal::kDisabled);
-  panel.Visible = false;
-  EXPECT_EQ(button.RefusesPerson(), Refusal::kHidden);
-  EXPECT_TRUE(button.Visible);  // it keeps its own state
 }
 
 TEST(FolderLists, LookIntoTheFileSystem) {

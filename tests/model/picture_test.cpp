@@ -154,23 +154,6 @@ TEST(Image, TakesThePicturesSizeUnlessItStretches) {
   EXPECT_EQ(image.Width, 45);
 }
 
-TEST(Bmp, IsWhatAPictureIsSavedAsAndIsReadBack) {
-  TestWindow test;
-  Bitmap bitmap(3, 2);
-  bitmap.Set(1, 0, kOpaque | 0x332211);
-  test.form.SavePicture(Picture(bitmap), test.folder.Path() + "\\saved.JPG");
-  EXPECT_EQ(test.folder.Read("saved.JPG").substr(0, 2), "BM");
-  const Picture read = test.form.LoadPicture(test.folder.Path() + "\\SAVED.jpg");
-  ASSERT_EQ(read.Width(), 3);
-  ASSERT_EQ(read.Height(), 2);
-  EXPECT_EQ(read->At(1, 0), kOpaque | 0x332211);
-  EXPECT_EQ(read->At(0, 1), kWhitePixel);
-
-  test.folder.Write("none.jpg", "no picture at all");
-  EXPECT_EQ(ErrorOf([&] { test.form.LoadPicture(test.folder.Path() + "\\none.jpg"); }), 481);
-  EXPECT_EQ(ErrorOf([&] { test.form.LoadPicture(test.folder.Path() + "\\gone.jpg"); }), 53);
-}
-
 // A BMP of one colour, packed so that a row of thousands takes a few hundred bytes.
 std::string PackedBmp(int width, int height) {
   std::string rows;
