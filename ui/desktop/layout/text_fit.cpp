@@ -9,7 +9,7 @@ namespace lectern::desktop {
 namespace {
 
 constexpr double kSmallestShare = 0.8;  // of the wanted size
-constexpr double kStep = 0.05;
+constexpr double kShareStep = 0.05;
 
 QFont ScaledFont(const QFont& font, double share) {
   QFont scaled = font;
@@ -26,7 +26,7 @@ template <class Fits>
 QFont LargestThatFits(const QFont& font, Fits fits) {
   if (fits(font)) return font;
   QFont scaled = font;
-  for (double share = 1 - kStep; share > kSmallestShare - kStep / 2; share -= kStep) {
+  for (double share = 1 - kShareStep; share > kSmallestShare - kShareStep / 2; share -= kShareStep) {
     scaled = ScaledFont(font, share);
     if (fits(scaled)) break;
   }
