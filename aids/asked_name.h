@@ -1,4 +1,4 @@
-// The name of something that a person is about to make, a bookmark or a note. It becomes the name of a file.
+// The name of a new bookmark or note, which becomes the name of its file.
 #pragma once
 
 #include <string>
@@ -8,12 +8,9 @@
 
 namespace lectern::aids {
 
-// Asks for a name, with today's date proposed ("11 - 16 - 26"), and cleans the answer; "" where the box was
-// cancelled or left empty.
+// Asks for a name and proposes today's date ("11 - 16 - 26"); "" if the box is cancelled or left empty. In
+// the answer a double quote becomes two apostrophes, a slash of either kind one, as records and paths use
+// these characters themselves. Other characters that a file system may refuse stay.
 std::string AskForName(base::Platform& platform, std::string_view prompt, std::string_view title);
-
-// The name without the characters that a record or a path has a use for: a double quote becomes two
-// apostrophes, a slash of either kind one. What else a file system may refuse stays.
-std::string CleanName(std::string_view name);
 
 }  // namespace lectern::aids

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kBookmark = 1;  // slot
 
-// What shows that the strip is for sweeping: a row of arrow heads that grow darker to the right.
+// A row of arrow heads that grow darker to the right: it shows that the strip is for sweeping.
 forms::Picture Arrows() {
   constexpr int kWidth = 190;  // pixels
   constexpr int kHeight = 44;
@@ -49,12 +49,17 @@ Bookmarks::Bookmarks(reader::Reader& the_reader, forms::PictureBox& Picture1, fo
   tools_.Command3.Click = [this] { Command3_Click(); };
   xb.Click = [this] { xb_Click(); };
   File1.Click = [this] { File1_Click(); };
-  Command5.Click = [this] { Command5_Click(); };
+  Command5.Click = [this] {
+    reader_.RestoreBookmark();
+    Close();
+  };
   Command6.Click = [this] { Command6_Click(); };
-  Command7.Click = [this] { Command7_Click(); };
+  Command7.Click = [this] { Close(); };
   Command10.Click = [this] { Command10_Click(); };
   Command11.Click = [this] { Command11_Click(); };
-  Picture2_.MouseMove = [this](const forms::MouseEvent&) { Picture2_MouseMove(); };
+  // ODDITY(sweeping-chapters): every movement of the pointer over the box opens the next chapter, even past
+  // the last one.
+  Picture2_.MouseMove = [this](const forms::MouseEvent&) { reader_.StepToNextChapter(); };
 }
 
 void Bookmarks::Command3_Click() {
@@ -63,8 +68,8 @@ void Bookmarks::Command3_Click() {
   tools_.Disable();
 }
 
-// ODDITY(bookmark-doors): the menu's door leaves the picture open and the tool buttons enabled, the tool
-// button's own does not.
+// ODDITY(bookmark-doors): the menu entry leaves the picture open and the tool buttons enabled; the tool
+// button does not.
 void Bookmarks::xb_Click() {
   Picture1_.Visible = true;
   reader_.LBLMRK(1).Caption = reader_.Stem();
@@ -90,8 +95,8 @@ void Bookmarks::WritePlace(const std::string& name) {
 void Bookmarks::Command10_Click() {
   const std::string name = AskForName(reader_.form.Platform(), "Enter a name for bookmark", "Enter Name");
   if (name.empty()) return;
-  // ODDITY(new-keeps-place): under a name that exists the record goes behind the one that is there, which
-  // alone is ever read, so that the old place stays in force. Update replaces a place.
+  // ODDITY(new-keeps-place): in a file that exists the record is added after the first one. Only the first is
+  // ever read, so the bookmark keeps its old place; Update replaces it.
   files::FileSlots& slots = reader_.form.Slots();
   slots.OpenForAppending(kBookmark, PathOf(name));
   WritePlace(name);
@@ -100,9 +105,8 @@ void Bookmarks::Command10_Click() {
   reader_.TakeBookmark({name, reader_.Book(), reader_.Chapter()});
 }
 
-// ODDITY(update-by-label): the file is the one that the label names. With no bookmark in hand that is
-// `.bkm`; after a Delete it comes back; where a file's first field is not its name, another file is
-// written. The labels stay.
+// ODDITY(update-by-label): the label names the file. Without a current bookmark this is `.bkm`; a deleted
+// file comes back; if the name inside a file differs from the file's name, another file is written.
 void Bookmarks::Command6_Click() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
@@ -121,20 +125,9 @@ void Bookmarks::Command11_Click() {
   File1.Refresh();
 }
 
-void Bookmarks::Command5_Click() {
-  reader_.RestoreBookmark();
-  Leave();
-}
-
-void Bookmarks::Command7_Click() { Leave(); }
-
-void Bookmarks::Leave() {
+void Bookmarks::Close() {
   Picture1_.Visible = false;
   tools_.Enable();
 }
-
-// ODDITY(sweeping-chapters): every movement of the pointer over the box is a chapter further, and nothing
-// stops it behind the last one.
-void Bookmarks::Picture2_MouseMove() { reader_.StepToNextChapter(); }
 
 }  // namespace lectern::aids

@@ -1,8 +1,7 @@
 #include "aids/help.h"
 
-#include <algorithm>
 #include <array>
-#include <cassert>
+#include <string_view>
 
 #include "base/text/characters.h"
 
@@ -10,91 +9,20 @@ namespace lectern::aids {
 
 namespace {
 
-// The file of each topic, in the order of their labels.
+// In the order of the topics' labels.
 constexpr std::array kTopicFiles = {"bookmark.txt",    "search.txt",     "notes.txt",  "pictures.txt",
                                     "concordance.txt", "dictionary.txt", "trivia.txt", "paint.txt"};
 
-constexpr std::string_view kDefaultHost = "www.example.org";
+constexpr std::string_view kDefaultPage = "http://www.example.org";
 
-}  // namespace
+// The short notes that the program itself holds. A note replaces the text of the pane; most are reached only
+// by the name of their routine. Their wording, slips included, is kept.
+struct StoredNote {
+  std::string_view routine;
+  std::string_view text;
+};
 
-Help::Help(reader::Reader& the_reader, forms::PictureBox& frmhelp, reader::ToolButtons& the_tools,
-           forms::Menu& xh2, forms::Menu& aboutlt, forms::Menu& webb1, forms::Menu& webb2)
-    : reader_(the_reader), frmhelp_(frmhelp), tools_(the_tools) {
-  Label19_4.PutInArray(4);
-  xh2.Click = [this] { xh2_Click(); };
-  aboutlt.Click = [this] { aboutlt_Click(); };
-  webb1.Click = [this] { webb1_Click(); };
-  webb2.Click = [this] { webb2_Click(); };
-  lblhp.ForEach(
-      [this](int index, forms::Label& label) { label.Click = [this, index] { lblhp_Click(index); }; });
-  Command4.Click = [this] { Command4_Click(); };
-  Command44.Click = [this] { Command44_Click(); };
-
-  for (const StoredNote& note : kStoredNotes) {
-    reader_.form.routines[std::string(note.routine)] = [this, &note](const std::string&) {
-      ShowText(std::string(note.text));
-    };
-  }
-  reader_.form.routines["OpenWebPage"] = [this](const std::string& address) { OpenWebPage(address); };
-  ShowAbout();
-}
-
-// What a first opening shows, in letters of its own; whatever takes its place comes in the window's.
-void Help::ShowAbout() {
-  txthelp.Text = std::string(kAboutText);
-  txthelp.FontBold = true;
-  txthelp.FontSize = 12;
-}
-
-void Help::LeaveAbout() {
-  txthelp.FontBold = false;
-  txthelp.FontSize.EditInPlace([](double& points) { points = 0; });
-}
-
-void Help::xh2_Click() { frmhelp_.Visible = true; }
-
-void Help::lblhp_Click(int index) {
-  txthelp.LoadFile(reader_.DataFile(kTopicFiles[static_cast<std::size_t>(index)]));
-  LeaveAbout();
-}
-
-// ODDITY(help-close-unlocks): one of the two Close buttons enables the tool buttons, also where another open
-// panel has disabled them.
-void Help::Command4_Click() { frmhelp_.Visible = false; }
-
-void Help::Command44_Click() {
-  frmhelp_.Visible = false;
-  tools_.Enable();
-}
-
-void Help::aboutlt_Click() { reader_.form.Platform().Message(kAboutText); }
-
-void Help::webb1_Click() { OpenWebPage("http://" + std::string(kDefaultHost) + "/lectern/"); }
-void Help::webb2_Click() { OpenWebPage("http://" + std::string(kDefaultHost) + "/"); }
-
-bool Help::OpenWebPage(const std::string& address) {
-  constexpr std::string_view kScheme = "http";
-  const bool has_scheme = text::EqualFolded(std::string_view(address).substr(0, kScheme.size()), kScheme);
-  // ODDITY(bare-address-replaced): an address without its "http" is not completed but replaced by the default
-  // host.
-  return reader_.form.Platform().OpenInBrowser(has_scheme ? address : "http://" + std::string(kDefaultHost));
-}
-
-void Help::ShowNote(const std::string& text) {
-  frmhelp_.Visible = true;
-  ShowText(text);
-}
-
-void Help::HelpChangingBook() { ShowText(std::string(StoredNoteText("HelpChangingBook"))); }
-
-void Help::ShowText(const std::string& text) {
-  txthelp.Text = text;
-  LeaveAbout();
-}
-
-// Worded as they have always been, slips of the pen included.
-const std::array<StoredNote, 13> kStoredNotes = {{
+constexpr std::array<StoredNote, 13> kStoredNotes = {{
     {"HelpTextSearch",
      "To use the Text Search, click its button. (Make sure that the concordance does not have the word you "
      "are searching for, before searching). Select whether to search the open book, or the whole codex. Type "
@@ -155,17 +83,68 @@ const std::array<StoredNote, 13> kStoredNotes = {{
      "bar."},
 }};
 
-std::string_view StoredNoteText(std::string_view routine) {
-  const auto* const found =
-      std::find_if(kStoredNotes.begin(), kStoredNotes.end(),
-                   [routine](const StoredNote& note) { return note.routine == routine; });
-  assert(found != kStoredNotes.end());
-  return found->text;
-}
-
-const std::string_view kAboutText =
+constexpr std::string_view kAboutText =
     "Lectern 2, by the makers of Lectern, 2026. It is free to use and to pass on. If you would like to give "
     "a donation, or pictures for the gallery, please see us on the web by clicking ''Internet'', at the top "
     "menu bar.";
+
+}  // namespace
+
+Help::Help(reader::Reader& the_reader, forms::PictureBox& frmhelp, reader::ToolButtons& the_tools,
+           forms::Menu& xh2, forms::Menu& aboutlt, forms::Menu& webb1, forms::Menu& webb2)
+    : reader_(the_reader), frmhelp_(frmhelp), tools_(the_tools) {
+  Label19_4.PutInArray(4);
+  xh2.Click = [this] { frmhelp_.Visible = true; };
+  aboutlt.Click = [this] { reader_.form.Platform().Message(kAboutText); };
+  webb1.Click = [this] { OpenWebPage(std::string(kDefaultPage) + "/lectern/"); };
+  webb2.Click = [this] { OpenWebPage(std::string(kDefaultPage) + "/"); };
+  lblhp.ForEach(
+      [this](int index, forms::Label& label) { label.Click = [this, index] { lblhp_Click(index); }; });
+  // ODDITY(help-close-unlocks): only the other Close button enables the tool buttons, even if another open
+  // panel has disabled them.
+  Command4.Click = [this] { frmhelp_.Visible = false; };
+  Command44.Click = [this] {
+    frmhelp_.Visible = false;
+    tools_.Enable();
+  };
+
+  for (const StoredNote& note : kStoredNotes) {
+    reader_.form.routines[std::string(note.routine)] = [this, &note](const std::string&) {
+      ShowText(std::string(note.text));
+    };
+  }
+  reader_.form.routines["OpenWebPage"] = [this](const std::string& address) { OpenWebPage(address); };
+  // The text of a first opening has its own font; every later text uses the window's.
+  txthelp.Text = std::string(kAboutText);
+  txthelp.FontBold = true;
+  txthelp.FontSize = 12;
+}
+
+void Help::UseWindowFont() {
+  txthelp.FontBold = false;
+  txthelp.FontSize.EditInPlace([](double& points) { points = 0; });
+}
+
+void Help::lblhp_Click(int index) {
+  txthelp.LoadFile(reader_.DataFile(kTopicFiles[static_cast<std::size_t>(index)]));
+  UseWindowFont();
+}
+
+void Help::OpenWebPage(const std::string& address) {
+  constexpr std::string_view kScheme = "http";
+  const bool has_scheme = text::EqualFolded(std::string_view(address).substr(0, kScheme.size()), kScheme);
+  // ODDITY(bare-address-replaced): an address without "http" is replaced by the default page, not completed.
+  reader_.form.Platform().OpenInBrowser(has_scheme ? std::string_view(address) : kDefaultPage);
+}
+
+void Help::ShowNote(const std::string& text) {
+  frmhelp_.Visible = true;
+  ShowText(text);
+}
+
+void Help::ShowText(const std::string& text) {
+  txthelp.Text = text;
+  UseWindowFont();
+}
 
 }  // namespace lectern::aids

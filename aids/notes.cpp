@@ -12,10 +12,9 @@ namespace lectern::aids {
 namespace {
 
 constexpr int kNote = 1;  // slot
-
 constexpr std::string_view kAltered = "c";
 
-// The chooser's ground: a sheet of ruled paper.
+// The background of the chooser.
 forms::Picture RuledPaper() {
   constexpr int kWidth = 423;  // pixels
   constexpr int kHeight = 554;
@@ -44,11 +43,18 @@ Notes::Notes(forms::Window& window) : form(window) {
   Command13.Click = [this] { SaveNoteFile(); };
   f3.Click = [this] { SaveNoteFile(); };
   f4.Click = [this] { f4_Click(); };
-  f6.Click = [this] { f6_Click(); };
+  // ODDITY(notes-print-nothing): one empty line is printed, and on the window itself, where nobody can see
+  // it.
+  f6.Click = [this] {
+    constexpr double kLineHeight = 195;  // twips, in the window's font
+    form.CurrentX = 0;
+    form.CurrentY = form.CurrentY + kLineHeight;
+  };
   Command12.Click = [this] { Command12_Click(); };
   f8.Click = [this] { Command12_Click(); };
 
-  Drive1.Change = [this] { Drive1_Change(); };
+  // ODDITY(drive-fails): the drive is assigned to something that does not exist; only the folder list counts.
+  Drive1.Change = [] { throw base::RunTimeError(base::ErrorNumber::kObjectRequired); };
   Dir1.Change = [this] { File1.Path = Dir1.Path; };
   File1.Click = [this] { File1_Click(); };
   Command2.Click = [this] { Command2_Click(); };
@@ -84,12 +90,12 @@ void Notes::HideChooser() {
   txthelp.SetFocus();
 }
 
-// ODDITY(notes-folder-now): a note is written to the folder that the chooser shows now, not to the one that
-// it came from.
+// ODDITY(notes-folder-now): a note is written to the folder that the chooser shows now, not to the one from
+// which it was loaded.
 std::string Notes::PathOf(const std::string& name) const { return Dir1.Path + "\\" + name + ".not"; }
 
-// ODDITY(note-grows): the line end behind the text is written each time, also where the text has brought
-// the one from the last time; so a note grows by an empty line with each load and save.
+// ODDITY(note-grows): a line end is always written after the text, which still has the one from the last
+// time, so a note grows by an empty line with each load and save.
 void Notes::AppendText(const std::string& name) {
   files::FileSlots& slots = form.Slots();
   slots.OpenForAppending(kNote, PathOf(name));
@@ -99,8 +105,8 @@ void Notes::AppendText(const std::string& name) {
 
 void Notes::File1_Click() {
   if (const int selected = File1.SelectedIndex(); selected >= 0) {
-    // ODDITY(note-switch-drops): what was changed in the note before is dropped without a question; it is
-    // meant. The blank makes a click on the note that is open load it anew.
+    // ODDITY(note-switch-drops): changes to the previous note are dropped without a question. The empty name
+    // makes a click on the open note load it again.
     constexpr std::size_t kEnding = 4;  // characters of ".not"
     const std::string& entry = File1.List(selected);
     lblname.Caption = "";
@@ -109,7 +115,7 @@ void Notes::File1_Click() {
   HideChooser();
 }
 
-// The load marks the text as altered, and the mark is taken away behind it.
+// Loading marks the text as altered, so the mark is cleared afterwards.
 void Notes::lblname_Change() {
   ShowTitle();
   if (lblname.Caption == "") return;
@@ -120,9 +126,8 @@ void Notes::lblname_Change() {
 void Notes::Command2_Click() {
   const std::string name = AskForName(form.Platform(), "Enter a name for file", "InputBox Demo");
   if (name.empty()) return;
-  // ODDITY(new-note-copies): a new note begins as a copy of what the editor holds; where there is a note of
-  // that name, the text goes to its end, and where that is the note that is open, the editor goes on
-  // showing the old text.
+  // ODDITY(new-note-copies): a new note begins as a copy of the editor's text. If a note of that name exists,
+  // the text is added to its end; if that note is open, the editor still shows the old text.
   AppendText(name);
   lblname.Caption = name;
   File1.Refresh();
@@ -135,45 +140,29 @@ void Notes::SaveNoteFile() {
   lblc.Caption = "";
 }
 
-// ODDITY(unsaved-stays-unsaved): a No leaves the text and its mark as they are, and the question comes again
-// at the next leaving.
-void Notes::ConfirmSaveNote() {
-  const std::string question =
-      "File has been altered. Do you want to save changes to the file: " + lblname.Caption + "?";
-  if (form.Platform().Question(question, "Save File")) SaveNoteFile();
-}
-
 void Notes::Command12_Click() {
   Form_Unload();
   form.Visible = false;
 }
 
+// ODDITY(unsaved-stays-unsaved): a No keeps the text and its mark, so the question comes again the next time.
 void Notes::Form_Unload() {
-  if (lblc.Caption == kAltered) ConfirmSaveNote();
+  if (lblc.Caption != kAltered) return;
+  const std::string question =
+      "File has been altered. Do you want to save changes to the file: " + lblname.Caption + "?";
+  if (form.Platform().Question(question, "Save File")) SaveNoteFile();
 }
 
 void Notes::f4_Click() {
   if (!form.Platform().Question("Do you want to delete file: " + lblname.Caption + "?", "Delete File"))
     return;
-  // ODDITY(deleted-note-stays): the note's name and text stay in the editor; saving it then fails, as there
-  // is no file to replace.
+  // ODDITY(deleted-note-stays): the name and the text stay in the editor. Saving then fails, as there is no
+  // file to replace.
   form.Files().DeleteKeepingBackup(PathOf(lblname.Caption));
   ShowChooser();
 }
 
-// ODDITY(notes-print-nothing): what is printed is one empty line, and on the window's own face, where it is
-// not to be seen.
-void Notes::f6_Click() {
-  constexpr double kLineHeight = 195;  // twips, in the window's font
-  form.CurrentX = 0;
-  form.CurrentY = form.CurrentY + kLineHeight;
-}
-
-// ODDITY(drive-fails): the choice of a drive is handed to something that does not exist; the folder is
-// chosen in its own list.
-void Notes::Drive1_Change() { throw base::RunTimeError(base::ErrorNumber::kObjectRequired); }
-
-// What a person sees in the title bar: which note this is, and whether something in it is not saved yet.
+// The title bar names the note and has a "*" in front if changes are unsaved.
 void Notes::ShowTitle() {
   const std::string& name = lblname.Caption;
   std::string title = lblc.Caption == kAltered ? "*" : "";
@@ -181,8 +170,8 @@ void Notes::ShowTitle() {
   form.Title = title + form.Caption();
 }
 
-NotesDoors::NotesDoors(forms::PictureBox& picp, reader::ToolButtons& tools, forms::Menu& cc0,
-                       std::function<Notes&()> notes) {
+NotesOpening::NotesOpening(forms::PictureBox& picp, reader::ToolButtons& tools, forms::Menu& cc0,
+                           std::function<Notes&()> notes) {
   cc0.Click = [notes] { notes().Open(); };
   tools.Command14.Click = [notes = std::move(notes), &picp] {
     picp.Visible = false;

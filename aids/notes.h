@@ -1,8 +1,8 @@
-// The notes: an editor for notes of plain text, each a file of its own whose name ends in `.not`, and the
-// chooser that lies over it. All of it stands on a window of its own, which stays alive while it is hidden.
+// The notes window, which stays alive while it is hidden: an editor for notes of plain text, each in its own
+// file with the ending `.not`, and the chooser that lies over it.
 //
-// What the editor holds is saved in one piece, with a line end behind it. A failure here leaves the text in
-// the editor and the note marked as altered; the last version of a saved or deleted note is kept.
+// The text is saved in one piece, with a line end after it. A failure leaves the text in the editor and the
+// note marked as altered; the last version of a saved or deleted note is kept.
 #pragma once
 
 #include <functional>
@@ -27,8 +27,7 @@ class Notes {
   void Form_Load();
   void Form_Unload();
 
-  // From the main window: shows the notes, and the chooser where no note was opened yet.
-  void Open();
+  void Open();  // shows the window, with the chooser if no note is open yet
 
   forms::Window& form;
 
@@ -43,16 +42,14 @@ class Notes {
 
   // The note's name; "NAME" until one is opened.
   forms::Label lblname{form, "lblname", {.caption = kNoNote}};
-  // "c" where the text was changed since it was loaded or saved.
+  // "c" if the text was changed after it was loaded or saved.
   forms::Label lblc{form, "lblc", {.caption = "Label1", .visible = false}};
-  // Text of the note.
   forms::RichTextBox txthelp{form, "txthelp", {.text = "RichTextBox1\r\n", .name = "Text of the note"}};
   forms::CommandButton Command1{form, "Command1", {.caption = "Open"}};    // opens the chooser
   forms::CommandButton Command13{form, "Command13", {.caption = "Save"}};  // saves the note
-  // Closes the window.
   forms::CommandButton Command12{form, "Command12", {.caption = "Close", .is_cancel = true}};
 
-  // Nothing reads or writes this frame and what it holds.
+  // Nothing uses this frame and the two controls in it.
   forms::Frame FRMNOTE{form, "FRMNOTE", {.visible = false}};
   forms::Label Label17{FRMNOTE, "Label17", {.caption = "Notes"}};  // heading of FRMNOTE
   forms::TextBox Text42{FRMNOTE, "Text42", {.name = "Notes"}};     // in FRMNOTE
@@ -60,15 +57,13 @@ class Notes {
   forms::PictureBox picopen{form, "picopen", {.visible = false, .name = "Open a note"}};  // the chooser
   forms::DriveListBox Drive1{picopen, "Drive1", {.name = "Drive"}};          // drive of the notes
   forms::DirListBox Dir1{picopen, "Dir1", {.name = "Folder of the notes"}};  // folder of the notes
-  // The notes in the folder.
   forms::FileListBox File1{picopen, "File1", {.name = "Notes in the folder", .pattern = "*.not"}};
-  // Says what to do.
   forms::Label Label2{
+      // what to do
       picopen,
       "Label2",
       {.caption = "Click file above to open or Create New File", .fore_color = forms::kBlack}};
   forms::CommandButton Command2{picopen, "Command2", {.caption = "Create New File"}};  // creates a note
-  // Closes the chooser.
   forms::CommandButton Command3{picopen, "Command3", {.caption = "Close", .is_cancel = true}};
 
  private:
@@ -77,11 +72,8 @@ class Notes {
   void Command2_Click();
   void Command12_Click();
   void f4_Click();
-  void f6_Click();
-  void Drive1_Change();
 
   void SaveNoteFile();
-  void ConfirmSaveNote();
 
   std::string PathOf(const std::string& name) const;
   void AppendText(const std::string& name);
@@ -90,12 +82,12 @@ class Notes {
   void ShowTitle();
 };
 
-// The doors of the main window to the notes: the tool button and the menu entry.
-class NotesDoors {
+// The tool button and the menu entry of the main window that open the notes.
+class NotesOpening {
  public:
-  // `notes` makes the window of the notes where there is none yet.
-  NotesDoors(forms::PictureBox& picp, reader::ToolButtons& tools, forms::Menu& cc0,
-             std::function<Notes&()> notes);
+  // `notes` creates the window of the notes on first use.
+  NotesOpening(forms::PictureBox& picp, reader::ToolButtons& tools, forms::Menu& cc0,
+               std::function<Notes&()> notes);
 };
 
 }  // namespace lectern::aids

@@ -17,7 +17,7 @@ void PrintedPage::Form_Load() {
   form.Top = (screen.height - form.Height) / 2;
 }
 
-// The window grows while it is printed, so that more lines come onto the paper, and loses its buttons.
+// While it is printed the window is taller, so that more lines fit on the paper, and has no buttons.
 void PrintedPage::Command1_Click() {
   constexpr double kPrintedHeight = 14000;  // twips
   constexpr double kMoreText = 7000;
@@ -27,7 +27,7 @@ void PrintedPage::Command1_Click() {
   Command2.Visible = false;
   form.Height = kPrintedHeight;
   Text1.Height = Text1.Height + kMoreText;
-  // ODDITY(no-printer-untold): where no printer answers nothing is printed, and nothing is told.
+  // ODDITY(no-printer-untold): without a printer nothing is printed and nothing is reported.
   ignore([&] { form.Platform().PrintForm(form); });
   Text1.Height = Text1.Height - kMoreText;
   form.Height = kHeight;
@@ -35,21 +35,16 @@ void PrintedPage::Command1_Click() {
   Command2.Visible = true;
 }
 
-namespace {
-
-constexpr int kNote = 1;  // slot
-
-}  // namespace
-
 PagePrinting::PagePrinting(reader::Reader& the_reader, forms::PictureBox& Picture1,
                            std::function<forms::Window&()> page)
     : Picture1_(Picture1), reader_(the_reader), page_(std::move(page)) {
   Command30.Click = [this] { Command30_Click(); };
 }
 
-// ODDITY(print-page-empty): the button sees to it that there is a note of the bookmark's name, or of the name
-// NAME, and reads its first field; but nothing of it comes to the page, which shows what it showed before.
+// ODDITY(print-page-empty): the button opens the note with the bookmark's name, or NAME, creates it if it is
+// missing, and reads its first field. The page does not use the field and shows the same text as before.
 void PagePrinting::Command30_Click() {
+  constexpr int kNote = 1;  // slot
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
   const std::string& bookmark = reader_.LBLMRK(0).Caption;
@@ -63,26 +58,24 @@ void PagePrinting::Command30_Click() {
   ignore([&] { page_().BringToFront(); });
 }
 
+// ODDITY(print-button-on-picture): the button stays visible and so is printed too.
 PrintedPicture::PrintedPicture(forms::Window& window) : form(window) {
-  Command1.Click = [this] { Command1_Click(); };
-}
-
-// ODDITY(print-button-on-picture): the button stays where it is and so comes onto the paper.
-void PrintedPicture::Command1_Click() {
-  try {
-    form.Platform().PrintForm(form);
-  } catch (const base::RunTimeError&) {
-    form.Platform().Message(
-        "Printer not found. Make sure that your printer is connected and turned on and ty again.");
-  }
+  Command1.Click = [this] {
+    try {
+      form.Platform().PrintForm(form);
+    } catch (const base::RunTimeError&) {
+      form.Platform().Message(
+          "Printer not found. Make sure that your printer is connected and turned on and ty again.");
+    }
+  };
 }
 
 void PrintedPicture::PrintPaintPicture(const forms::Picture& picture) {
   const base::ScreenSize screen = form.Platform().Screen();
   Image1.Picture = picture;
   form.Visible = true;
-  // ODDITY(print-picture-cut): the window gets the picture's size, frame and title bar included, so that the
-  // picture's right and lower edges lie outside.
+  // ODDITY(print-picture-cut): the picture's size becomes that of the whole window, with frame and title bar,
+  // so its right and lower edges are cut off.
   form.Height = Image1.Height;
   form.Width = Image1.Width;
   form.Left = (screen.width - Image1.Width) / 2;

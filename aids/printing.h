@@ -1,5 +1,4 @@
-// A page of text that a person writes, pastes and alters, and sends to the printer as it stands in its
-// window.
+// The two windows that print themselves: a page of text and a picture.
 #pragma once
 
 #include <functional>
@@ -13,6 +12,7 @@
 
 namespace lectern::aids {
 
+// A page of text that a person edits and prints.
 class PrintedPage {
  public:
   explicit PrintedPage(forms::Window& window);
@@ -21,24 +21,22 @@ class PrintedPage {
 
   forms::Window& form;
   forms::TextBox Text1{form, "Text1", {.text = "Text1", .name = "Page", .multi_line = true}};  // the page
-  forms::CommandButton Command1{form, "Command1", {.caption = "Print"}};                       // prints
-  // Hides the window.
+  forms::CommandButton Command1{form, "Command1", {.caption = "Print"}};
   forms::CommandButton Command2{form, "Command2", {.caption = "Cancel", .is_cancel = true}};
 
  private:
   void Command1_Click();
 };
 
-// The door to the page that is printed: a button among the bookmarks.
+// The button on the bookmark panel that opens the page.
 class PagePrinting {
   forms::PictureBox& Picture1_;
   reader::Reader& reader_;
 
  public:
-  // `page` makes the window of the page where there is none yet.
+  // `page` creates the window of the page on first use.
   PagePrinting(reader::Reader& the_reader, forms::PictureBox& Picture1, std::function<forms::Window&()> page);
 
-  // Opens the page to print.
   forms::CommandButton Command30{Picture1_, "Command30", {.caption = "Print Page"}};
 
  private:
@@ -47,22 +45,17 @@ class PagePrinting {
   std::function<forms::Window&()> page_;
 };
 
-// A picture in a window of its own, with a button that sends it to the printer. No control opens the window:
-// it stands ready for whoever has a picture to print.
+// A window with one picture and a button that prints it. No control opens it; only the routine does.
 class PrintedPicture {
  public:
   explicit PrintedPicture(forms::Window& window);
 
-  // Shows the window around the picture, in the middle of the screen. Without a picture it shows none, in the
-  // size that it had.
+  // Shows the picture in the middle of the screen. If it is empty, the window keeps its size.
   void PrintPaintPicture(const forms::Picture& picture);
 
   forms::Window& form;
-  forms::Image Image1{form, "Image1"};                                    // the picture
-  forms::CommandButton Command1{form, "Command1", {.caption = "Print"}};  // prints
-
- private:
-  void Command1_Click();
+  forms::Image Image1{form, "Image1"};  // the picture
+  forms::CommandButton Command1{form, "Command1", {.caption = "Print"}};
 };
 
 }  // namespace lectern::aids

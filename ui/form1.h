@@ -75,7 +75,7 @@ class Form1 : public forms::Window {
   search::Trivia trivia_{reader_, panels_.Picture17, panels_.picp, tools_, menus_.cc4};
   aids::Bookmarks bookmarks_{reader_, panels_.Picture1, panels_.Picture2, panels_.picp, tools_, menus_.xb};
   aids::PagePrinting page_printing_{reader_, panels_.Picture1, others_.Form2};
-  aids::NotesDoors notes_doors_{panels_.picp, tools_, menus_.cc0, others_.notes};
+  aids::NotesOpening notes_opening_{panels_.picp, tools_, menus_.cc0, others_.notes};
   aids::Help help_{reader_, panels_.frmhelp, tools_, menus_.xh2, menus_.aboutlt, menus_.webb1, menus_.webb2};
   gallery::PictureCatalogue pictures_{reader_, panels_.Frame5, panels_.Frame6, panels_.picp};
   gallery::Viewer viewer_{pictures_, panels_.picp};
