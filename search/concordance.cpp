@@ -6,27 +6,62 @@
 
 namespace lectern::search {
 
+std::string ConcordanceFile(const reader::Reader& reader) {
+  return reader.DataFile(reader.CurrentVersion().concordance);
+}
+
+void WriteConcordanceRecord(files::FileSlots& slots, int slot, const ConcordanceRecord& record) {
+  slots.WriteRecord(slot, record.word, record.reference);
+}
+
 namespace {
 
-constexpr int kConcordance = 1;  // slot
+constexpr int kConcordance = 1;  // slots
+constexpr int kWorkFile = 2;
+
+// Reads into a record that the caller uses again for the next one.
+void ReadRecord(files::FileSlots& slots, ConcordanceRecord& record) {
+  record.word = slots.ReadField(kConcordance);
+  record.reference = slots.ReadField(kConcordance);
+}
+
+// Fills the list with the words in upper case, one entry for consecutive records of a word. Returns the last
+// word as it is in the file, or "".
+//
+// ODDITY(concordance-limit): the words after the limit are not shown, without a message. These are the words
+// that a person added, as the limit counts in file order.
+std::string LoadWords(const reader::Reader& reader, forms::ListBox& list) {
+  constexpr int kMostWords = 4000;
+  files::FileSlots& slots = reader.form.Slots();
+  list.Clear();
+  slots.OpenForReading(kConcordance, ConcordanceFile(reader));
+  std::string last;
+  ConcordanceRecord record;
+  for (int count = 0; count < kMostWords && !slots.EndOfFile(kConcordance);) {
+    ReadRecord(slots, record);
+    if (record.word == last) continue;
+    list.AddItem(text::Upper(record.word));
+    ++count;
+    last = record.word;
+  }
+  slots.Close(kConcordance);
+  return last;
+}
 
 }  // namespace
 
 ConcordanceViewer::ConcordanceViewer(reader::Reader& the_reader, forms::Frame& frmc, forms::PictureBox& picp,
                                      reader::ToolButtons& the_tools, forms::Menu& cc1, TextSearch& the_search)
     : reader_(the_reader), frmc_(frmc), picp_(picp), tools_(the_tools), search_(the_search) {
-  tools_.Command8.Click = [this] { Command8_Click(); };
+  // The only tool button that disables none.
+  tools_.Command8.Click = [this] {
+    picp_.Visible = false;
+    cc1_Click();
+  };
   cc1.Click = [this] { cc1_Click(); };
   lstc.Click = [this] { lstc_Click(); };
   lstc2.Click = [this] { lstc2_Click(); };
   Command9.Click = [this] { Command9_Click(); };
-}
-
-// The one tool button that locks nothing.
-void ConcordanceViewer::Command8_Click() {
-  picp_.Visible = false;
-  frmc_.Visible = true;
-  LoadConcordanceWords();
 }
 
 void ConcordanceViewer::cc1_Click() {
@@ -36,16 +71,12 @@ void ConcordanceViewer::cc1_Click() {
 
 void ConcordanceViewer::LoadConcordanceWords() {
   text6.Caption = "0";
-  lstc.Clear();
   reader_.List1.Clear();
   search_.text5.Caption = "";
-  files::FileSlots& slots = reader_.form.Slots();
-  slots.OpenForReading(kConcordance, ConcordanceFile(reader_));
-  FillWordList(slots, kConcordance, lstc);
-  slots.Close(kConcordance);
+  LoadWords(reader_, lstc);
 }
 
-// Unlike the list of words, the walk for a word's verses has no limit, and finds them wherever they stand.
+// Unlike the list of words, the verses have no limit, and they may be anywhere in the file.
 void ConcordanceViewer::lstc_Click() {
   text6.Caption = "0";
   lstc2.Clear();
@@ -56,10 +87,10 @@ void ConcordanceViewer::lstc_Click() {
   slots.OpenForReading(kConcordance, ConcordanceFile(reader_));
   text::TextList references;
   ConcordanceRecord record;
-  std::string last;  // the records of a word stand together: it is compared once
+  std::string last;  // the word before, which is compared only once
   bool last_fits = wanted.empty();
   while (!slots.EndOfFile(kConcordance)) {
-    ReadConcordanceRecord(slots, kConcordance, record);
+    ReadRecord(slots, record);
     if (record.word != last) {
       last = record.word;
       last_fits = text::Upper(last) == wanted;
@@ -85,40 +116,6 @@ void ConcordanceViewer::Command9_Click() {
   tools_.Enable();
 }
 
-std::string ConcordanceFile(const reader::Reader& reader) {
-  return reader.DataFile(reader.CurrentVersion().concordance);
-}
-
-void ReadConcordanceRecord(files::FileSlots& slots, int slot, ConcordanceRecord& record) {
-  record.word = slots.ReadField(slot);
-  record.reference = slots.ReadField(slot);
-}
-
-void WriteConcordanceRecord(files::FileSlots& slots, int slot, const ConcordanceRecord& record) {
-  slots.WriteRecord(slot, record.word, record.reference);
-}
-
-// ODDITY(concordance-limit): the words behind the limit are not shown, without a word about it; being counted
-// in the order of the file, they are the ones that a person added.
-std::string FillWordList(files::FileSlots& slots, int slot, forms::ListBox& list) {
-  std::string last;
-  ConcordanceRecord record;
-  for (int count = 0; count < kMostWords && !slots.EndOfFile(slot);) {
-    ReadConcordanceRecord(slots, slot, record);
-    if (record.word == last) continue;
-    list.AddItem(text::Upper(record.word));
-    ++count;
-    last = record.word;
-  }
-  return last;
-}
-
-namespace {
-
-constexpr int kWorkFile = 2;
-
-}  // namespace
-
 ConcordanceEditing::ConcordanceEditing(reader::Reader& the_reader, forms::Frame& frmc, forms::Frame& Frame2,
                                        TextSearch& the_search, ResultNavigation& the_results,
                                        ConcordanceViewer& the_viewer)
@@ -129,14 +126,12 @@ ConcordanceEditing::ConcordanceEditing(reader::Reader& the_reader, forms::Frame&
       results_(the_results),
       viewer_(the_viewer) {
   search_.cmdadd.Click = [this] { cmdadd_Click(); };
-  Command21.MouseDown = [this](forms::MouseEvent) {
-    search_.Command22.MousePointer = forms::kPointerHourglass;
-  };
+  Command21.MouseDown = [this](const auto&) { search_.Command22.MousePointer = forms::kPointerHourglass; };
   Command21.Click = [this] { Command21_Click(); };
   Command18.Click = [this] { Command18_Click(); };
 }
 
-// A search for two terms is kept under its first; a word that is there already gets its records once more.
+// The results of two terms are kept under the first one. A word that is already there gets its records again.
 void ConcordanceEditing::cmdadd_Click() {
   try {
     for (int i = 0; i < search_.lsts.ListCount(); ++i) AddEntry(search_.lsts.List(i));
@@ -166,37 +161,28 @@ void ConcordanceEditing::Command21_Click() {
 
   slots.OpenForReading(kConcordance, path);
   slots.OpenForAppending(kWorkFile, work_file);
-  CopyOtherWords(text::Upper(results_.LBLCC.Caption()));
+  const std::string deleted = text::Upper(results_.LBLCC.Caption());
+  ConcordanceRecord record;
+  while (!slots.EndOfFile(kConcordance)) {
+    ReadRecord(slots, record);
+    if (text::Upper(record.word) != deleted) WriteConcordanceRecord(slots, kWorkFile, record);
+  }
   slots.Close(kConcordance);
   slots.Close(kWorkFile);
   reader_.form.Files().DeleteKeepingBackup(path);
   reader_.form.Files().Rename(work_file, path);
 
-  viewer_.lstc.Clear();
-  slots.OpenForReading(kConcordance, path);
-  const std::string last = FillWordList(slots, kConcordance, viewer_.lstc);
-  slots.Close(kConcordance);
+  const std::string last = LoadWords(reader_, viewer_.lstc);
   viewer_.lstc2.Clear();
-  // ODDITY(deletion-names-another): the message names the word that was loaded last, not the one that was
-  // deleted.
+  // ODDITY(deletion-names-another): the message names the word that was loaded last, not the deleted one.
   reader_.form.Platform().Message(
       last + " has been removed from the Concordance. You can add words to Concordance with search feature.");
   frmc_.Visible = true;
   search_.Command22.MousePointer = forms::kPointerDefault;
 }
 
-// Copies the records of all words but one, which goes in whatever case it stands.
-void ConcordanceEditing::CopyOtherWords(const std::string& word) {
-  files::FileSlots& slots = reader_.form.Slots();
-  ConcordanceRecord record;
-  while (!slots.EndOfFile(kConcordance)) {
-    ReadConcordanceRecord(slots, kConcordance, record);
-    if (text::Upper(record.word) != word) WriteConcordanceRecord(slots, kWorkFile, record);
-  }
-}
-
-// Keeps what stands up to the true end of the second version's concordance and drops the block that the
-// builder repeats. A second click copies nothing until a search or the builder has set the index anew.
+// Copies the second version's concordance up to its true end, without the block that the builder repeats.
+// Another click copies nothing until a search or the builder has set the index again.
 void ConcordanceEditing::Command18_Click() {
   constexpr int kStop = 5;
   files::FileSlots& slots = reader_.form.Slots();
@@ -204,7 +190,7 @@ void ConcordanceEditing::Command18_Click() {
   slots.OpenForAppending(kWorkFile, reader_.DataFile("CONCORD22.DAT"));
   ConcordanceRecord record;
   while (!slots.EndOfFile(kConcordance) && search_.SearchBookIndex != kStop) {
-    ReadConcordanceRecord(slots, kConcordance, record);
+    ReadRecord(slots, record);
     if (record.word == "Zion" && record.reference == "1 Peter 2 6") search_.SearchBookIndex = kStop;
     WriteConcordanceRecord(slots, kWorkFile, record);
   }

@@ -15,9 +15,8 @@
 
 namespace lectern::search {
 
-// Which file holds the concordance of the version that is set, and how its records are read: one after the
-// other, Word and Reference, from the first byte at every use.
-// "CONCORD.DAT" or "CONCORD2.DAT" in the data folder; the version is looked at anew at every call.
+// The path of the current version's concordance: "CONCORD.DAT" or "CONCORD2.DAT" in the data folder. Every
+// use reads the file from the beginning.
 std::string ConcordanceFile(const reader::Reader& reader);
 
 struct ConcordanceRecord {
@@ -25,16 +24,7 @@ struct ConcordanceRecord {
   std::string reference;
 };
 
-// Reads the next record into one that is used again and again. Error 62 where the file ends before.
-void ReadConcordanceRecord(files::FileSlots& slots, int slot, ConcordanceRecord& record);
 void WriteConcordanceRecord(files::FileSlots& slots, int slot, const ConcordanceRecord& record);
-
-// Fills a list with the words of the concordance that is open on the slot, in upper case: one entry for the
-// records of a word that follow one another, up to the limit, which ends the reading. Gives back the word
-// that was taken last, as it stands in the file; "" where there was none.
-std::string FillWordList(files::FileSlots& slots, int slot, forms::ListBox& list);
-
-inline constexpr int kMostWords = 4000;
 
 class ConcordanceViewer {
   reader::Reader& reader_;
@@ -48,27 +38,25 @@ class ConcordanceViewer {
                     reader::ToolButtons& the_tools, forms::Menu& cc1, TextSearch& the_search);
 
   forms::Label lblwords{frmc_, "lblwords", {.caption = "Words"}};  // heading of the words
-  // The words, in upper case.
+  // In upper case.
   forms::ListBox lstc{frmc_, "lstc", {.name = "Words of the concordance", .sorted = true}};
   forms::Label lblw{frmc_, "lblw", {.caption = "click on word"}};  // the chosen word
-  // Stands before the number of verses.
-  forms::Label lblmatches2{frmc_, "lblmatches2", {.caption = "Matches "}};
-  forms::Label text6{frmc_, "text6", {.caption = "00"}};                 // number of its verses
-  forms::ListBox lstc2{frmc_, "lstc2", {.name = "Verses of the word"}};  // its verses
-  // Closes the panel.
+  forms::Label lblmatches2{
+      frmc_, "lblmatches2", {.caption = "Matches "}};     // in front of the number of verses
+  forms::Label text6{frmc_, "text6", {.caption = "00"}};  // number of its verses
+  forms::ListBox lstc2{frmc_, "lstc2", {.name = "Verses of the word"}};
   forms::CommandButton Command9{frmc_, "Command9", {.caption = "Close Concordance", .is_cancel = true}};
 
   void LoadConcordanceWords();
 
  private:
-  void Command8_Click();
   void cc1_Click();
   void lstc_Click();
   void lstc2_Click();
   void Command9_Click();
 };
 
-// Extends the concordance by what a search found, and deletes words from it. New records go to the end of the
+// Adds the results of a search to the concordance and deletes words from it. New records go to the end of the
 // file; a deletion rewrites the file through a work file.
 class ConcordanceEditing {
   reader::Reader& reader_;
@@ -82,9 +70,8 @@ class ConcordanceEditing {
   ConcordanceEditing(reader::Reader& the_reader, forms::Frame& frmc, forms::Frame& Frame2,
                      TextSearch& the_search, ResultNavigation& the_results, ConcordanceViewer& the_viewer);
 
-  // Deletes the chosen word.
   forms::CommandButton Command21{frmc_, "Command21", {.caption = "Delete Word/Phrase"}};
-  // On the builder's panel: cuts the file back to its true end.
+  // On the builder's panel.
   forms::CommandButton Command18{
       Frame2_, "Command18", {.caption = "Command18", .name = "Cut the file back to its true end"}};
 
@@ -92,7 +79,6 @@ class ConcordanceEditing {
   void cmdadd_Click();
   void AddEntry(const std::string& text);
   void Command21_Click();
-  void CopyOtherWords(const std::string& word);
   void Command18_Click();
 };
 

@@ -28,16 +28,16 @@ namespace {
 
 constexpr std::string_view kDigits = "0123456789";
 
-// The entry with its book, and in `chapter` all that begins with its first digit.
-std::optional<Entry> SplitAtChapter(std::string_view text, std::size_t passed_over) {
-  const std::size_t digit = text.find_first_of(kDigits, text::ByteOf(text, passed_over + 1));
+// Leaves all from the chapter's first digit on in `chapter`.
+std::optional<Entry> SplitAtChapter(std::string_view text, std::size_t skipped) {
+  const std::size_t digit = text.find_first_of(kDigits, text::ByteOf(text, skipped + 1));
   if (digit == std::string_view::npos) return std::nullopt;
   const std::string_view before = text.substr(0, digit);
   return Entry{std::string(text::Left(before, text::Length(before) - 1)), std::string(before),
                std::string(text.substr(digit)), ""};
 }
 
-// Cuts the chapter where the blank in front of the verse stands.
+// Divides the chapter at the blank in front of the verse.
 void CutVerse(Entry& entry, std::size_t blank) {
   if (blank < entry.chapter.size()) entry.verse = entry.chapter.substr(blank + 1);
   entry.chapter.resize(std::min(blank, entry.chapter.size()));
@@ -65,8 +65,7 @@ int HighlightText(forms::RichTextBox& pane, std::string_view term, forms::Colour
   std::size_t position = 0;
   while (true) {
     const int found = pane.Find(term, static_cast<int>(position), forms::kFindNoHighlight);
-    // ODDITY(first-character): a term at the very first character is not coloured, and ends the colouring
-    // of all the others.
+    // ODDITY(first-character): a term at the first character is not coloured and ends the colouring.
     if (found <= 0) break;
     places.push_back(static_cast<std::size_t>(found));
     position = places.back() + length;

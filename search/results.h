@@ -1,5 +1,4 @@
-// From a found verse to its chapter: a click on an entry opens the chapter behind the panel and colours the
-// terms in it.
+// A click on a found verse opens its chapter and colours the terms in it.
 #pragma once
 
 #include <optional>
@@ -14,29 +13,27 @@
 
 namespace lectern::search {
 
-// References as the lists hold them, taken apart again by walking their characters. Both walks pass over the
-// first characters, so that the digit of a numbered book does not count, and look for the chapter's first
-// digit from there on. They differ in how many they pass over and in what they take for the chapter.
+// The parts of a reference in a list. Both functions below skip the first characters, so that the digit of a
+// numbered book does not count, and take the next digit for the beginning of the chapter.
 struct Entry {
   std::string book;             // "1 Peter"
-  std::string book_with_blank;  // "1 Peter ": all that stands in front of the chapter
+  std::string book_with_blank;  // "1 Peter ": all before the chapter
   std::string chapter;          // "2"
   std::string verse;            // "6"
 };
 
-// An entry of a search. Three characters are passed over; the chapter is its digits, the verse all that
-// stands behind the blank that follows. Nothing where no digit is found.
+// An entry of a search. Skips three characters; the chapter ends after its digits, and the verse is all that
+// follows the next character. Nothing if there is no digit.
 std::optional<Entry> ParseEntry(std::string_view text);
 
-// A reference of the concordance. One character is passed over; the chapter is all up to the last blank.
-// Nothing where no digit is found, or no blank behind it.
+// A reference of the concordance. Skips one character; the chapter ends at the last blank. Nothing if there
+// is no digit, or no blank after it.
 std::optional<Entry> ParseConcordanceReference(std::string_view text);
 
-// Colours a term wherever it stands in a pane, inside longer words too, and leaves the selection as it found
-// it.
 inline constexpr forms::Colour kMarkColour = forms::kBlue;
 
-// How many places were coloured.
+// Colours a term everywhere in a pane, also inside longer words, and keeps the selection. Returns how many
+// places it coloured.
 int HighlightText(forms::RichTextBox& pane, std::string_view term, forms::Colour colour);
 
 class ResultNavigation {
@@ -47,7 +44,7 @@ class ResultNavigation {
  public:
   ResultNavigation(reader::Reader& the_reader, forms::Frame& frmc, TextSearch& the_search);
 
-  // On the concordance's panel: the chosen entry.
+  // The chosen entry; it lies on the panel of the concordance.
   forms::Label LBLCC{frmc_, "LBLCC", {.caption = "Genesis", .visible = false}};
 
  private:

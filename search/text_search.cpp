@@ -14,33 +14,34 @@ namespace {
 
 constexpr int kBook = 1;  // slot
 
+constexpr const char* kHowLong =
+    "Tested on a: Pent2/266 - book < minute, codex < minute --- 586/75 - book = < 1 minute, codex = < 3.5 "
+    "minutes  ---  486/66 - book = < 1 minute, codex = < 5 minutes  ---  386/15 - book = < 5 minute, codex "
+    "= < 35 minutes --- Patience is a virtue.";
+
 }  // namespace
 
 TextSearch::TextSearch(reader::Reader& the_reader, forms::Frame& frms, forms::Frame& frmscale,
                        forms::Frame& Frame2, forms::PictureBox& picp, reader::ToolButtons& the_tools,
                        forms::Menu& cc3)
     : reader_(the_reader), frms_(frms), frmscale_(frmscale), Frame2_(Frame2), picp_(picp), tools_(the_tools) {
-  tools_.Command16.Click = [this] { Command16_Click(); };
+  tools_.Command16.Click = [this] {
+    picp_.Visible = false;
+    cc3_Click();
+    txts.SetFocus();
+    tools_.Disable();
+  };
   cc3.Click = [this] { cc3_Click(); };
   txts.Change = [this] { txts_Change(txts); };
   txts2.Change = [this] { txts_Change(txts2); };
   Command22.Click = [this] { Command22_Click(); };
   tmrb.Tick = [this] { tmrb_Timer(); };
-  Command25.Click = [this] { Command25_Click(); };
-  Command15.Click = [this] { Command15_Click(); };
+  Command25.Click = [this] { StopScan(); };
+  Command15.Click = [this] { ShowHelpNote(kHowLong); };
   Command20.Click = [this] { Command20_Click(); };
   for (forms::CommandButton* button : {&Command25, &Command20}) {
-    button->MouseDown = [this](forms::MouseEvent) { Command22.MousePointer = kPointerHourglass; };
+    button->MouseDown = [this](const auto&) { Command22.MousePointer = kPointerHourglass; };
   }
-}
-
-void TextSearch::Command16_Click() {
-  picp_.Visible = false;
-  frms_.Visible = true;
-  lsts.Clear();
-  text5.Caption = "";
-  txts.SetFocus();
-  tools_.Disable();
 }
 
 void TextSearch::cc3_Click() {
@@ -49,7 +50,7 @@ void TextSearch::cc3_Click() {
   text5.Caption = "";
 }
 
-// A scan that is under way goes on all the same.
+// Does not stop a running scan.
 void TextSearch::txts_Change(const forms::TextBox& box) {
   if (box.Text == "") return;
   Command22.Enabled = true;
@@ -60,20 +61,17 @@ void TextSearch::txts_Change(const forms::TextBox& box) {
 
 void TextSearch::Command22_Click() {
   if (txts.Text == "" && txts2.Text == "") return;
-  if (op1.Value) {
-    frmscale_.Visible = true;
-  } else {
-    Command22.MousePointer = kPointerHourglass;
-  }
   pbar.Value = 0;
   lsts.Clear();
   if (op1.Value) {
+    frmscale_.Visible = true;
     text7.Caption = "Genesis";
     SearchBookIndex = 0;
     pbar.Max = 66;
     tmrb.Enabled = true;
     return;
   }
+  Command22.MousePointer = kPointerHourglass;
   ScanOpenBook();
   frmscale_.Visible = false;
   reader_.form.Platform().Beep();
@@ -107,7 +105,7 @@ void TextSearch::tmrb_Timer() {
   pbar.Value = pbar.Value + 1;
   text7.Caption = reader_.lst.List(SearchBookIndex + 1);
   const std::string book = reader_.lst.List(SearchBookIndex);
-  // A book without a name is read as one without a line.
+  // A book without a name counts as empty.
   if (!book.empty()) ignore([&] { slots.OpenForReading(kBook, reader_.BookFile(book)); });
   ignore([&] {
     const LineRules rules{ScanKind::kWholeText, text::Length(wrd.Caption())};
@@ -115,31 +113,19 @@ void TextSearch::tmrb_Timer() {
   });
   ignore([&] { slots.Close(kBook); });
   ++SearchBookIndex;
-  if (SearchBookIndex > reader_.lst.ListCount() - 1) {
-    tmrb.Enabled = false;
-    SearchBookIndex = 0;
-    frmscale_.Visible = false;
-    Command22.Enabled = false;
-    Command22.MousePointer = kPointerDefault;
-  }
+  if (SearchBookIndex < reader_.lst.ListCount()) return;
+  StopScan();
+  Command22.Enabled = false;
 }
 
-void TextSearch::Command25_Click() {
+void TextSearch::StopScan() {
   tmrb.Enabled = false;
   SearchBookIndex = 0;
   frmscale_.Visible = false;
   Command22.MousePointer = kPointerDefault;
 }
 
-void TextSearch::Command15_Click() {
-  ShowHelpNote(
-      "Tested on a: Pent2/266 - book < minute, codex < minute --- 586/75 - book = < 1 minute, codex = < 3.5 "
-      "minutes  ---  486/66 - book = < 1 minute, codex = < 5 minutes  ---  386/15 - book = < 5 minute, codex "
-      "= < "
-      "35 minutes --- Patience is a virtue.");
-}
-
-// ODDITY(search-closes-on-chapter-1): closing lands on chapter 1 of whichever book the last result opened.
+// ODDITY(search-closes-on-chapter-1): closing opens chapter 1 of the book that the last result opened.
 void TextSearch::Command20_Click() {
   tmrb.Enabled = false;
   lsts.Clear();

@@ -1,7 +1,7 @@
-// The question game: a random question from `codex.trv`, and its answer when it is asked for. There is no
-// score and no end; a history of about a hundred numbers keeps a question from coming back soon.
+// The question game: a random question from `codex.trv`, and its answer on request. There is no score and no
+// end; a history of about a hundred numbers keeps a question from coming back soon.
 //
-// The file is read anew at each press. The numbers of questions count from 1.
+// Each press reads the file again. The numbers of the questions count from 1.
 #pragma once
 
 #include <cstdint>
@@ -19,23 +19,12 @@ class Trivia {
          reader::ToolButtons& the_tools, forms::Menu& cc4);
 
  private:
-  // What a question and its answer are read into.
-  struct Record {
-    std::string question;
-    std::string answer;
-  };
-
-  void Command2_Click();
-  void cc4_Click();
   void Command29_Click();
   void Command31_Click();
-  void Command28_Click();
 
   void AskQuestion();
   std::int16_t Draw(int records);
   void KeepFromRepeating(int records);
-  void ReadRecord(Record& record);
-  std::string DataFile() const;
 
   reader::Reader& reader_;
   forms::PictureBox& Picture17_;
@@ -48,10 +37,8 @@ class Trivia {
   forms::Label Label26{Picture17_, "Label26"};  // the answer
   // Numbers of the questions asked, the oldest first.
   forms::ListBox List3{Picture17_, "List3", {.visible = false, .name = "Questions asked"}};
-  // Asks the next question.
   forms::CommandButton Command29{Picture17_, "Command29", {.caption = "Question", .is_default = true}};
-  forms::CommandButton Command31{Picture17_, "Command31", {.caption = "Answer"}};  // shows the answer
-  // Closes the panel.
+  forms::CommandButton Command31{Picture17_, "Command31", {.caption = "Answer"}};
   forms::CommandButton Command28{Picture17_, "Command28", {.caption = "Close", .is_cancel = true}};
 
   std::int16_t QuestionNumber = 0;
