@@ -27,7 +27,7 @@ std::vector<std::string> SampledWords(std::size_t count) {
 
 // A folder to build in, with the texts in it and a list of words.
 fs::path Bench(const std::vector<std::string>& words) {
-  const fs::path folder = fs::temp_directory_path() / "lectern-concordance-bench";
+  fs::path folder = fs::temp_directory_path() / "lectern-concordance-bench";
   fs::remove_all(folder);
   fs::create_directories(folder);
   fs::create_directory_symlink(DataFolder() + "/KJV", folder / "KJV");

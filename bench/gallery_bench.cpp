@@ -59,6 +59,7 @@ std::vector<std::string> PlacesEverywhere() {
 
 std::vector<std::string> PlacesInPsalms(int count) {
   std::vector<std::string> places;
+  places.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) places.push_back("Psalms " + std::to_string(i * 7 % 150 + 1) + ": 1");
   return places;
 }

@@ -141,6 +141,7 @@ Seen Watch(const Screen& screen, const char* program, const char* folder) {
 template <class Member>
 auto Ordered(const std::vector<Seen>& rounds, Member member) {
   std::vector<std::remove_cvref_t<decltype(rounds[0].*member)>> values;
+  values.reserve(rounds.size());
   for (const Seen& seen : rounds) values.push_back(seen.*member);
   std::sort(values.begin(), values.end());
   return values;
