@@ -16,6 +16,7 @@ namespace {
 constexpr int kWords = 1;  // slots
 constexpr int kBookmarks = 1;
 constexpr int kTarget = 5;
+constexpr int kBook = 1;
 
 }  // namespace
 
@@ -29,7 +30,7 @@ ConcordanceBuilder::ConcordanceBuilder(reader::Reader& the_reader, forms::Frame&
 }
 
 void ConcordanceBuilder::Command27_Click() {
-  // The first run needs a file to be there.
+  // Error 53 if there is no concordance yet.
   reader_.form.Files().DeleteKeepingBackup(ConcordanceFile(reader_));
   frms_.Visible = true;
   search_.txts.Text = "";
@@ -45,10 +46,16 @@ void ConcordanceBuilder::Timer2_Timer() {
   frmscale_.Visible = true;
   if (search_.tmrb.Enabled) return;  // a word is still being looked up
   const base::Ignoring ignore;
+  files::FileSlots& slots = reader_.form.Slots();
   search_.pbar.Value = 0;
   Label32.Caption = lbln.Caption + " of " + std::to_string(List2.ListCount());
   if (lbln.Caption == "-1") {
-    LoadWords();
+    // A file that cannot be opened adds no words.
+    ignore([&] { slots.OpenForReading(kWords, reader_.DataFile("conc.txt")); });
+    ignore([&] {
+      while (!slots.EndOfFile(kWords)) List2.AddItem(std::string(slots.ReadLine(kWords)));
+    });
+    ignore([&] { slots.Close(kWords); });
     pbar2.Value = 1;
   } else {
     ignore([&] { pbar2.Value = text::IntegerValue(lbln.Caption()); });
@@ -61,8 +68,7 @@ void ConcordanceBuilder::Timer2_Timer() {
   if (next > List2.ListCount() - 1) {
     pbar2.Max = List2.ListCount() - 1;
     pbar2.Value = 1;
-    // ODDITY(last-word-twice): the last word's verses are written once more, and Command18 is
-    // there to cut them.
+    // ODDITY(last-word-twice): the last word's verses are written again. Command18 exists to cut them.
     WriteResults();
     Timer2.Enabled = false;
     reader_.form.Platform().Beep();
@@ -73,18 +79,7 @@ void ConcordanceBuilder::Timer2_Timer() {
   pbar2.Value = pbar2.Value + 1;
 }
 
-// A file that cannot be opened adds no words; the number is free again in any case.
-void ConcordanceBuilder::LoadWords() {
-  const base::Ignoring ignore;
-  files::FileSlots& slots = reader_.form.Slots();
-  ignore([&] { slots.OpenForReading(kWords, reader_.DataFile("conc.txt")); });
-  ignore([&] {
-    while (!slots.EndOfFile(kWords)) List2.AddItem(std::string(slots.ReadLine(kWords)));
-  });
-  ignore([&] { slots.Close(kWords); });
-}
-
-// The verses of the word that was looked up, as the search lists them.
+// Writes the verses that the search lists for the current word.
 void ConcordanceBuilder::WriteResults() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
@@ -95,7 +90,7 @@ void ConcordanceBuilder::WriteResults() {
   ignore([&] { slots.Close(kTarget); });
 }
 
-// Goes by a file of leftover bookmarks, which nothing in the program writes: name, book, chapter.
+// Uses a file of old bookmarks, which nothing in the program writes.
 void ConcordanceBuilder::List2_Click() {
   const int selected = List2.SelectedIndex();
   if (selected >= 0) Text2.Text = List2.List(selected);
@@ -112,13 +107,6 @@ void ConcordanceBuilder::List2_Click() {
   reader_.NameBook(record.book);
 }
 
-namespace {
-
-constexpr int kBook = 1;    // slots
-constexpr int kTruth = -1;  // what a true comparison counts as
-
-}  // namespace
-
 OnePassBuilder::OnePassBuilder(reader::Reader& the_reader, forms::Frame& Frame2, TextSearch& the_search,
                                ConcordanceBuilder& the_builder)
     : Frame2_(Frame2), reader_(the_reader), search_(the_search), builder_(the_builder) {
@@ -133,11 +121,11 @@ void OnePassBuilder::Command13_Click() {
   slots.Close(kBook);
   builder_.pbar2.Max = builder_.List2.ListCount();
   builder_.pbar2.Value = 0;
-  // Whatever version is set.
+  // The first version's file, even if another version is current.
   const std::string target = reader_.DataFile(text::Lower(reader::kVersions[0].concordance));
   reader_.form.Files().DeleteKeepingBackup(target);
   slots.OpenForAppending(kTarget, target);
-  char32_t next = 0;  // lives through the whole click
+  char32_t next = 0;  // kept from word to word and from book to book
   for (int i = 0; i < builder_.List2.ListCount(); ++i) {
     builder_.pbar2.Value = builder_.pbar2.Value + 1;
     pbar3.Max = 65;
@@ -155,13 +143,16 @@ void OnePassBuilder::LookUp(const std::string& word, char32_t& next) {
   for (search_.SearchBookIndex = 0; search_.SearchBookIndex <= 65; ++search_.SearchBookIndex) {
     const std::string book = reader_.lst.List(search_.SearchBookIndex);
     books.Caption = book;
-    // Set to whether it stands at 1, so that it never leaves 0.
+    // Set to the result of a comparison, with -1 for true. It stays at 0.
+    constexpr int kTruth = -1;
     pbar3.Value = pbar3.Value == 1 ? kTruth : 0;
     search_.text7.Caption = reader_.lst.List(search_.SearchBookIndex + 1);
     const std::string name = reader::ShortStem(book);
     slots.OpenForReading(kBook, reader_.DataFile(name + ".txt"));
     const LineRules rules{ScanKind::kOnePass, text::Length(search_.wrd.Caption())};
-    TakeFindings(word, book, ScanText(slots.ReadRest(kBook), terms, name, rules, next));
+    const ScanFindings findings = ScanText(slots.ReadRest(kBook), terms, name, rules, next);
+    next = findings.next;
+    TakeFindings(word, book, findings);
     slots.Close(kBook);
   }
 }

@@ -1,9 +1,9 @@
-// Makes a concordance from a list of words, `conc.txt`: each word is looked up with the scan of the whole
-// text, so that the concordance holds just the verses that the scan accepts. A tool of whoever prepares the
-// data; its panel lies off the window.
+// Makes a concordance from a list of words, `conc.txt`. The scan of the whole text looks up each word, so
+// that the concordance holds exactly the verses that the scan accepts. It is a tool for preparing the data;
+// its panel lies outside the window.
 //
-// One timer paces the work, a step a word; the other is the search's own, a step a book. They hand over to
-// one another by switching the search's timer on and watching it go off.
+// Each tick of the builder's timer handles one word: it starts the timer of the search, which handles one
+// book at each tick, and waits until that timer is off again.
 #pragma once
 
 #include "forms/bars_and_timer.h"
@@ -26,13 +26,13 @@ class ConcordanceBuilder {
   ConcordanceBuilder(reader::Reader& the_reader, forms::Frame& frms, forms::Frame& frmscale,
                      forms::Frame& Frame2, TextSearch& the_search);
 
-  forms::CommandButton Command27{Frame2_, "Command27", {.caption = "Make"}};    // starts the builder
-  forms::CommandButton Command23{Frame2_, "Command23", {.caption = "Cancel"}};  // cancels it
-  forms::ListBox List2{Frame2_, "List2", {.name = "Words to be looked up"}};    // the words to look up
+  forms::CommandButton Command27{Frame2_, "Command27", {.caption = "Make"}};
+  forms::CommandButton Command23{Frame2_, "Command23", {.caption = "Cancel"}};
+  forms::ListBox List2{Frame2_, "List2", {.name = "Words to be looked up"}};
   // Index of the current word; "-1" before the list is loaded.
   forms::Label lbln{Frame2_, "lbln", {.caption = "-1"}};
-  forms::Label Label32{Frame2_, "Label32"};                            // how far the builder has come
-  forms::ProgressBar pbar2{Frame2_, "pbar2", {.name = "Words done"}};  // words done
+  forms::Label Label32{Frame2_, "Label32"};  // progress, "3 of 90"
+  forms::ProgressBar pbar2{Frame2_, "pbar2", {.name = "Words done"}};
   // The chosen word; the number of hits of a build in one pass.
   forms::TextBox Text2{Frame2_, "Text2", {.name = "Hits"}};
   forms::TextBox Text1{Frame2_, "Text1", {.name = "Text1"}};  // nothing uses it
@@ -42,14 +42,13 @@ class ConcordanceBuilder {
  private:
   void Command27_Click();
   void Timer2_Timer();
-  void LoadWords();
   void WriteResults();
   void List2_Click();
 };
 
-// The older builder of the concordance, which runs to its end inside one click. Its records have four fields,
-// of which nothing in the program can make use, and it reads the books by names cut to eight characters from
-// the data folder itself. Kept as a tool of whoever prepares the data.
+// The older builder of the concordance, which finishes within one click. Nothing in the program can use its
+// records, which have four fields. It reads the books from the data folder itself, by names cut to eight
+// characters.
 class OnePassBuilder {
   forms::Frame& Frame2_;
   reader::Reader& reader_;
@@ -60,10 +59,9 @@ class OnePassBuilder {
   OnePassBuilder(reader::Reader& the_reader, forms::Frame& Frame2, TextSearch& the_search,
                  ConcordanceBuilder& the_builder);
 
-  // Builds the concordance in one pass.
   forms::CommandButton Command13{Frame2_, "Command13", {.caption = "Command13", .name = "Build in one pass"}};
-  forms::Label books{Frame2_, "books"};                                // the book that is read
-  forms::ProgressBar pbar3{Frame2_, "pbar3", {.name = "Books done"}};  // books done
+  forms::Label books{Frame2_, "books"};  // the current book
+  forms::ProgressBar pbar3{Frame2_, "pbar3", {.name = "Books done"}};
 
  private:
   void Command13_Click();

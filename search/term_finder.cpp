@@ -10,16 +10,16 @@ namespace lectern::search {
 
 namespace {
 
-constexpr std::size_t kBlock = 64;  // places that are looked at closely in one go
-// So many blocks are looked at closely; a term that is in none of them is taken for a rare one, and the same
-// length is passed over at a time for as long as no place in it passes.
+constexpr std::size_t kBlock = 64;  // places that are examined together
+// After this many blocks without a match the term counts as rare. The search then skips as many blocks at a
+// time as long as all their places are ruled out.
 constexpr std::size_t kNear = 4;
 constexpr std::size_t kWideBlock = kNear * kBlock;
 constexpr std::size_t kWord = sizeof(std::uint64_t);
 
 constexpr bool IsSmallLetter(char c) { return c >= 'a' && c <= 'z'; }
 
-// How rare a byte is in running text: the higher the better a sieve.
+// How rare a byte is in running text. Rare bytes are better sieves.
 int Rareness(char c) {
   constexpr std::string_view kByFrequency = " etahonsirdlufmwcygbpvkxjqz";
   return static_cast<int>(std::min(kByFrequency.find(c), kByFrequency.size()));
@@ -33,7 +33,7 @@ std::uint64_t WordAt(const void* bytes) {
   return word;
 }
 
-// The first byte of a word, as it lies in memory, that is not 0; there is one.
+// The index in memory of a word's first byte that is not 0. Requires: word != 0.
 std::size_t FirstIn(std::uint64_t word) {
   static_assert(std::endian::native == std::endian::little || std::endian::native == std::endian::big);
   const int zeros =
@@ -66,20 +66,20 @@ TermFinder::TermFinder(std::string_view term) : term_(term) {
   counts_ = WordAt(counts);
 }
 
-bool TermFinder::StandsAt(const char* place) const {
+bool TermFinder::Matches(const char* place) const {
   return std::equal(term_.begin(), term_.end(), place, [](char t, char b) {
     return t == (b >= 'A' && b <= 'Z' ? static_cast<char>(b | 0x20) : b);
   });
 }
 
-// The same where a whole word can be read from the place.
-bool TermFinder::StandsAtWord(const char* place) const {
+// The same as Matches. Requires: a whole word can be read from the place.
+bool TermFinder::MatchesWord(const char* place) const {
   if ((((WordAt(place) | fold_) ^ word_) & counts_) != 0) return false;
-  return term_.size() <= kWord || StandsAt(place);
+  return term_.size() <= kWord || Matches(place);
 }
 
-// Says of each place of a block whether the term may stand there. This is a loop without a branch, which the
-// compiler turns into wide operations.
+// Passes on for each place of a block whether the term may be there. The compiler vectorizes this loop, as it
+// has no branch.
 template <std::size_t kPlaces, class Take>
 void TermFinder::Sift(const char* block, Take take) const {
   const auto* const bytes = reinterpret_cast<const unsigned char*>(block);
@@ -100,14 +100,13 @@ bool TermFinder::AnyPasses(const char* block) const {
   return any != 0;
 }
 
-// The first place of a block where the term stands, or npos.
 std::size_t TermFinder::FindInBlock(const char* block) const {
   unsigned char passes[kBlock];
   Sift<kBlock>(block, [&passes](std::size_t i, unsigned char pass) { passes[i] = pass; });
   for (std::size_t first = 0; first < kBlock; first += kWord) {
     while (const std::uint64_t word = WordAt(passes + first)) {
       const std::size_t place = first + FirstIn(word);
-      if (StandsAtWord(block + place)) return place;
+      if (MatchesWord(block + place)) return place;
       passes[place] = 0;
     }
   }
@@ -116,7 +115,7 @@ std::size_t TermFinder::FindInBlock(const char* block) const {
 
 std::size_t TermFinder::Find(std::string_view bytes, std::size_t from) const {
   if (bytes.size() < term_.size()) return std::string_view::npos;
-  // Behind the last place with room for the term, and behind the last with room for a whole word.
+  // Just after the last place where the term fits, and after the last where a whole word fits.
   const std::size_t end = bytes.size() - term_.size() + 1;
   const std::size_t word_end = std::min(end, bytes.size() - std::min(bytes.size(), kWord) + 1);
   std::size_t at = from;
@@ -130,7 +129,7 @@ std::size_t TermFinder::Find(std::string_view bytes, std::size_t from) const {
     if (found != std::string_view::npos) return at + found;
   }
   for (; at < end; ++at) {
-    if (StandsAt(bytes.data() + at)) return at;
+    if (Matches(bytes.data() + at)) return at;
   }
   return std::string_view::npos;
 }

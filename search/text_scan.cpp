@@ -1,7 +1,7 @@
 #include "search/text_scan.h"
 
+#include <algorithm>
 #include <charconv>
-#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -17,16 +17,12 @@ namespace {
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 bool IsVerseLine(std::string_view line) {
-  return !line.empty() && IsDigit(line[0]) && (line.size() < 2 || line[1] != '-');
+  return !line.empty() && IsDigit(line[0]) && !line.substr(1).starts_with('-');
 }
 
 bool IsChapterLine(std::string_view line) {
   constexpr std::string_view kMark = "chap";
-  if (line.size() < kMark.size()) return false;
-  for (std::size_t i = 0; i < kMark.size(); ++i) {
-    if ((line[i] | 0x20) != kMark[i]) return false;
-  }
-  return true;
+  return text::EqualFolded(line.substr(0, kMark.size()), kMark);
 }
 
 std::u32string Characters(std::string_view text) {
@@ -41,23 +37,52 @@ constexpr char32_t LowerLetter(char c) {
 
 constexpr std::size_t kMostDigits = 12;
 
+// The first term is looked for from this character on (from 0), so that the verse's number is no match.
+constexpr std::size_t kFirstPlace = 3;
+
+// After a match the search for either term continues here (from 0), so that only a longer line can match
+// again.
+constexpr std::size_t kNextPlace = 1000;
+
+struct LineFindings {
+  int hits = 0;
+  bool candidate = false;  // a first term was accepted, with or without the second
+};
+
+// Searches a line of any length in any script, place by place. Without a second term every candidate is a
+// hit.
+LineFindings SearchLine(std::u32string_view line, std::u32string_view first, std::u32string_view second,
+                        const LineRules& rules, bool book_has_name, char32_t& next) {
+  LineFindings findings;
+  for (std::size_t i = kFirstPlace; rules.FirstLooksAt(i, line.size()); ++i) {
+    if (i >= line.size() || line.substr(i, first.size()) != first) continue;
+    if (i + first.size() < line.size()) next = line[i + first.size()];
+    const bool counts = !rules.Rejects(next) && (book_has_name || rules.CountsNameless());
+    findings.candidate = findings.candidate || counts;
+    if (counts && second.empty()) ++findings.hits;
+    for (std::size_t j = 0; counts && !second.empty() && rules.SecondLooksAt(j, line.size()); ++j) {
+      if (line.substr(j, second.size()) != second) continue;
+      ++findings.hits;
+      if (j >= kNextPlace) break;
+      j = kNextPlace - 1;
+    }
+    // Accepted or not, the first candidate decides the verse.
+    if (i >= kNextPlace) break;
+    i = kNextPlace - 1;
+  }
+  return findings;
+}
+
 class Scan {
  public:
-  Scan(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules, char32_t& next)
-      : bytes_(bytes),
-        terms_(terms),
-        book_(std::move(book)),
-        rules_(rules),
-        next_(next),
-        first_(terms.first),
-        second_(terms.second.empty() ? terms.first : terms.second),
-        plain_terms_(text::IsAscii(terms.first) && text::IsAscii(terms.second)),
-        one_term_(terms.second == " "),
-        no_second_(terms.second.empty()) {}
+  Scan(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules, char32_t next)
+      : bytes_(bytes), terms_(terms), book_(std::move(book)), rules_(rules) {
+    findings_.next = next;
+  }
 
   ScanFindings Run() {
     std::size_t match = NextMatch(0);
-    // A book scan counts the chapters to the end of the file, whatever it finds.
+    // A book scan counts all chapters of the file.
     const bool counts_on = rules_.kind == ScanKind::kBook;
     while (at_ < bytes_.size() && (counts_on || match != std::string_view::npos)) {
       const std::size_t start = at_;
@@ -76,19 +101,16 @@ class Scan {
   }
 
  private:
-  // Where the first term stands next, or the next place at all where the bytes alone cannot tell.
+  // The next place of the first term, or just the next place if a term is not ASCII.
   std::size_t NextMatch(std::size_t from) const { return plain_terms_ ? first_.Find(bytes_, from) : from; }
 
   // The next line, without its end, which is LF or CR LF.
   std::string_view TakeLine() {
-    const char* const start = bytes_.data() + at_;
-    const std::size_t left = bytes_.size() - at_;
-    const void* const end = std::memchr(start, '\n', left);
-    std::size_t length =
-        end == nullptr ? left : static_cast<std::size_t>(static_cast<const char*>(end) - start);
-    at_ += end == nullptr ? left : length + 1;
-    if (end != nullptr && length > 0 && start[length - 1] == '\r') --length;
-    return {start, length};
+    const std::size_t end = bytes_.find('\n', at_);
+    std::string_view line = bytes_.substr(at_, end - at_);
+    at_ = std::min(at_ + line.size() + 1, bytes_.size());
+    if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+    return line;
   }
 
   // A chapter line or a heading.
@@ -106,17 +128,17 @@ class Scan {
     entry_length_ = 0;
   }
 
-  // `place` is where the first term stands in the line for the first time, where that is known.
+  // `place` is the first place of the first term in the line, if both terms are ASCII.
   void SearchVerse(std::string_view line, std::size_t place) {
     const bool plain = plain_terms_ && line.size() <= kNextPlace && BookIsAscii();
     const LineFindings found = plain ? SearchPlainLine(line, place) : SearchAnyLine(line);
-    // The name gets its capital with the first term that is accepted, be the second there or not.
+    // The name gets its capital as soon as a first term is accepted, even without the second.
     if (found.candidate && rules_.Capitalises()) Capitalise();
     findings_.count += found.hits;
     for (int i = 0; i < found.hits && !book_.empty(); ++i) AddEntry();
   }
 
-  // Found out when the first line asks: most books of a rare term have none that does.
+  // Computed on first use, as most books hold no line with a rare term.
   bool BookIsAscii() {
     if (!is_ascii_) is_ascii_ = text::IsAscii(bytes_);
     return *is_ascii_;
@@ -124,7 +146,7 @@ class Scan {
 
   LineFindings SearchAnyLine(std::string_view line) {
     return SearchLine(Characters(text::Lower(files::Decode(line))), Characters(terms_.first),
-                      Characters(terms_.second), rules_, !book_.empty(), next_);
+                      Characters(terms_.second), rules_, !book_.empty(), findings_.next);
   }
 
   // The rules of SearchLine for a line of ASCII in which each term can match once.
@@ -133,11 +155,11 @@ class Scan {
     if (i > line.size() || i + terms_.first.size() > line.size() || !rules_.FirstLooksAt(i, line.size()))
       return {};
     const std::size_t behind = i + terms_.first.size();
-    if (behind < line.size()) next_ = LowerLetter(line[behind]);
-    if (rules_.Rejects(next_) || (book_.empty() && !rules_.CountsNameless())) return {};
-    if (no_second_) return {1, true};
-    // The blank in front of the first term may be the one that stands for a second.
-    if (one_term_ && rules_.SecondLooksAt(i, line.size())) return {1, true};
+    if (behind < line.size()) findings_.next = LowerLetter(line[behind]);
+    if (rules_.Rejects(findings_.next) || (book_.empty() && !rules_.CountsNameless())) return {};
+    if (terms_.second.empty()) return {1, true};
+    // With an empty second box the blank in front of the first term may be the match of the second.
+    if (terms_.second == " " && rules_.SecondLooksAt(i, line.size())) return {1, true};
     const std::size_t j = second_.Find(line, 0);
     return {j != std::string_view::npos && rules_.SecondLooksAt(j, line.size()) ? 1 : 0, true};
   }
@@ -167,62 +189,24 @@ class Scan {
   const Terms& terms_;
   std::string book_;
   const LineRules& rules_;
-  char32_t& next_;
-  TermFinder first_, second_;
-  bool plain_terms_;  // of ASCII alone, so that they can be looked for in bytes
-  bool one_term_;     // the second box is empty
-  bool no_second_;    // there is no second box
-
+  TermFinder first_{terms_.first};
+  TermFinder second_{terms_.second.empty() ? terms_.first : terms_.second};
+  const bool plain_terms_ = text::IsAscii(terms_.first) && text::IsAscii(terms_.second);
   std::optional<bool> is_ascii_;
-  std::size_t at_ = 0;  // where the next line begins
+  std::size_t at_ = 0;  // the beginning of the next line
   int chapter_ = 0;
   int verse_ = 0;
   bool has_capital_ = false;
-  std::string entry_;             // "Exodus 16 " and room for the verse
-  std::size_t entry_length_ = 0;  // of the part in front of the verse; 0 where it has to be made anew
+  std::string entry_;             // "Exodus 16 " and space for the verse
+  std::size_t entry_length_ = 0;  // of the part before the verse; 0 if the entry has to be made again
   ScanFindings findings_;
 };
 
 }  // namespace
 
 ScanFindings ScanText(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules,
-                      char32_t& next) {
+                      char32_t next) {
   return Scan(bytes, terms, std::move(book), rules, next).Run();
-}
-
-ScanFindings ScanText(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules) {
-  char32_t next = 0;
-  return ScanText(bytes, terms, std::move(book), rules, next);
-}
-
-LineFindings SearchLine(std::u32string_view line, std::u32string_view first, std::u32string_view second,
-                        const LineRules& rules, bool book_has_name, char32_t& next) {
-  LineFindings findings;
-  std::size_t i = kFirstPlace;
-  while (rules.FirstLooksAt(i, line.size())) {
-    if (i >= line.size() || line.substr(i, first.size()) != first) {
-      ++i;
-      continue;
-    }
-    if (i + first.size() < line.size()) next = line[i + first.size()];
-    const bool counts = !rules.Rejects(next) && (book_has_name || rules.CountsNameless());
-    findings.candidate = findings.candidate || counts;
-    if (counts && second.empty()) ++findings.hits;
-    std::size_t j = 0;
-    while (counts && !second.empty() && rules.SecondLooksAt(j, line.size())) {
-      if (line.substr(j, second.size()) != second) {
-        ++j;
-        continue;
-      }
-      ++findings.hits;
-      if (j >= kNextPlace) break;
-      j = kNextPlace;
-    }
-    // Rejected or not, the first candidate decides the verse.
-    if (i >= kNextPlace) break;
-    i = kNextPlace;
-  }
-  return findings;
 }
 
 }  // namespace lectern::search
