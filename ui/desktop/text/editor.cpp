@@ -1,4 +1,4 @@
-// A sheet: a text that is edited. Each edit goes to the control as it is, whatever the size of the text.
+// The editor of rich text. Reports each edit by itself, so that the cost does not depend on the text's size.
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -17,38 +17,38 @@ class Editor : public RichTextView {
   using RichTextView::RichTextView;
 
   QWidget* Make(QWidget* parent) override {
-    sheet_ = new QPlainTextEdit(parent);
-    sheet_->setTabChangesFocus(true);
-    document_ = sheet_->document();
+    editor_ = new QPlainTextEdit(parent);
+    editor_->setTabChangesFocus(true);
+    document_ = editor_->document();
     connect(document_, &QTextDocument::contentsChange,
             [this](int at, int removed, int added) { NoteEdit(at, removed, added); });
     connect(document_, &QTextDocument::contentsChanged, [this] { ReportEdit(); });
-    connect(sheet_, &QPlainTextEdit::cursorPositionChanged, [this] { SelectionMoved(); });
-    connect(sheet_, &QPlainTextEdit::selectionChanged, [this] { SelectionMoved(); });
-    return sheet_;
+    connect(editor_, &QPlainTextEdit::cursorPositionChanged, [this] { SelectionMoved(); });
+    connect(editor_, &QPlainTextEdit::selectionChanged, [this] { SelectionMoved(); });
+    return editor_;
   }
 
   QFont WantedFont() const override { return ForWriting(ControlView::WantedFont()); }
 
   void Apply() override {
-    const Changes changes = TakeChanges(sheet_->palette().color(QPalette::Base));
+    const Changes changes = TakeChanges(editor_->palette().color(QPalette::Base));
     const bool runs_moved = std::exchange(runs_moved_, false);
     if (changes.text) {
       Load();
     } else if (runs_moved || changes.styles) {
       ShowStyles();
     }
-    if (changes.selection) sheet_->setTextCursor(Selection(*document_));
-    if (changes.text) sheet_->verticalScrollBar()->setValue(0);
+    if (changes.selection) editor_->setTextCursor(Selection(*document_));
+    if (changes.text) editor_->verticalScrollBar()->setValue(0);
     if (!changes.marks) return;
-    BringMarkIntoSight(*sheet_, [this](const QTextCursor& at, const QRect&, const QRect&) {
-      sheet_->verticalScrollBar()->setValue(at.block().firstLineNumber());
+    BringMarkIntoSight(*editor_, [this](const QTextCursor& at, const QRect&, const QRect&) {
+      editor_->verticalScrollBar()->setValue(at.block().firstLineNumber());
     });
   }
 
   void Commit() override {
-    if (reports_edit_) return;  // the selection belongs to the text after the edit
-    CommitSelection(sheet_->textCursor());
+    // During an edit the selection already refers to the text after it.
+    if (!reports_edit_) CommitSelection(editor_->textCursor());
   }
 
   struct Edit {
@@ -64,7 +64,7 @@ class Editor : public RichTextView {
     has_styles_ = false;
     document_->setUndoRedoEnabled(false);
     document_->setDocumentMargin(kMargin);
-    sheet_->setPlainText(ToDocument(text));
+    editor_->setPlainText(ToDocument(text));
     ShowStyles();
     document_->setUndoRedoEnabled(true);
     length_ = Length();
@@ -74,14 +74,14 @@ class Editor : public RichTextView {
     const bool has_runs = !Control().Runs().All().empty();
     if (!has_runs && !has_styles_) return;
     has_styles_ = has_runs;
-    LayStyles(*document_, Control().Runs(), positions_, nullptr, sheet_->palette(), 1);
+    LayStyles(*document_, Control().Runs(), positions_, nullptr, editor_->palette(), 1);
   }
 
   int Length() const { return document_->characterCount() - 1; }
 
   void NoteEdit(int at, int removed, int added) {
     if (GetEvents().AtWork()) return;
-    // Qt counts the end of the document along where an edit reaches it.
+    // Qt also counts the end of the document if an edit reaches it.
     const int length = Length();
     const int beyond = std::max({at + added - length, at + removed - length_, 0});
     removed -= beyond;
@@ -115,12 +115,12 @@ class Editor : public RichTextView {
     SelectionMoved();
   }
 
-  QPlainTextEdit* sheet_ = nullptr;
-  QTextDocument* document_ = nullptr;  // owned by sheet_
-  int length_ = 0;                     // of the text, as Qt counts
+  QPlainTextEdit* editor_ = nullptr;
+  QTextDocument* document_ = nullptr;  // owned by editor_
+  int length_ = 0;                     // of the text, in positions of Qt
   std::optional<Edit> edit_;           // noted and not yet reported
   bool has_styles_ = false;
-  bool runs_moved_ = false;  // along with text that was edited
+  bool runs_moved_ = false;  // by an edit
   bool reports_edit_ = false;
 };
 

@@ -9,16 +9,14 @@ namespace lectern::desktop {
 
 namespace {
 
-constexpr int kLongestNumber = 3;  // digits
-
-// The length of the number that a verse begins with, and of the blanks after it; both 0 for any other
-// paragraph.
+// The lengths of a verse's number and of the blanks after it; both are 0 for any other paragraph.
 struct VerseNumber {
   qsizetype digits = 0;
   qsizetype blanks = 0;
 };
 
 VerseNumber VerseNumberOf(QStringView paragraph) {
+  constexpr int kLongestNumber = 3;  // digits
   VerseNumber number;
   while (number.digits < paragraph.size() && paragraph[number.digits].isDigit()) ++number.digits;
   qsizetype at = number.digits;
@@ -27,16 +25,6 @@ VerseNumber VerseNumberOf(QStringView paragraph) {
   const bool is_verse =
       number.digits > 0 && number.digits <= kLongestNumber && number.blanks > 0 && at < paragraph.size();
   return is_verse ? number : VerseNumber{};
-}
-
-template <class Use>
-void ForEachParagraph(QStringView text, Use use) {
-  for (qsizetype start = 0; start <= text.size();) {
-    qsizetype end = text.indexOf(u'\n', start);
-    if (end < 0) end = text.size();
-    use(text.mid(start, end - start));
-    start = end + 1;
-  }
 }
 
 QTextCharFormat FormatOf(const forms::TextStyle& style, const QPalette& palette, double enlargement) {
@@ -57,8 +45,9 @@ QTextCharFormat FormatOf(const forms::TextStyle& style, const QPalette& palette,
 PageSetting::PageSetting(const QFont& font, const QString& text)
     : font_(font), number_width_(0), metrics_(font) {
   qsizetype digits = 2;
-  ForEachParagraph(
-      text, [&](QStringView paragraph) { digits = std::max(digits, VerseNumberOf(paragraph).digits); });
+  for (const QStringView paragraph : QStringView(text).tokenize(u'\n')) {
+    digits = std::max(digits, VerseNumberOf(paragraph).digits);
+  }
   number_width_ =
       metrics_.horizontalAdvance(QString(digits, u'0')) + 1.6 * metrics_.horizontalAdvance(QChar(u' '));
 }
@@ -79,7 +68,7 @@ std::unique_ptr<QTextDocument> PageSetting::Document(const QString& text, int wi
   QTextCursor cursor(document.get());
   cursor.beginEditBlock();
   bool first = true;
-  ForEachParagraph(text, [&](QStringView paragraph) {
+  for (const QStringView paragraph : QStringView(text).tokenize(u'\n')) {
     const QTextBlockFormat& format = VerseNumberOf(paragraph).digits > 0 ? verse : plain;
     if (std::exchange(first, false)) {
       cursor.setBlockFormat(format);
@@ -87,9 +76,9 @@ std::unique_ptr<QTextDocument> PageSetting::Document(const QString& text, int wi
       cursor.insertBlock(format);
     }
     cursor.insertText(paragraph.toString());
-  });
+  }
   cursor.endEditBlock();
-  // Keeping the glyphs makes scrolling quick, and takes about a hundred times the text's own memory.
+  // Keeping the glyphs makes scrolling fast but takes about a hundred times the memory of the text.
   constexpr qsizetype kLongestKept = 100'000;
   if (text.size() <= kLongestKept) {
     for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
@@ -118,10 +107,7 @@ void LayStyles(QTextDocument& document, const forms::TextRuns& runs, const TextP
   auto run = runs.All().begin();
   for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
     QList<QTextLayout::FormatRange> formats;
-    if (setting != nullptr) {
-      const QTextLayout::FormatRange gap = setting->NumberGap(block.text());
-      if (gap.length > 0) formats.append(gap);
-    }
+    if (setting != nullptr) formats.append(setting->NumberGap(block.text()));
     const int start = block.position();
     const int end = start + block.length();
     for (; run != runs.All().end() && positions.ToQt(run->start) < end; ++run) {
@@ -131,9 +117,10 @@ void LayStyles(QTextDocument& document, const forms::TextRuns& runs, const TextP
       range.start = run_start - start;
       range.length = run_end - run_start;
       range.format = FormatOf(run->style, palette, enlargement);
-      if (range.length > 0) formats.append(range);
-      if (positions.ToQt(run->End()) > end) break;  // it goes on in the next paragraph
+      formats.append(range);
+      if (positions.ToQt(run->End()) > end) break;  // the run continues in the next paragraph
     }
+    formats.removeIf([](const QTextLayout::FormatRange& range) { return range.length <= 0; });
     if (block.layout()->formats() != formats) block.layout()->setFormats(formats);
   }
   edit.endEditBlock();

@@ -1,6 +1,5 @@
-// How text is set. A page that is only read has some space between the lines, and verses with a hanging
-// indent: their numbers in the margin and their text aligned. Runs of style are laid over the paragraphs of
-// pages and sheets.
+// The typography of rich text. A page that is only read has space between its lines, and verses with a
+// hanging indent: the numbers are in the margin and the text is aligned.
 #pragma once
 
 #include <QFont>
@@ -18,15 +17,14 @@ namespace lectern::desktop {
 
 class PageSetting {
  public:
-  // For a page with that text in that font.
   PageSetting(const QFont& font, const QString& text);
 
-  // A new document with the text, for a page of that width. As nothing shows it yet, paragraphs are broken
-  // into lines only when they come into sight.
+  // A new document with the text, for a page of that width. Because no widget shows it yet, Qt breaks
+  // paragraphs into lines only when they come into view.
   std::unique_ptr<QTextDocument> Document(const QString& text, int width) const;
 
-  // The format that widens the blanks after a verse's number, so that its text is aligned with the others; of
-  // length 0 for any other paragraph.
+  // The format that widens the blanks after a verse's number and so aligns the verse's text. Its length is 0
+  // for any other paragraph.
   QTextLayout::FormatRange NumberGap(const QString& paragraph) const;
 
  private:
@@ -35,9 +33,9 @@ class PageSetting {
   QFontMetricsF metrics_;
 };
 
-// Lays the runs over the paragraphs of a document. They do not become part of it: they cost no editing and
-// cannot be undone. `setting` is that of a page, nullptr for a sheet. Colours are made legible on the
-// palette's base, and sizes multiplied by `enlargement`.
+// Applies the runs to the layout of the paragraphs, without editing the document: there is nothing to undo.
+// `setting` is that of a page, nullptr for an editor. Colours are made legible on the palette's base colour.
+// Sizes are multiplied by `enlargement`.
 void LayStyles(QTextDocument& document, const forms::TextRuns& runs, const TextPositions& positions,
                const PageSetting* setting, const QPalette& palette, double enlargement);
 

@@ -1,4 +1,4 @@
-// A page: a text that is read, selected and copied, and not edited.
+// A page of rich text that can be selected and copied, but not edited.
 #include <QAbstractTextDocumentLayout>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -32,22 +32,18 @@ class PageWidget : public QTextEdit {
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setTabChangesFocus(true);
     setCursorWidth(0);
-    // The text has the same width whatever its length.
+    // The width of the text must not depend on its length.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   }
 
-  // Whether the selection can be quoted, and copying the quotation. `quote` is empty where the text is not
-  // quoted.
-  std::function<bool()> can_quote;
-  std::function<void()> quote;
-
-  // The wheel was turned with Ctrl: the text is to be that many steps larger.
-  std::function<void(int steps)> wants_larger;
+  std::function<bool()> can_quote;              // whether the selection can be copied with its reference
+  std::function<void()> quote;                  // copies it; empty if the text has no references
+  std::function<void(int steps)> wants_larger;  // called when the wheel is turned with Ctrl
 
   // What is at the top of the viewport.
   struct Place {
     int position = 0;  // in the document
-    int above = 0;     // pixels of its line that are out of sight
+    int above = 0;     // the hidden part of its line, in pixels
   };
 
   Place TopPlace() const {
@@ -72,7 +68,7 @@ class PageWidget : public QTextEdit {
     if (steps != 0) wants_larger(steps);
   }
 
-  // Where nothing is selected, the menu is about the paragraph that was pressed on.
+  // If nothing is selected, selects the paragraph under the mouse for the menu.
   void contextMenuEvent(QContextMenuEvent* event) override {
     const bool by_mouse = event->reason() == QContextMenuEvent::Mouse;
     if (by_mouse && !textCursor().hasSelection()) SelectParagraphAt(event->pos());
@@ -99,7 +95,7 @@ class PageWidget : public QTextEdit {
     setTextCursor(cursor);
   }
 
-  int turned_ = 0;  // of a notch of the wheel
+  int turned_ = 0;  // part of a notch of the wheel
 };
 
 class ReadingPage : public RichTextView {
@@ -117,7 +113,7 @@ class ReadingPage : public RichTextView {
     return page_;
   }
 
-  // What is read for a long time is larger than what is pressed, and as large as the reader wants it.
+  // Text for reading is larger than captions, and the user can enlarge it.
   QFont WantedFont() const override {
     const double size = Control().FontSize > 0 ? Control().FontSize() : forms::kReadingSize;
     QFont font = ControlView::WantedFont();
@@ -130,24 +126,23 @@ class ReadingPage : public RichTextView {
   void Apply() override {
     const Changes changes = TakeChanges(page_->palette().color(QPalette::Base));
     const bool is_new = changes.text && !(document_ != nullptr && text_ == Control().Text);
-    const bool is_set_anew = !is_new && font_ != page_->font();
-    if (changes.text) SetRoomAbove(0);
+    const bool font_changed = !is_new && font_ != page_->font();
+    if (changes.text) SetSpaceAbove(0);
     QScrollBar* const bar = page_->verticalScrollBar();
     const int scrolled = bar->value();
-    if (is_new || is_set_anew) {
+    if (is_new || font_changed) {
       Load();
     } else if (changes.styles) {
       LayStyles(*document_);
     }
-    if (changes.selection || is_set_anew) page_->setTextCursor(Selection(*document_));
-    // Qt has scrolled to the selection; the reader's place counts more.
+    if (changes.selection || font_changed) page_->setTextCursor(Selection(*document_));
+    // Undo Qt's scrolling to the selection: the reader's place matters more.
     if (changes.text) bar->setValue(is_new ? 0 : scrolled);
-    if (is_set_anew) page_->ScrollTo(place_);
+    if (font_changed) page_->ScrollTo(place_);
     if (changes.marks) ScrollToFirstMark();
   }
 
-  // The keys that move a caret elsewhere scroll a page. With Shift they select, and the caret is shown from
-  // then on.
+  // The keys that move a caret in other texts scroll a page. With Shift they select, and show the caret.
   bool HandleKey(const QKeyEvent& key) override {
     if (const auto action = ScrollActionOf(key)) {
       page_->verticalScrollBar()->triggerAction(*action);
@@ -169,7 +164,7 @@ class ReadingPage : public RichTextView {
 
   void Commit() override { CommitSelection(page_->textCursor()); }
 
-  // A new document is quicker than writing into the one that is shown.
+  // Making a new document is faster than filling the one that is shown.
   void Load() {
     text_ = Control().Text;
     font_ = page_->font();
@@ -183,7 +178,7 @@ class ReadingPage : public RichTextView {
     const std::unique_ptr<QTextDocument> former(document_);
     document_ = document.release();
     page_->setDocument(document_);
-    SetRoomAbove(std::exchange(room_above_, 0));
+    SetSpaceAbove(std::exchange(space_above_, 0));
     page_->setCursorWidth(0);
   }
 
@@ -192,10 +187,10 @@ class ReadingPage : public RichTextView {
                        GetWindow().Enlargement());
   }
 
-  // Leaves room ahead of the text, so that its first lines can be scrolled down. What is seen stays where it
-  // is, as far as possible.
-  void SetRoomAbove(int pixels) {
-    const int more = pixels - std::exchange(room_above_, pixels);
+  // Leaves space above the text, so that its first lines can be scrolled down. Keeps the visible text in its
+  // place if possible.
+  void SetSpaceAbove(int pixels) {
+    const int more = pixels - std::exchange(space_above_, pixels);
     if (more == 0) return;
     QTextFrameFormat format = document_->rootFrame()->frameFormat();
     format.setTopMargin(kPageMargin + pixels);
@@ -204,14 +199,14 @@ class ReadingPage : public RichTextView {
     bar->setValue(bar->value() + more);
   }
 
-  // Brings the first mark to the upper third of what no panel covers, unless it is there already. A mark in
-  // the first lines, which a panel covers however the text is scrolled, gets room above.
+  // Scrolls the first mark into the upper third of the part that no panel covers. A mark in the first lines
+  // may need space above it for that.
   void ScrollToFirstMark() {
     BringMarkIntoSight(*page_, [this](const QTextCursor&, const QRect& place, const QRect& open) {
       QScrollBar* const bar = page_->verticalScrollBar();
       const int top = bar->value() + place.top();  // of the mark, in the whole text
       const int wanted = top - open.top() - open.height() / 3;
-      if (top < open.top()) SetRoomAbove(room_above_ - wanted);
+      if (top < open.top()) SetSpaceAbove(space_above_ - wanted);
       bar->setValue(std::max(wanted, 0));
     });
   }
@@ -229,9 +224,9 @@ class ReadingPage : public RichTextView {
   QTextDocument* document_ = nullptr;  // owned by page_
   std::optional<PageSetting> setting_;
   std::string text_;         // as loaded
-  QFont font_;               // the same
-  PageWidget::Place place_;  // ahead of a change of the font
-  int room_above_ = 0;       // pixels
+  QFont font_;               // as loaded
+  PageWidget::Place place_;  // before a change of the font
+  int space_above_ = 0;      // pixels
 };
 
 }  // namespace

@@ -18,7 +18,7 @@ RichTextView::Changes RichTextView::TakeChanges(const QColor& ground) {
   const bool text = before->text != now.text;
   return {.text = text,
           .styles = text || before->style != now.style || before->ground != now.ground,
-          // A text that comes with styles counts one of each; what exceeds that was set by the program.
+          // Loading a text with styles adds one to each count. The program has set any further styles.
           .marks = now.style - before->style > now.text - before->text,
           .selection = text || before->selection != now.selection};
 }
@@ -52,7 +52,7 @@ std::optional<int> RichTextView::FirstMark() const {
   return std::nullopt;
 }
 
-// Above the panels or below them, whichever is larger.
+// The part above the panels or the part below them, whichever is larger.
 QRect RichTextView::OpenPart(const QAbstractScrollArea& pane) {
   const QWidget& viewport = *pane.viewport();
   QRect open = viewport.rect();

@@ -1,5 +1,5 @@
-// What the views of rich text have in common. A pane that is only read is a page (reading_page.cpp), with
-// space between the lines; one that is edited is a plain sheet (editor.cpp), which loads and edits a text of
+// The base of the views of rich text. Text that is only read is shown as a page (reading_page.cpp), with
+// space between the lines. Text that can be edited is shown in a plain editor (editor.cpp), which handles
 // many megabytes without a pause.
 #pragma once
 
@@ -21,28 +21,27 @@ class RichTextView : public ViewOf<forms::RichTextBox> {
   using ViewOf::ViewOf;
 
  protected:
-  // What has changed in the control since it was last shown.
+  // What has changed in the control since the previous call.
   struct Changes {
     bool text;
-    bool styles;  // along with any change of the text or of the colour behind it
-    bool marks;   // colours that the program has set in the text, not those that came with it
+    bool styles;  // also true if the text or the background has changed
+    bool marks;   // colours that the program has set after loading the text
     bool selection;
   };
   Changes TakeChanges(const QColor& ground);
 
-  // The control's selection as a cursor of the document, which holds its text.
+  // The control's selection in the document that holds its text.
   QTextCursor Selection(QTextDocument& document) const;
 
-  // The person has moved the cursor or changed the selection, which the control learns ahead of the next
-  // event.
+  // The user has moved the cursor or changed the selection. The control is updated before the next event.
   void SelectionMoved();
 
-  // Hands the cursor's selection to the control.
-  // Requires: the control was shown.
+  // Copies the cursor's selection to the control.
+  // Requires: the control has been shown.
   void CommitSelection(const QTextCursor& cursor);
 
-  // Calls `scroll` with the place where the first coloured run begins, unless that is to be seen already, and
-  // with the part of the viewport that no panel covers. `Edit` is the kind of the widget.
+  // If the beginning of the first coloured run is not visible, calls `scroll` with its position, its place in
+  // the viewport, and the part of the viewport that no panel covers.
   template <class Edit, class Scroll>
   void BringMarkIntoSight(const Edit& edit, Scroll scroll) const {
     const std::optional<int> mark = FirstMark();
@@ -57,10 +56,10 @@ class RichTextView : public ViewOf<forms::RichTextBox> {
   Ground GetGround() const override { return Ground::kField; }
   bool Needs(const QKeyEvent& key) const override;
 
-  TextPositions positions_;  // of the text that is shown
+  TextPositions positions_;  // in the text that is shown
 
  private:
-  std::optional<int> FirstMark() const;  // as Qt counts
+  std::optional<int> FirstMark() const;  // a position of Qt
   static QRect OpenPart(const QAbstractScrollArea& pane);
 
   struct Shown {

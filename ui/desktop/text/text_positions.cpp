@@ -5,7 +5,7 @@
 namespace lectern::desktop {
 
 TextPositions::Measured TextPositions::Measure(std::string_view text) {
-  Measured measured{{}, {0, 0}};
+  Measured measured;
   Mark& end = measured.end;
   for (std::size_t byte = 0; byte < text.size(); ++byte) {
     const auto lead = static_cast<unsigned char>(text[byte]);
@@ -25,19 +25,20 @@ TextPositions::Measured TextPositions::Measure(std::string_view text) {
 
 void TextPositions::Read(std::string_view text) { marks_ = Measure(text).marks; }
 
-int TextPositions::ToQt(std::size_t position) const {
+template <class Position>
+TextPositions::Mark TextPositions::LastMark(Position position, Position Mark::*count) const {
   const auto behind = std::upper_bound(marks_.begin(), marks_.end(), position,
-                                       [](std::size_t at, const Mark& mark) { return at < mark.forms; });
-  if (behind == marks_.begin()) return static_cast<int>(position);
-  const Mark& mark = *std::prev(behind);
+                                       [count](Position at, const Mark& mark) { return at < mark.*count; });
+  return behind == marks_.begin() ? Mark() : *std::prev(behind);
+}
+
+int TextPositions::ToQt(std::size_t position) const {
+  const Mark mark = LastMark(position, &Mark::forms);
   return mark.qt + static_cast<int>(position - mark.forms);
 }
 
 std::size_t TextPositions::ToForms(int position) const {
-  const auto behind = std::upper_bound(marks_.begin(), marks_.end(), position,
-                                       [](int at, const Mark& mark) { return at < mark.qt; });
-  if (behind == marks_.begin()) return static_cast<std::size_t>(position);
-  const Mark& mark = *std::prev(behind);
+  const Mark mark = LastMark(position, &Mark::qt);
   return mark.forms + static_cast<std::size_t>(position - mark.qt);
 }
 
@@ -57,8 +58,7 @@ void TextPositions::Edited(int at, int removed, std::string_view inserted) {
     mark.forms += start;
     mark.qt += at;
   }
-  const auto place = marks_.erase(first, last);
-  marks_.insert(place, measured.marks.begin(), measured.marks.end());
+  marks_.insert(marks_.erase(first, last), measured.marks.begin(), measured.marks.end());
 }
 
 QString ToDocument(std::string_view text) {

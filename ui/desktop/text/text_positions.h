@@ -1,5 +1,5 @@
-// Positions in a text as the forms count them and as Qt does. A line end is two characters for the forms and
-// one for Qt; a character beyond U+FFFF is one for the forms and two for Qt. Both count from 0.
+// Converts positions in a text between the forms and Qt. A line end is two characters for the forms and one
+// for Qt; a character beyond U+FFFF is one for the forms and two for Qt. Both count from 0.
 #pragma once
 
 #include <QString>
@@ -11,20 +11,19 @@ namespace lectern::desktop {
 
 class TextPositions {
  public:
-  // Measures a whole text.
   void Read(std::string_view text);
 
   int ToQt(std::size_t position) const;
   std::size_t ToForms(int position) const;
 
-  // `inserted` has replaced `removed` characters from `at` on, as Qt counts.
+  // Records that `inserted` has replaced `removed` characters from `at` on, in positions of Qt.
   void Edited(int at, int removed, std::string_view inserted);
 
  private:
   // The position after a character that the two count differently.
   struct Mark {
-    std::size_t forms;
-    int qt;
+    std::size_t forms = 0;
+    int qt = 0;
   };
   struct Measured {
     std::vector<Mark> marks;
@@ -32,10 +31,14 @@ class TextPositions {
   };
   static Measured Measure(std::string_view text);
 
+  // The last mark at or before a position, in the count of the forms or of Qt; a mark at 0 if there is none.
+  template <class Position>
+  Mark LastMark(Position position, Position Mark::*count) const;
+
   std::vector<Mark> marks_;
 };
 
-// The text for a document of Qt, where a line ends with a line feed.
+// The text with the line ends of a Qt document.
 QString ToDocument(std::string_view text);
 
 }  // namespace lectern::desktop

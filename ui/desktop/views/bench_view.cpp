@@ -18,7 +18,7 @@ namespace lectern::desktop {
 
 namespace {
 
-// Shows all that is on it, or scrolls where the screen is too small.
+// A page that scrolls only if the screen is too small for it.
 class BenchPage : public QScrollArea {
  public:
   QSize sizeHint() const override { return widget()->size(); }
@@ -40,14 +40,15 @@ BenchView::BenchView(forms::Window& window, WindowView& view, const std::vector<
   for (const std::string& name : controls) {
     auto* const control = dynamic_cast<forms::PlacedControl*>(window.Find(name));
     assert(control != nullptr);
-    QWidget& holder = HolderFor(*control);
-    views_.push_back(MakeView(*control, view, holder));
-    views_.back()->StandInTheCorner();
+    auto* const holder = new QWidget;
+    holder->setFixedSize(PlaceOf(*control).size());
+    views_.push_back(MakeView(*control, view, *holder));
+    views_.back()->PutInCorner();
     views_.back()->Changed();
     if (dynamic_cast<forms::Container*>(control) != nullptr) {
-      AddPage(*control, holder);
+      AddPage(*control, *holder);
     } else {
-      row_->addWidget(&holder);
+      row_->addWidget(holder);
     }
   }
   row_->addStretch();
@@ -58,13 +59,6 @@ BenchView::BenchView(forms::Window& window, WindowView& view, const std::vector<
 }
 
 BenchView::~BenchView() = default;
-
-// Makes a widget as large as the control.
-QWidget& BenchView::HolderFor(const forms::PlacedControl& control) {
-  auto* const holder = new QWidget;
-  holder->setFixedSize(PlaceOf(control).size());
-  return *holder;
-}
 
 void BenchView::AddPage(forms::PlacedControl& panel, QWidget& holder) {
   const auto* const frame = dynamic_cast<const forms::Frame*>(&panel);

@@ -1,9 +1,8 @@
-// The keeper's bench: chosen controls that stand off a window, in a second window where the mouse can reach
-// them. They are the same controls with the same handlers; neither their places in the model nor the window
-// itself change.
+// A second window for chosen controls that lie outside their own window, so that the mouse can reach them.
+// The controls, their handlers, their places in the model and their window do not change.
 //
-// Single controls stand in a row at the top, and each panel on a page of its own. A panel that is hidden can
-// be opened again by the button in its place.
+// Single controls are in a row at the top, and each panel is on a separate page. A hidden panel is replaced
+// by a button that opens it again.
 #pragma once
 
 #include <QWidget>
@@ -24,25 +23,24 @@ namespace lectern::desktop {
 
 class BenchView {
  public:
-  // Shows the controls of these names, and opens the panels among them. The window and its view outlive this.
-  // Requires: the window has all of the controls, and has been shown.
+  // Shows the named controls, and opens the panels among them. The window and its view outlive this.
+  // Requires: the window has all of the controls and has been shown.
   BenchView(forms::Window& window, WindowView& view, const std::vector<std::string>& controls);
   ~BenchView();
 
   QWidget& Frame() { return *frame_; }
 
-  // After an event: stacks what overlaps, and puts the Tab key's stops in order.
+  // After an event: stacks overlapping widgets and sets the tab order.
   void Settle();
 
  private:
-  QWidget& HolderFor(const forms::PlacedControl& control);
   void AddPage(forms::PlacedControl& panel, QWidget& holder);
 
   forms::Window& window_;
   WindowView& view_;
   std::vector<std::unique_ptr<ControlView>> views_;
   std::vector<std::pair<const forms::PlacedControl*, QPushButton*>> openers_;  // of the pages
-  std::unique_ptr<QWidget> frame_;  // goes before the views, as in WindowView
+  std::unique_ptr<QWidget> frame_;  // destroyed before the views, as in WindowView
   QHBoxLayout* row_;
   QTabWidget* pages_;
 };

@@ -1,4 +1,4 @@
-// Buttons, and options of which one is set.
+// Buttons and options.
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
@@ -15,7 +15,7 @@ namespace lectern::desktop {
 
 namespace {
 
-// The window handles access keys itself, as a menu may have the same letter.
+// Sets no shortcut: the window handles access keys itself, because a menu may have the same letter.
 void SetCaption(QAbstractButton& widget, const std::string& caption) {
   const QString text = ToQString(caption);
   if (widget.text() == text) return;
@@ -30,14 +30,11 @@ class ButtonView : public ViewOf<forms::Button> {
     widget_ = new QPushButton(parent);
     widget_->setAutoDefault(false);
     widget_->setDefault(Control().IsDefaultButton());
-    // A sign or a number on it does not say enough.
+    // A caption such as a sign or a number needs an explanation.
     if (Control().HasNameOfItsOwn()) widget_->setToolTip(ToQString(Control().AccessibleName()));
     connect(widget_, &QPushButton::clicked, [this] {
-      if (std::exchange(pressed_by_mouse_, false)) {
-        Act([this] { Control().Click(); });
-      } else {
-        Act([this] { Control().PersonClicks(); });
-      }
+      const bool by_mouse = std::exchange(pressed_by_mouse_, false);
+      Act([&] { by_mouse ? Control().Click() : Control().PersonClicks(); });
     });
     return widget_;
   }
@@ -56,7 +53,7 @@ class ButtonView : public ViewOf<forms::Button> {
     constexpr int kMargin = 6;
     return FitLine(ToQString(Control().Caption), ControlView::WantedFont(), Place().width() - 2 * kMargin);
   }
-  bool SpeaksForItself() const override { return !Control().Caption->empty(); }
+  bool ShowsReadableText() const override { return !Control().Caption->empty(); }
 
   // Enter presses the button that has the focus, not the one of its panel.
   bool HandleKey(const QKeyEvent& key) override {
@@ -79,7 +76,7 @@ class ButtonView : public ViewOf<forms::Button> {
 
   QPushButton* widget_ = nullptr;
   bool pressed_by_mouse_ = false;
-  forms::Picture picture_;  // as shown on it
+  forms::Picture picture_;  // as shown
 };
 
 class OptionView : public ViewOf<forms::Option> {
@@ -93,7 +90,7 @@ class OptionView : public ViewOf<forms::Option> {
 
   void Apply() override {
     SetCaption(*widget_, Control().Caption);
-    // Qt does not let the last one of a panel be cleared; the control does.
+    // Qt would keep one option of a panel set; the control allows none.
     widget_->setAutoExclusive(false);
     widget_->setChecked(Control().Value);
     widget_->setAutoExclusive(true);
@@ -103,15 +100,15 @@ class OptionView : public ViewOf<forms::Option> {
     constexpr int kIndicator = 22;
     return FitLine(ToQString(Control().Caption), ControlView::WantedFont(), Place().width() - kIndicator);
   }
-  bool SpeaksForItself() const override { return !Control().Caption->empty(); }
+  bool ShowsReadableText() const override { return !Control().Caption->empty(); }
 
   bool HandleKey(const QKeyEvent& key) override {
-    const QPoint way = DirectionOf(key.key());
-    if (!way.isNull()) MoveBy(way.x() + way.y());
-    return !way.isNull();
+    const QPoint direction = DirectionOf(key.key());
+    if (!direction.isNull()) MoveBy(direction.x() + direction.y());
+    return !direction.isNull();
   }
 
-  // Sets the next option of the panel; after the last one comes the first.
+  // Sets the next option of the panel; the first follows the last.
   void MoveBy(int step) {
     std::vector<forms::Option*> options;
     for (forms::Control* sibling : Control().Parent().Children()) {

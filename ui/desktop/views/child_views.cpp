@@ -13,22 +13,13 @@ namespace {
 enum class Layer { kFigure, kLabel, kInput, kPanel };
 
 Layer StackingLayerOf(const forms::Control& control) {
-  switch (control.GetKind()) {
-    case forms::Kind::kShape:
-    case forms::Kind::kLine:
-      return Layer::kFigure;
-    case forms::Kind::kLabel:
-    case forms::Kind::kImage:
-      return Layer::kLabel;
-    case forms::Kind::kFrame:
-    case forms::Kind::kPictureBox:
-      return Layer::kPanel;
-    default:
-      return Layer::kInput;
-  }
+  using enum forms::Kind;
+  const forms::Kind kind = control.GetKind();
+  if (kind == kShape || kind == kLine) return Layer::kFigure;
+  if (kind == kLabel || kind == kImage) return Layer::kLabel;
+  return kind == kFrame || kind == kPictureBox ? Layer::kPanel : Layer::kInput;
 }
 
-// Whether one control is stacked below another of the same panel.
 bool LiesBelow(const ControlView* a, const ControlView* b) {
   const Layer layer_of_a = StackingLayerOf(a->Control());
   const Layer layer_of_b = StackingLayerOf(b->Control());
@@ -77,7 +68,7 @@ void ChildViews::Stack() {
     if (view->IsSeen()) wanted.push_back(view.get());
   }
   std::stable_sort(wanted.begin(), wanted.end(), LiesBelow);
-  // Those that are in order already stay as they are; the others are put on top of them one after another.
+  // Widgets that are already in order stay; the others are raised one after another.
   auto next = wanted.begin();
   for (QObject* child : parent_.children()) {
     if (next != wanted.end() && (*next)->Widget() == child) ++next;
@@ -89,7 +80,7 @@ void ChildViews::Stack() {
   }
 }
 
-// Leaves out what is only looked at: a figure behind other controls would join them all.
+// Leaves out figures: one behind other controls would join all their lines to one.
 bool ChildViews::AppendInTabOrder(std::vector<ControlView*>& order) const {
   std::vector<std::vector<ControlView*>> stops;
   std::vector<QRect> places;

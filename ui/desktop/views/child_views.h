@@ -1,5 +1,5 @@
-// The views of what lies in a window or panel. Where they overlap, figures and labels are lowest, then what
-// takes input, then panels, of which the last that was shown is on top.
+// The views of the controls in a window or panel. If they overlap, figures are at the bottom, then labels,
+// then controls that take input, then panels, with the panel that was shown last on top.
 #pragma once
 
 #include <QWidget>
@@ -16,26 +16,24 @@ class WindowView;
 
 class ChildViews {
  public:
-  // The widgets become children of `parent`, which outlives this or goes just before.
+  // The widgets become children of `parent`, which outlives this or is destroyed just before.
   ChildViews(forms::Container& container, WindowView& window, QWidget& parent);
   ~ChildViews();
 
   const std::vector<std::unique_ptr<ControlView>>& All() const { return views_; }
 
-  // The view of that widget, here or in what lies here; nullptr where there is none.
+  // The view of that widget, here or in a panel here; nullptr if there is none.
   ControlView* Find(const QWidget& widget) const;
 
-  // Whether the question is answered with yes for one of these or of what lies in them. Stops at the first.
+  // Whether `question` is true for one of these views or of the views inside them. Stops at the first.
   bool Any(const std::function<bool(ControlView&)>& question) const;
 
   void MarkStale();
   void Recolour();
+  void Stack();  // the widgets here and inside them
 
-  // Stacks the widgets of these and of all that lies in them.
-  void Stack();
-
-  // Appends what the Tab key goes through, line by line and from the left to the right. Returns whether a
-  // person uses anything here at all, be it with the mouse alone.
+  // Appends the stops of the Tab key, line by line and from left to right. Returns whether anything here can
+  // be used, even if only with the mouse.
   bool AppendInTabOrder(std::vector<ControlView*>& order) const;
 
  private:
@@ -43,7 +41,6 @@ class ChildViews {
   std::vector<std::unique_ptr<ControlView>> views_;
 };
 
-// Lets the Tab key go through the views in that order.
 void SetTabOrder(const std::vector<ControlView*>& order);
 
 }  // namespace lectern::desktop

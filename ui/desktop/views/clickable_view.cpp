@@ -14,27 +14,21 @@ namespace {
 constexpr int kLeftButton = 1;
 constexpr int kRightButton = 2;
 
-// A stroke needs every movement of the mouse; anything else needs only its latest place, so that movements do
-// not pile up. Qt merges movements when they arrive, which may be before a press is delivered, so this is set
-// ahead of the press.
+// A stroke needs every movement of the mouse. Otherwise only the latest place counts, and movements must not
+// pile up. Qt may merge movements before it delivers the press, so this is set before the press.
 void WantEveryMovement(bool wanted) {
   QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, !wanted);
 }
 
 }  // namespace
 
-// A surface to draw on follows the pointer and is not a button.
-bool ClickableView::IsButton() const {
-  return Control().Click || (Control().MouseDown && !Control().MouseMove);
-}
-
 void ClickableView::PrepareForInput(QWidget& widget) {
   if (IsButton()) {
-    const bool waits = IsOneOfARow() && Control().Index() > 0;
+    const bool waits = IsInRow() && Control().Index() > 0;
     widget.setFocusPolicy(waits ? Qt::ClickFocus : Qt::StrongFocus);
     if (auto* spoken = dynamic_cast<Spoken*>(&widget)) spoken->press = [this] { PressByKey(kLeftButton); };
   }
-  // The mouse draws without taking the focus from the button that was pressed last.
+  // Drawing with the mouse does not take the focus.
   if (IsSurface()) widget.setFocusPolicy(Qt::TabFocus);
   widget.setMouseTracking(static_cast<bool>(Control().MouseMove));
 }
@@ -50,7 +44,7 @@ void ClickableView::PressByKey(int button) {
 
 bool ClickableView::HandleKey(const QKeyEvent& key) {
   if (!IsButton()) return false;
-  if (IsOneOfARow() && key.modifiers() == Qt::NoModifier && MoveInRow(key.key())) return true;
+  if (IsInRow() && key.modifiers() == Qt::NoModifier && MoveInRow(key.key())) return true;
   const bool is_left = (key.key() == Qt::Key_Space || KeyCode(key) == forms::kEnterKey) &&
                        (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
   const bool is_right =
@@ -70,7 +64,7 @@ std::vector<ControlView*> ClickableView::Row() const {
   return row;
 }
 
-// Moves to the nearest one in that direction. Returns whether the key is one that moves.
+// Moves the focus to the nearest view in that direction. Returns whether the key is an arrow.
 bool ClickableView::MoveInRow(int key) {
   const QPoint here = Place().center();
   const QPoint way = DirectionOf(key);
@@ -88,13 +82,6 @@ bool ClickableView::MoveInRow(int key) {
   }
   if (nearest != nullptr) nearest->Widget()->setFocus(Qt::OtherFocusReason);
   return true;
-}
-
-// The Tab key stops at the one that had the focus last.
-void ClickableView::BecomeStopOfRow() {
-  for (const ControlView* other : Row()) {
-    other->Widget()->setFocusPolicy(other == this ? Qt::StrongFocus : Qt::ClickFocus);
-  }
 }
 
 bool ClickableView::Pressed(const QMouseEvent& event) {
@@ -133,14 +120,17 @@ bool ClickableView::eventFilter(QObject* watched, QEvent* event) {
       case QEvent::MouseButtonRelease:
         return Released(static_cast<const QMouseEvent&>(*event));
       case QEvent::FocusIn:
-        if (IsOneOfARow()) BecomeStopOfRow();
+        if (!IsInRow()) break;
+        for (const ControlView* other : Row()) {  // the Tab key will stop at this one
+          other->Widget()->setFocusPolicy(other == this ? Qt::StrongFocus : Qt::ClickFocus);
+        }
         break;
       case QEvent::MouseMove:
         return Moved(static_cast<const QMouseEvent&>(*event));
       case QEvent::Enter:
         WantEveryMovement(IsSurface());
         break;
-      case QEvent::Leave:  // comes only when no button is held any more
+      case QEvent::Leave:  // Qt sends it only when no button is held
         WantEveryMovement(false);
         break;
       default:

@@ -1,7 +1,7 @@
-// What is pressed where it lies without being a button: labels, images, picture boxes. Where the control has
-// a handler for clicks or presses, the keyboard reaches and presses it too, with the menu key for the mouse's
-// right button. Several of a control array whose handler wants to know the mouse's button, such as the
-// colours of a palette, are one stop of the Tab key; the arrows go through them.
+// The base of labels, images and panels, which can be clicked although they are not buttons. If the control
+// has a handler for clicks or presses, the keyboard reaches and presses it too; the menu key is the right
+// button. The members of a control array whose handler needs the mouse button, such as the colours of a
+// palette, are a single stop of the Tab key, and the arrow keys move between them.
 #pragma once
 
 #include <vector>
@@ -15,26 +15,25 @@ class ClickableView : public ControlView {
   using ControlView::ControlView;
 
  protected:
-  // Whether it can be pressed and does not follow the pointer.
-  bool IsButton() const;
-
-  // Whether it is drawn on: it can be pressed and follows the pointer.
+  // Whether the user draws on it: it can be pressed and follows the pointer.
   bool IsSurface() const { return Control().MouseDown && Control().MouseMove; }
 
-  // Gives a new widget the focus policy that the control's handlers call for.
+  // Whether it can be pressed and is not a surface.
+  bool IsButton() const { return Control().Click || (Control().MouseDown && !Control().MouseMove); }
+
+  // Gives a new widget the focus policy that fits the control's handlers.
   void PrepareForInput(QWidget& widget);
 
-  // The same event with its place in the control's own scale.
+  // The same event in the control's own scale.
   virtual forms::MouseEvent InScale(forms::MouseEvent mouse) const { return mouse; }
 
   bool HandleKey(const QKeyEvent& key) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool IsOneOfARow() const { return IsButton() && !Control().Click && Control().Index() >= 0; }
-  std::vector<ControlView*> Row() const;  // with this one
+  bool IsInRow() const { return IsButton() && !Control().Click && Control().Index() >= 0; }
+  std::vector<ControlView*> Row() const;  // including this view
   bool MoveInRow(int key);
-  void BecomeStopOfRow();
   void PressByKey(int button);
   bool Pressed(const QMouseEvent& event);
   bool Released(const QMouseEvent& event);

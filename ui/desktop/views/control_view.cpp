@@ -15,23 +15,6 @@
 
 namespace lectern::desktop {
 
-namespace {
-
-// The roles of a control's colours in the palette, and the colour that means that it has none of its own.
-struct Roles {
-  QPalette::ColorRole back;
-  QPalette::ColorRole text;
-  forms::Colour design;
-};
-
-Roles RolesOf(bool is_field, bool is_button) {
-  if (is_field) return {QPalette::Base, QPalette::Text, forms::kWindowBackground};
-  if (is_button) return {QPalette::Button, QPalette::ButtonText, forms::kButtonFace};
-  return {QPalette::Window, QPalette::WindowText, forms::kButtonFace};
-}
-
-}  // namespace
-
 QString ToQString(const std::string& text) { return QString::fromStdString(text); }
 
 bool IsDesignText(const std::string& text) {
@@ -63,7 +46,7 @@ ControlView::ControlView(forms::PlacedControl& control, WindowView& window, QWid
 
 ControlView::~ControlView() { control_.Attach(nullptr); }
 
-// A pointer is shown at once, as it is about the very handler that runs.
+// The pointer changes at once, because it shows that the current handler is busy.
 void ControlView::Changed() {
   LayerView::Changed();
   if (widget_ != nullptr) ApplyPointer();
@@ -74,15 +57,13 @@ void ControlView::TakeFocus() { window_.FocusIsWanted(); }
 QRect ControlView::Place() const {
   QRect place = PlaceOf(control_);
   if (control_.GetKind() == forms::Kind::kLine) place.setSize(place.size().expandedTo({1, 1}));
-  if (stands_in_corner_) place.moveTo(0, 0);
+  if (in_corner_) place.moveTo(0, 0);
   return place;
 }
 
-// Storage is neither seen nor reached, except on the keeper's bench.
-bool ControlView::IsInReach() const { return stands_in_corner_ || !control_.IsStorage(); }
-
 void ControlView::Refresh() {
-  const bool seen = control_.Visible && IsInReach();
+  // Controls that only store data are shown on the bench alone.
+  const bool seen = control_.Visible && (in_corner_ || !control_.IsStorage());
   if (widget_ == nullptr) {
     if (!seen) return;
     MakeWidget();
@@ -99,7 +80,10 @@ void ControlView::Refresh() {
   }
   if (!seen) return;
   widget_->setEnabled(control_.Enabled);
-  ApplyFont();
+  if (const QFont font = WantedFont(); widget_->font() != font) {
+    FontWillChange();
+    widget_->setFont(font);
+  }
   ApplyColours();
   ApplyPointer();
   Apply();
@@ -109,7 +93,7 @@ void ControlView::MakeWidget() {
   widget_ = Make(&parent_);
   assert(widget_ != nullptr);
   widget_->setObjectName(ToQString(control_.FullName()));
-  if (control_.HasNameOfItsOwn() || !SpeaksForItself()) {
+  if (control_.HasNameOfItsOwn() || !ShowsReadableText()) {
     widget_->setAccessibleName(ToQString(control_.AccessibleName()));
   }
   widget_->installEventFilter(this);
@@ -133,14 +117,7 @@ QFont ControlView::WantedFont() const {
   return text == nullptr ? OwnFont() : FontOf(*text);
 }
 
-void ControlView::ApplyFont() {
-  const QFont font = WantedFont();
-  if (widget_->font() == font) return;
-  FontWillChange();
-  widget_->setFont(font);
-}
-
-// The colour behind the control: that of a filled figure under its middle, or the panel's.
+// The background of the control: a filled figure under its centre, or the panel.
 QColor ControlView::GroundColor() const {
   for (const forms::Control* sibling : control_.Parent().Children()) {
     if (sibling->GetKind() != forms::Kind::kShape || !sibling->Visible) continue;
@@ -169,7 +146,14 @@ void ControlView::ApplyColours() {
   if (colours_ == std::pair(back, fore)) return;
   colours_ = std::pair(back, fore);
 
-  const Roles roles = RolesOf(kind == Ground::kField, kind == Ground::kButton);
+  // The palette roles of the colours, and the back colour that means "not set".
+  struct Roles {
+    QPalette::ColorRole back = QPalette::Window;
+    QPalette::ColorRole text = QPalette::WindowText;
+    forms::Colour design = forms::kButtonFace;
+  } roles;
+  if (kind == Ground::kField) roles = {QPalette::Base, QPalette::Text, forms::kWindowBackground};
+  if (kind == Ground::kButton) roles = {QPalette::Button, QPalette::ButtonText, forms::kButtonFace};
   const QPalette theme = QApplication::palette();
   const bool transparent = kind == Ground::kTransparent && back == roles.design;
   const QColor ground = transparent ? GroundColor() : ToColor(back, theme);
@@ -179,7 +163,7 @@ void ControlView::ApplyColours() {
     palette.setColor(roles.text, text);
     palette.setColor(QPalette::Disabled, roles.text, Mixed(text, ground, 0.5));
   };
-  // A panel keeps the theme's colours, whatever those of its window are.
+  // A panel does not inherit the colours of its window.
   if (back != roles.design || kind == Ground::kPanel) {
     palette.setColor(roles.back, ground);
     if (!forms::IsSystemColour(back)) {

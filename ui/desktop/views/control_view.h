@@ -1,7 +1,7 @@
-// What the views of all controls have in common: place, visibility, pointer, font and colours of the widget,
-// and how keys and focus come in. The widget is made when the control is first to be seen.
+// The base of all views of controls: the widget's place, visibility, pointer, font and colours, and the
+// handling of keys and focus. The widget is made when the control is first visible.
 //
-// A view belongs to the view of its window or panel, and is destroyed with it, before the control.
+// The view of a window or panel owns the views inside it. A view is destroyed before its control.
 #pragma once
 
 #include <QCursor>
@@ -22,7 +22,6 @@ class WindowView;
 
 class ControlView : public QObject, public LayerView {
  public:
-  // `parent` becomes the parent of the widget.
   ControlView(forms::PlacedControl& control, WindowView& window, QWidget& parent);
   ~ControlView() override;
 
@@ -30,33 +29,31 @@ class ControlView : public QObject, public LayerView {
   void TakeFocus() override;
   void Refresh() override;
 
-  // Takes over what the person did without an event, such as selecting text. Called ahead of the next event
-  // where the view asked for it.
+  // Copies changes that caused no event, such as a selection, to the control. Called before the next event if
+  // the view asked for it.
   virtual void Commit() {}
 
-  // The theme or the ground behind the control has changed.
-  void Recolour();
+  void Recolour();  // after a change of the theme or of the background
 
   forms::PlacedControl& Control() const { return control_; }
-  QWidget* Widget() const { return widget_; }  // nullptr until the control was first seen
+  QWidget* Widget() const { return widget_; }  // nullptr until the control is first visible
   bool IsSeen() const { return widget_ != nullptr && !widget_->isHidden(); }
   QRect Place() const;  // within the parent widget, in pixels
 
-  // From now on its place is the upper left corner of its parent widget, wherever the control stands.
-  void StandInTheCorner() { stands_in_corner_ = true; }
-  bool StandsInTheCorner() const { return stands_in_corner_; }
+  // From now on shows the widget in the upper left corner of its parent, whatever the control's place.
+  void PutInCorner() { in_corner_ = true; }
+  bool IsInCorner() const { return in_corner_; }
 
-  // Its widget has been put where it belongs, above or below its siblings.
-  virtual void Stacked() {}
+  virtual void Stacked() {}  // called when the widget has been stacked among its siblings
 
-  // Handles a key that the control answers wherever the focus is in its window. Returns whether it does.
+  // Handles a key that the control responds to wherever the focus is in its window. Returns whether it did.
   virtual bool HandleWindowKey(const QKeyEvent& /*key*/) { return false; }
 
-  // The views of what lies in it; nullptr for anything but a panel that was seen.
+  // The views inside; nullptr for anything but a panel that has been visible.
   virtual ChildViews* Children() { return nullptr; }
 
  protected:
-  // What the control's colours apply to; nothing where the view paints with them itself.
+  // What the control's colours apply to. `kNone` is for a view that paints with them itself.
   enum class Ground { kNone, kTransparent, kPanel, kField, kButton };
 
   virtual QWidget* Make(QWidget* parent) = 0;
@@ -67,15 +64,15 @@ class ControlView : public QObject, public LayerView {
   virtual void FontWillChange() {}
   virtual QCursor Pointer() const;
 
-  // Whether a screen reader reads the text on it, so that it needs no name besides.
-  virtual bool SpeaksForItself() const { return false; }
+  // Whether the widget shows text that a screen reader reads, so that it needs no other name.
+  virtual bool ShowsReadableText() const { return false; }
 
-  // Whether the widget has a use for the key, which then does not press the panel's buttons.
+  // Whether the widget needs the key, which then does not press the panel's buttons.
   virtual bool Needs(const QKeyEvent& /*key*/) const { return false; }
   virtual bool HandleKey(const QKeyEvent& /*key*/) { return false; }
 
-  // Delivers something that the person does at the control, unless the control refuses it. The view then
-  // shows the control's state, whatever the widget made of it by itself.
+  // Delivers a user's action, unless the control refuses it. The view then shows the control's state, even if
+  // the widget has changed by itself.
   void Act(const std::function<void()>& act);
 
   QColor GroundColor() const;
@@ -83,11 +80,9 @@ class ControlView : public QObject, public LayerView {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  bool IsInReach() const;
   void MakeWidget();
   std::optional<QColor> PictureColor() const;
   void ApplyPointer();
-  void ApplyFont();
   void ApplyColours();
   bool KeyPressed(const QKeyEvent& key);
 
@@ -95,12 +90,12 @@ class ControlView : public QObject, public LayerView {
   WindowView& window_;
   QWidget& parent_;
   QWidget* widget_ = nullptr;
-  bool stands_in_corner_ = false;
+  bool in_corner_ = false;
   int pointer_ = forms::kPointerDefault;
   std::optional<std::pair<forms::Colour, forms::Colour>> colours_;  // as applied
 };
 
-// A view that knows its control by its kind.
+// A view that knows the type of its control.
 template <class Kind, class Base = ControlView>
 class ViewOf : public Base {
  public:
@@ -114,13 +109,12 @@ class ViewOf : public Base {
   Kind& control_;
 };
 
-// A press or movement of the mouse, its place in twips.
+// Its place is in twips.
 forms::MouseEvent ToMouseEvent(const QMouseEvent& event, Qt::MouseButtons buttons);
 
 QString ToQString(const std::string& text);
 
-// Whether a text is only the number that a label or box bears among those of its kind, such as "Label32". A
-// control may hold such a text until it is first used; it is not shown.
+// Whether a text is a default such as "Label32". A control may hold it until its first use; it is not shown.
 bool IsDesignText(const std::string& text);
 
 }  // namespace lectern::desktop

@@ -1,5 +1,4 @@
-// Fields that hold one text: boxes to type in, combo boxes, which also open a list to pick from, and the list
-// of drives.
+// Text boxes, combo boxes and the list of drives.
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -28,7 +27,7 @@ class TextBoxView : public ViewOf<forms::TextBox> {
     if constexpr (kHasSeveralLines) {
       edit_->setTabChangesFocus(true);
       connect(edit_, &QPlainTextEdit::textChanged, [this] {
-        if (GetEvents().AtWork()) return;  // the echo of Apply
+        if (GetEvents().AtWork()) return;  // Apply has set the text
         Typed(forms::WithCrLf(edit_->toPlainText().toStdString()));
       });
     } else {
@@ -64,7 +63,7 @@ class TextBoxView : public ViewOf<forms::TextBox> {
   std::string shown_;
 };
 
-// Turned by the wheel only while it has the focus, so that scrolling past it picks nothing.
+// Follows the wheel only while it has the focus, so that scrolling past it changes nothing.
 class ChooserWidget : public QComboBox {
  public:
   explicit ChooserWidget(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
@@ -85,10 +84,10 @@ class ComboView : public ViewOf<forms::ComboBox> {
   QWidget* Make(QWidget* parent) override {
     widget_ = new ChooserWidget(parent);
     widget_->setEditable(true);
-    // A screen reader reads the field inside, and would take its text for the name of the box.
+    // A screen reader reads the inner field, and would use its text as the name of the box.
     widget_->lineEdit()->setAccessibleName(ToQString(Control().AccessibleName()));
     widget_->setInsertPolicy(QComboBox::NoInsert);
-    widget_->setCompleter(nullptr);  // it would write more than the person did
+    widget_->setCompleter(nullptr);  // it would add text that the user has not typed
     connect(widget_->lineEdit(), &QLineEdit::textEdited, [this](const QString& text) {
       Act([this, typed = text.toStdString()] { Control().PersonTypes(typed); });
     });
@@ -110,7 +109,7 @@ class ComboView : public ViewOf<forms::ComboBox> {
 
   Ground GetGround() const override { return Ground::kField; }
 
-  // Enter picks the entry whose text was typed.
+  // Enter chooses the entry with the typed text.
   bool Needs(const QKeyEvent& key) const override { return KeyCode(key) == forms::kEnterKey; }
 
   QComboBox* widget_ = nullptr;

@@ -1,4 +1,4 @@
-// What is looked at: pictures, which may also be pressed, shapes, lines and progress bars.
+// Images, shapes, lines and progress bars.
 #include <QPainter>
 #include <QPixmap>
 #include <QProgressBar>
@@ -16,7 +16,6 @@ namespace lectern::desktop {
 
 namespace {
 
-// A picture, stretched to its place where the control says so.
 class ImageView : public ViewOf<forms::Image, ClickableView> {
   using ViewOf::ViewOf;
 
@@ -53,7 +52,7 @@ class ImageView : public ViewOf<forms::Image, ClickableView> {
   }
 
   forms::Picture shown_;
-  QPixmap scaled_;  // to the pixels of the screen, when it is painted
+  QPixmap scaled_;  // to screen pixels, made when first painted
 };
 
 class ShapeView : public ViewOf<forms::Shape> {
@@ -66,8 +65,7 @@ class ShapeView : public ViewOf<forms::Shape> {
   void Apply() override { Widget()->update(); }
   Ground GetGround() const override { return Ground::kNone; }
 
-  // A square or circle is as large as the place allows, in its middle. A figure without a colour of its own
-  // is an outline.
+  // A square or circle is centred and as large as possible. A figure without a colour is an outline.
   void Paint(QPainter& painter) const {
     const int kind = Control().FigureKind;
     QRectF area = OutlineOf(Widget()->rect());
@@ -100,7 +98,7 @@ class LineView : public ControlView {
   void Apply() override {}
 };
 
-// A bar without a text. A value past its maximum shows full.
+// A value above the maximum shows as a full bar.
 class ProgressView : public ViewOf<forms::ProgressBar> {
   using ViewOf::ViewOf;
 

@@ -1,6 +1,5 @@
 #include "ui/desktop/views/keys.h"
 
-#include <QKeySequence>
 #include <utility>
 
 #include "forms/control.h"
@@ -8,26 +7,18 @@
 namespace lectern::desktop {
 
 int KeyCode(const QKeyEvent& key) {
-  constexpr std::pair<int, int> kCodes[] = {{Qt::Key_Return, forms::kEnterKey},
-                                            {Qt::Key_Enter, forms::kEnterKey},
-                                            {Qt::Key_Escape, forms::kEscapeKey},
-                                            {Qt::Key_Backspace, 8},
-                                            {Qt::Key_Tab, 9},
-                                            {Qt::Key_Space, 32},
-                                            {Qt::Key_PageUp, 33},
-                                            {Qt::Key_PageDown, 34},
-                                            {Qt::Key_End, 35},
-                                            {Qt::Key_Home, 36},
-                                            {Qt::Key_Left, 37},
-                                            {Qt::Key_Up, 38},
-                                            {Qt::Key_Right, 39},
-                                            {Qt::Key_Down, 40},
-                                            {Qt::Key_Insert, 45},
-                                            {Qt::Key_Delete, 46}};
+  if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) return forms::kEnterKey;
+  if (key.key() == Qt::Key_Escape) return forms::kEscapeKey;
+  constexpr std::pair<int, int> kCodes[] = {
+      {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},    {Qt::Key_Space, 32}, {Qt::Key_PageUp, 33},
+      {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},   {Qt::Key_Home, 36},  {Qt::Key_Left, 37},
+      {Qt::Key_Up, 38},       {Qt::Key_Right, 39}, {Qt::Key_Down, 40},  {Qt::Key_Insert, 45},
+      {Qt::Key_Delete, 46},
+  };
   for (const auto& [qt, code] : kCodes) {
     if (key.key() == qt) return code;
   }
-  // Digits and letters have the code of the character, letters in upper case.
+  // The code of a digit or letter is that of the upper-case character.
   if (key.key() >= Qt::Key_0 && key.key() <= Qt::Key_9) return key.key();
   if (key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z) return key.key();
   constexpr int kFirstFunctionKey = 112;
@@ -88,7 +79,7 @@ bool IsKey(const QKeyEvent& key, const QKeySequence& named) {
 }
 
 bool MovesCaret(const QKeyEvent& key) {
-  return key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown;  // with the arrows between them
+  return key.key() >= Qt::Key_Home && key.key() <= Qt::Key_PageDown;  // the arrows are between them
 }
 
 }  // namespace lectern::desktop

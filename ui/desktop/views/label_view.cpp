@@ -1,4 +1,4 @@
-// Labels: text that fits its place, and stands in as the text of an option that has none of its own.
+// Labels with text fitted to their place. A click on one sets an option without a caption on its left.
 #include <QLabel>
 #include <QPainter>
 #include <utility>
@@ -17,26 +17,24 @@ namespace lectern::desktop {
 
 namespace {
 
-// A QLabel for screen readers, with its text fitted to its place on the screen.
+// A QLabel, for screen readers, that paints its text fitted to its place.
 class FittedLabel : public QLabel, public Spoken {
  public:
   explicit FittedLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
-  // Hides the text, or shows it. It is hidden where it has the colour of its ground.
+  // Hides a text that has the colour of its background.
   void SetHidden(bool hidden) {
     if (std::exchange(hidden_, hidden) != hidden) update();
   }
 
-  // Leaves room at both sides, for the ring of a label that can have the focus.
+  // Leaves space at both sides for the focus ring.
   void Indent(int pixels) { indent_ = pixels; }
 
-  void SetText(const QString& text, Qt::Alignment alignment) {
-    if (text != this->text()) {
-      setText(text);
-      fitted_ = false;
-      update();
-    }
-    if (alignment != this->alignment()) setAlignment(alignment);
+  void SetText(const QString& text) {
+    if (text == this->text()) return;
+    setText(text);
+    fitted_ = false;
+    update();
   }
 
  protected:
@@ -82,9 +80,9 @@ class LabelView : public ViewOf<forms::Label, ClickableView> {
 
  protected:
   QWidget* Make(QWidget* parent) override {
-    constexpr int kBesideText = 6;  // pixels
+    constexpr int kTextMargin = 6;  // pixels
     text_ = new FittedLabel(parent);
-    if (IsButton()) text_->Indent(kBesideText);
+    if (IsButton()) text_->Indent(kTextMargin);
     PrepareForInput(*text_);
     text_->is_echo = Control().IsEcho();
     return text_;
@@ -96,15 +94,16 @@ class LabelView : public ViewOf<forms::Label, ClickableView> {
     if (Control().Alignment == forms::kAlignCentre) alignment = Qt::AlignHCenter;
     text_->SetHidden(text_->palette().color(QPalette::WindowText).rgb() == GroundColor().rgb());
     const bool is_unused = Control().Caption == design_text_;
-    text_->SetText(is_unused ? QString() : ToQString(Control().Caption), alignment);
+    text_->SetText(is_unused ? QString() : ToQString(Control().Caption));
+    if (text_->alignment() != alignment) text_->setAlignment(alignment);
   }
 
-  bool SpeaksForItself() const override { return true; }
+  bool ShowsReadableText() const override { return true; }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::MouseButtonPress && !Control().Click && !Control().MouseDown &&
         static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton) {
-      forms::Control* const option = OptionBeside();
+      forms::Control* const option = OptionAtLeft();
       if (option != nullptr && option->RefusesPerson() == forms::Refusal::kNone) {
         Act([option] { option->PersonClicks(); });
         return true;
@@ -114,24 +113,22 @@ class LabelView : public ViewOf<forms::Label, ClickableView> {
   }
 
  private:
-  // The option without a caption to the left of the label, as close as its own text would be.
-  forms::Control* OptionBeside() const {
+  // The option without a caption that is close to the left edge of the label.
+  forms::Control* OptionAtLeft() const {
     constexpr int kNear = 8;  // pixels
     const QRect place = Place();
     for (forms::Control* sibling : Control().Parent().Children()) {
       auto* const option = dynamic_cast<forms::Option*>(sibling);
       if (option == nullptr || option->Caption != "") continue;
-      const QRect beside = PlaceOf(*option);
-      const int gap = place.left() - (beside.left() + beside.width());
+      const QRect at = PlaceOf(*option).adjusted(0, 0, 1, 1);
       const int middle = place.center().y();
-      if (std::abs(gap) <= kNear && middle >= beside.top() && middle <= beside.top() + beside.height()) {
+      if (std::abs(place.left() - at.right()) <= kNear && middle >= at.top() && middle <= at.bottom())
         return option;
-      }
     }
     return nullptr;
   }
 
-  const std::string design_text_;  // not shown; any other caption may be a name that a person gave
+  const std::string design_text_;  // not shown; a similar caption set later may be a name chosen by the user
   FittedLabel* text_ = nullptr;
 };
 

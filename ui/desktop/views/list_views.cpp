@@ -1,4 +1,4 @@
-// Lists in even rows: list boxes and file lists, and the list of folders.
+// List boxes, file lists and the list of folders.
 #include <QAbstractListModel>
 #include <QKeyEvent>
 #include <QListView>
@@ -34,15 +34,14 @@ class RowDelegate : public QStyledItemDelegate {
   }
 
  protected:
-  // The selection shows where the focus is; a frame around the row is not needed.
+  // No frame around the row: the selection already shows the focus.
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
   }
 };
 
-// A list that selects nothing by itself: it reports what the person does, and its view shows the selection
-// that results.
+// A list that reports actions and selects nothing by itself. Its view then shows the new selection.
 class ListWidget : public QListView {
  public:
   explicit ListWidget(QWidget* parent) : QListView(parent) {
@@ -57,12 +56,12 @@ class ListWidget : public QListView {
     setBackgroundRole(QPalette::Base);
   }
 
-  // Rows count from 0; -1 is below the last one.
+  // Rows count from 0; -1 is the space below the last row.
   std::function<void(int row, const QMouseEvent& mouse)> pressed;
   std::function<void(int row)> double_clicked;
   std::function<void(int row)> moved;  // by a key
 
-  // Selects the row, or nothing for -1. Scrolls to a row that was not selected before.
+  // Selects the row, or nothing for -1. Scrolls to a newly selected row.
   void ShowSelected(int row) {
     if (row == SelectedRow()) return;
     const QModelIndex index = row < 0 ? QModelIndex() : model()->index(row, 0);
@@ -74,7 +73,7 @@ class ListWidget : public QListView {
     }
   }
 
-  // Qt finds the row and makes it the current one.
+  // Reports the row that Qt finds.
   void keyboardSearch(const QString& text) override {
     const int selected = SelectedRow();
     QListView::keyboardSearch(text);
@@ -90,7 +89,7 @@ class ListWidget : public QListView {
   void mouseMoveEvent(QMouseEvent* /*event*/) override {}
   void mouseReleaseEvent(QMouseEvent* /*event*/) override {}
 
-  // Two quick presses on different rows are no double click.
+  // Two quick presses on different rows are two single presses.
   void mouseDoubleClickEvent(QMouseEvent* event) override {
     const int row = indexAt(event->position().toPoint()).row();
     if (row == pressed_row_ && event->button() == Qt::LeftButton) {
@@ -112,14 +111,14 @@ class ListWidget : public QListView {
     QListView::keyPressEvent(event);
   }
 
-  // Leaves empty, above and below, what is too low for one more row, so that no row is cut.
+  // Adds margins at the top and bottom so that only whole rows are visible.
   void updateGeometries() override {
     const int row = sizeHintForRow(0);
-    const QMargins kept_empty = viewportMargins();
-    const int height = viewport()->height() + kept_empty.top() + kept_empty.bottom();
+    const QMargins margins = viewportMargins();
+    const int height = viewport()->height() + margins.top() + margins.bottom();
     const int spare = row > 0 ? height % row : 0;
     const QMargins wanted(0, spare / 2, 0, spare - spare / 2);
-    if (wanted != kept_empty) setViewportMargins(wanted);
+    if (wanted != margins) setViewportMargins(wanted);
     QListView::updateGeometries();
   }
 
@@ -141,8 +140,8 @@ class ListWidget : public QListView {
   int pressed_row_ = -1;
 };
 
-// The control's items, read where they are shown, so that a long list costs what is seen of it. Items that
-// were added at the end join the others; any other change makes the list anew.
+// The control's items. Only visible items are read, so that long lists are cheap. Appended items are
+// inserted; any other change resets the model.
 class ItemModel : public QAbstractListModel {
  public:
   explicit ItemModel(const forms::ItemList& list) : list_(list) {}
@@ -153,7 +152,7 @@ class ItemModel : public QAbstractListModel {
     return role == Qt::DisplayRole ? ToQString(list_.List(index.row())) : QVariant();
   }
 
-  // Takes over the control's changes. Returns whether the list was made anew.
+  // Applies the control's changes. Returns whether the model was reset.
   bool Follow() {
     const int count = list_.ListCount();
     if (generation_ != list_.Generation()) {
@@ -200,7 +199,7 @@ class ListView : public ViewOf<forms::ItemList> {
     return widget_;
   }
 
-  // A list that is made anew stays scrolled as it was, as far as it can.
+  // After a reset the list keeps its scroll position if possible.
   void Apply() override {
     QScrollBar* const bar = widget_->verticalScrollBar();
     const int top = bar->value();
@@ -215,8 +214,7 @@ class ListView : public ViewOf<forms::ItemList> {
   ListWidget* widget_ = nullptr;
 };
 
-// The folders on the way to the one that is open, and those inside it, indented by their depth. A double
-// click or Enter opens one.
+// The open folder, its parents and its subfolders, indented by depth. A double click or Enter opens one.
 class FolderView : public ViewOf<forms::DirListBox> {
   using ViewOf::ViewOf;
 

@@ -10,15 +10,15 @@
 
 namespace lectern::desktop {
 
-// The letters by which the entries of one list are reached. An entry whose caption marks none gets a free
-// one, from the beginning of a word where possible.
+// The access keys in one menu. An entry whose caption marks none gets a free letter, from the beginning of a
+// word if possible.
 class MenuBarView::Letters {
  public:
   explicit Letters(const std::vector<forms::Menu*>& entries) {
     for (const forms::Menu* entry : entries) taken_.push_back(AccessKey(entry->Caption));
   }
 
-  // Returns null for an entry that marks one itself, and where none is free.
+  // Returns null for an entry that marks a letter itself, and if no letter is free.
   QChar For(const forms::Menu& entry) {
     if (AccessKey(entry.Caption) != 0) return {};
     const QString caption = ToQString(entry.Caption);
@@ -38,7 +38,7 @@ class MenuBarView::Letters {
   QList<int> taken_;
 };
 
-// An entry, which may open a list of others.
+// An entry or a submenu.
 class MenuBarView::Entry : public LayerView {
  public:
   Entry(forms::Menu& menu, WindowView& view, QAction& action, QChar letter)
@@ -46,7 +46,11 @@ class MenuBarView::Entry : public LayerView {
     menu_.Attach(this);
     action_.setObjectName(ToQString(menu_.FullName()));
     if (!menu_.Shortcut().empty()) action_.setShortcut(QKeySequence(ToQString(menu_.Shortcut())));
-    QObject::connect(&action_, &QAction::triggered, [this] { Chosen(); });
+    QObject::connect(&action_, &QAction::triggered, [this] {
+      if (menu_.RefusesPerson() != forms::Refusal::kNone) return;
+      Changed();  // Qt has toggled the check mark by itself
+      GetEvents().Deliver(menu_.HostWindow(), [this] { menu_.PersonClicks(); });
+    });
     Refresh();
   }
   ~Entry() override { menu_.Attach(nullptr); }
@@ -65,12 +69,6 @@ class MenuBarView::Entry : public LayerView {
   QString Marked(QString caption) const {
     const qsizetype at = letter_.isNull() ? -1 : caption.indexOf(letter_);
     return at < 0 ? caption : caption.insert(at, u'&');
-  }
-
-  void Chosen() {
-    if (menu_.RefusesPerson() != forms::Refusal::kNone) return;
-    Changed();  // Qt has toggled the mark by itself
-    GetEvents().Deliver(menu_.HostWindow(), [this] { menu_.PersonClicks(); });
   }
 
   forms::Menu& menu_;
@@ -93,14 +91,9 @@ void MenuBarView::AddEntries(forms::Container& from, WindowView& view, QWidget& 
   }
   Letters letters(menus);
   for (forms::Menu* menu : menus) {
-    QAction* action = nullptr;
-    if (menu->Children().empty()) {
-      action = new QAction(&to);
-    } else {
-      auto* const list = new QMenu(&to);
-      action = list->menuAction();
-      AddEntries(*menu, view, *list);
-    }
+    auto* const submenu = menu->Children().empty() ? nullptr : new QMenu(&to);
+    if (submenu != nullptr) AddEntries(*menu, view, *submenu);
+    QAction* const action = submenu == nullptr ? new QAction(&to) : submenu->menuAction();
     to.addAction(action);
     entries_.push_back(std::make_unique<Entry>(*menu, view, *action, letters.For(*menu)));
   }

@@ -17,7 +17,7 @@ class MenuBarView {
   MenuBarView(forms::Window& window, WindowView& view, QWidget& frame);
   ~MenuBarView();
 
-  // Puts the bar along the top of the window. Returns its height, in pixels.
+  // Places the bar at the top of the window. Returns its height in pixels.
   int Place(int width);
 
   void OpenFirst();

@@ -11,12 +11,7 @@ namespace lectern::desktop {
 
 namespace {
 
-bool IsEcho(QAccessibleInterface* shown) {
-  const auto* const spoken = shown == nullptr ? nullptr : dynamic_cast<const Spoken*>(shown->object());
-  return spoken != nullptr && spoken->is_echo;
-}
-
-// A panel, a picture or a label. It is a button where it can be pressed.
+// A panel, a picture or a label. It is a button if it can be pressed.
 class AccessiblePainting : public QAccessibleWidget {
  public:
   AccessiblePainting(QWidget& widget, const Spoken& spoken) : QAccessibleWidget(&widget), spoken_(spoken) {}
@@ -56,12 +51,12 @@ class AccessiblePainting : public QAccessibleWidget {
  private:
   const QLabel* Label() const { return qobject_cast<const QLabel*>(widget()); }
 
-  // What lies in it and is read out.
   QList<QAccessibleInterface*> SpokenChildren() const {
     QList<QAccessibleInterface*> spoken;
     for (int i = 0; i < QAccessibleWidget::childCount(); ++i) {
       QAccessibleInterface* const child = QAccessibleWidget::child(i);
-      if (!IsEcho(child)) spoken.append(child);
+      const auto* const own = child == nullptr ? nullptr : dynamic_cast<const Spoken*>(child->object());
+      if (own == nullptr || !own->is_echo) spoken.append(child);
     }
     return spoken;
   }

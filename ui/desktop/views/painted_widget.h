@@ -1,5 +1,4 @@
-// Widgets that the program paints itself, and what a screen reader learns of them: windows, panels, labels,
-// and pictures that can be pressed.
+// Widgets that the program paints itself, and their descriptions for screen readers.
 #pragma once
 
 #include <QWidget>
@@ -8,15 +7,13 @@
 
 namespace lectern::desktop {
 
-// What a widget of the program's own tells a screen reader, besides its name.
+// What a screen reader learns about such a widget, in addition to its name.
 struct Spoken {
-  // A click without a mouse; empty where clicks mean nothing.
-  std::function<void()> press;
-  // It repeats what another widget says, and is skipped.
-  bool is_echo = false;
+  std::function<void()> press;  // clicks without a mouse; empty if a click does nothing
+  bool is_echo = false;         // repeats the text of another widget and is skipped
 };
 
-// A widget that consists of what is painted on it, and of the ring when it has the focus.
+// Shows what `Paint` paints, and a ring while it has the focus.
 class PaintedWidget : public QWidget, public Spoken {
  public:
   using Paint = std::function<void(QPainter&, const QRect& exposed)>;
@@ -30,10 +27,10 @@ class PaintedWidget : public QWidget, public Spoken {
   Paint paint_;
 };
 
-// A widget that is only looked at: clicks fall through it.
+// A widget that mouse clicks pass through.
 PaintedWidget* MakeFigure(QWidget* parent, PaintedWidget::Paint paint);
 
-// From now on, describes such widgets to screen readers.
+// From now on describes these widgets and the program's windows to screen readers.
 void DescribePaintedWidgets();
 
 }  // namespace lectern::desktop

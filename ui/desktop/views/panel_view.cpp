@@ -34,11 +34,11 @@ class FrameView : public ViewOf<forms::Frame, PanelView> {
     Widget()->update();
   }
 
-  // The heading stands in the frame's upper edge. On a page of its own the page's tab shows it.
+  // Paints the caption at the upper edge. On the bench the tab of the page shows it instead.
   void Paint(QPainter& painter, const QRect& /*exposed*/) override {
     PaintEdges(painter);
     const QString caption = ToQString(Control().Caption);
-    if (StandsInTheCorner() || caption.trimmed().isEmpty()) return;
+    if (IsInCorner() || caption.trimmed().isEmpty()) return;
     constexpr int kIndent = 16;
     const QFontMetrics metrics(Widget()->font());
     const QRect heading(kIndent, 2, Widget()->width() - 2 * kIndent, metrics.height());
@@ -60,12 +60,8 @@ QWidget* PanelView::Make(QWidget* parent) {
 
 void PanelView::Refresh() {
   ClickableView::Refresh();
-  if (Widget() != nullptr) CastShadow();
-}
-
-// A panel that is there from the start is part of the window's face and lies flat.
-void PanelView::CastShadow() {
-  if (Control().ShownAt() == 0 || Control().Parent().Outer() != nullptr) return;
+  // A panel that is visible from the start is part of the window and has no shadow.
+  if (Widget() == nullptr || Control().ShownAt() == 0 || Control().Parent().Outer() != nullptr) return;
   if (shadow_ == nullptr) shadow_ = MakeFigure(Widget()->parentWidget(), PaintShadow);
   shadow_->setGeometry(Widget()->geometry().adjusted(-kShadow, -kShadow / 2, kShadow, kShadow));
   shadow_->setVisible(IsSeen());

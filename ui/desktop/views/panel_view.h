@@ -1,5 +1,4 @@
-// Panels: what other controls lie in. The views of what lies in a panel are made when the panel is first
-// seen.
+// The base of panels. The views inside a panel are made when the panel is first visible.
 #pragma once
 
 #include <memory>
@@ -27,17 +26,15 @@ class PanelView : public ClickableView {
 
   virtual void Paint(QPainter& painter, const QRect& exposed) = 0;
 
-  // Paints fine lines along the edges of the panel, except for those on an edge of what it lies in.
+  // Paints fine lines along the edges of the panel that are not on an edge of its parent.
   void PaintEdges(QPainter& painter) const;
 
  private:
-  void CastShadow();
-
   forms::Container& container_;
   std::unique_ptr<ChildViews> children_;
-  QWidget* shadow_ = nullptr;  // of a panel that was opened over its window
+  QWidget* shadow_ = nullptr;  // of a panel that has been opened over its window
   unsigned shown_at_ = 0;
-  QRgb ground_ = 0;  // as the children know it
+  QRgb ground_ = 0;  // as the children were last coloured
 };
 
 }  // namespace lectern::desktop

@@ -1,5 +1,4 @@
-// Picture boxes: panels that show a picture and what is drawn on it. One that a person draws on is drawn on
-// by keys too.
+// Picture boxes: panels that show a picture and drawings. A user can also draw with the keyboard.
 #include <QPainter>
 #include <algorithm>
 
@@ -13,19 +12,16 @@ namespace lectern::desktop {
 
 namespace {
 
-// A pen for drawing by keys: a cross on the surface. The arrows move it by 8 pixels, with Shift by 1; Space
-// puts it down and lifts it. While it is down, each pixel on its way is a movement of the mouse with its left
-// button held.
+// A pen for drawing with the keyboard, shown as a cross. The arrows move it by 8 pixels, or by 1 with Shift.
+// Space lowers and lifts it. While it is down, each pixel that it passes counts as a movement of the mouse
+// with the left button held.
 class KeyPen {
  public:
-  // What a press, or a movement with the button held, does at that pixel of the surface.
-  struct Strokes {
-    std::function<void(const QPoint&)> press;
-    std::function<void(const QPoint&)> move;
-  };
+  // Called for a press, or for a movement with the button held, at a pixel of the surface.
+  using Draw = std::function<void(const QPoint& place, bool presses)>;
 
   // Returns whether the key is the pen's.
-  bool HandleKey(const QKeyEvent& key, QWidget& surface, const Strokes& strokes) {
+  bool HandleKey(const QKeyEvent& key, QWidget& surface, const Draw& draw) {
     constexpr int kStep = 8;
     const QPoint way = DirectionOf(key.key());
     const bool is_space = key.key() == Qt::Key_Space && key.modifiers() == Qt::NoModifier;
@@ -33,43 +29,43 @@ class KeyPen {
     const bool moves = !way.isNull() && (modifiers == Qt::NoModifier || modifiers == Qt::ShiftModifier);
     const QRect seen = surface.visibleRegion().boundingRect();
     if ((!is_space && !moves) || seen.isEmpty()) return false;
-    TakeUp(surface);
+    Show(surface);
     if (is_space) {
       if (key.isAutoRepeat()) return true;
       down_ = !down_;
-      if (down_) strokes.press(place_);
+      if (down_) draw(place_, true);
       return true;
     }
     for (int steps = modifiers == Qt::ShiftModifier ? 1 : kStep; steps > 0; --steps) {
       const QPoint next = place_ + way;
       if (!seen.contains(next)) break;
       place_ = next;
-      if (down_) strokes.move(next);
+      if (down_) draw(next, false);
     }
     surface.update(Cross());
     return true;
   }
 
-  // The keyboard has come to the surface. The pen is where it was last, unless that is out of sight.
-  void TakeUp(QWidget& surface) {
+  // Called when the surface gets the focus by keyboard. The pen keeps its place if that is visible.
+  void Show(QWidget& surface) {
     const QRect seen = surface.visibleRegion().boundingRect();
     surface.update(Cross());
     if (place_.isNull() || !seen.contains(place_)) place_ = seen.center();
-    in_hand_ = true;
+    shown_ = true;
     surface.update(Cross());
   }
 
-  // The focus has gone elsewhere, or the mouse has taken over.
-  void PutAway(QWidget& surface) {
-    if (!in_hand_) return;
-    in_hand_ = false;
+  // Called when the focus leaves or the mouse is used.
+  void Hide(QWidget& surface) {
+    if (!shown_) return;
+    shown_ = false;
     down_ = false;
     surface.update(Cross());
   }
 
-  // The cross is dark with a light edge, to be seen on every colour.
+  // The cross is dark with a light edge, so that it is visible on every colour.
   void Paint(QPainter& painter) const {
-    if (!in_hand_) return;
+    if (!shown_) return;
     painter.save();
     for (const auto& [colour, width] : {std::pair(Qt::white, 3), std::pair(down_ ? Qt::red : Qt::black, 1)}) {
       painter.setPen(QPen(colour, width));
@@ -81,8 +77,8 @@ class KeyPen {
   }
 
  private:
-  static constexpr int kArm = 9;  // pixels of the cross, from its middle
-  static constexpr int kGap = 3;  // pixels left free in its middle, where one draws
+  static constexpr int kArm = 9;  // from the centre of the cross, in pixels
+  static constexpr int kGap = 3;  // left free at the centre
 
   QRect Cross() const {
     constexpr int kReach = kArm + 2;
@@ -90,7 +86,7 @@ class KeyPen {
   }
 
   QPoint place_;
-  bool in_hand_ = false;
+  bool shown_ = false;
   bool down_ = false;
 };
 
@@ -133,33 +129,26 @@ class PictureBoxView : public ViewOf<forms::PictureBox, PanelView> {
 
   bool HandleKey(const QKeyEvent& key) override {
     if (!IsSurface()) return PanelView::HandleKey(key);
-    const auto press = [this](const QPoint& place) {
-      Act([this, mouse = LeftButtonAt(place)] { Control().PersonPresses(mouse); });
-    };
-    const auto move = [this](const QPoint& place) {
-      Act([this, mouse = LeftButtonAt(place)] { Control().PersonMoves(mouse); });
-    };
-    return pen_.HandleKey(key, *Widget(), {press, move});
+    return pen_.HandleKey(key, *Widget(), [this](const QPoint& place, bool presses) {
+      forms::MouseEvent mouse;
+      mouse.button = 1;
+      mouse.x = place.x() * forms::kTwipsPerPixel;
+      mouse.y = place.y() * forms::kTwipsPerPixel;
+      mouse = InScale(mouse);
+      Act([&] { presses ? Control().PersonPresses(mouse) : Control().PersonMoves(mouse); });
+    });
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (watched == Widget() && IsSurface()) {
       const QEvent::Type type = event->type();
-      if (type == QEvent::FocusOut || type == QEvent::MouseButtonPress) pen_.PutAway(*Widget());
+      if (type == QEvent::FocusOut || type == QEvent::MouseButtonPress) pen_.Hide(*Widget());
       if (type == QEvent::FocusIn) {
         const Qt::FocusReason reason = static_cast<const QFocusEvent&>(*event).reason();
-        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) pen_.TakeUp(*Widget());
+        if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) pen_.Show(*Widget());
       }
     }
     return PanelView::eventFilter(watched, event);
-  }
-
-  forms::MouseEvent LeftButtonAt(const QPoint& place) const {
-    forms::MouseEvent mouse;
-    mouse.button = 1;
-    mouse.x = place.x() * forms::kTwipsPerPixel;
-    mouse.y = place.y() * forms::kTwipsPerPixel;
-    return InScale(mouse);
   }
 
   KeyPen pen_;

@@ -1,6 +1,6 @@
-// Horizontal scroll bars. A drag counts when the thumb is let go, or at every position that it passes;
-// meanwhile a tooltip shows the value under it. A value beyond the range has its thumb at the end. A bar with
-// keys of its own is stepped by them wherever the focus is.
+// Horizontal scroll bars. A drag takes effect when the thumb is released or at every position, as the control
+// demands; a tooltip shows the value. The thumb for a value outside the range is at the end. A bar's own keys
+// work wherever the focus is.
 #include <QCursor>
 #include <QKeyEvent>
 #include <QPainter>
@@ -18,7 +18,7 @@ namespace lectern::desktop {
 
 namespace {
 
-// Makes one step for each notch of the wheel, and has a ring around it while it has the focus.
+// Makes one step for each notch of the wheel, and shows a ring while it has the focus.
 class SteppedBar : public QScrollBar {
  public:
   explicit SteppedBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
@@ -35,7 +35,7 @@ class SteppedBar : public QScrollBar {
     event->accept();
   }
 
-  // Up and Down step it as well, though it lies across.
+  // Up and Down step it as well.
   void keyPressEvent(QKeyEvent* event) override {
     const QPoint way = DirectionOf(event->key());
     const int steps = way.x() + way.y();
@@ -67,12 +67,16 @@ class ScrollBarView : public ViewOf<forms::HScrollBar> {
     connect(widget_, &QScrollBar::valueChanged, [this](int value) {
       if (Control().InRange(value)) Act([this, value] { Control().PersonScrolls(value); });
     });
-    connect(widget_, &QScrollBar::sliderMoved, [this](int value) { ShowValue(value); });
+    connect(widget_, &QScrollBar::sliderMoved, [this](int value) {
+      const QString name = ToQString(Control().AccessibleName());
+      const QString number = QString::number(Control().ShownNumber(value));
+      QToolTip::showText(QCursor::pos(), name.isEmpty() ? number : name + u' ' + number, widget_);
+    });
     return widget_;
   }
 
   void Apply() override {
-    if (widget_->isSliderDown()) return;  // the person holds the thumb
+    if (widget_->isSliderDown()) return;  // the user is dragging the thumb
     widget_->setRange(Control().Min, std::max(Control().Max(), Control().Min()));
     widget_->setValue(Control().Value);
   }
@@ -81,17 +85,9 @@ class ScrollBarView : public ViewOf<forms::HScrollBar> {
     const bool on = IsKey(key, QKeySequence(ToQString(Control().KeyOn())));
     const bool back = IsKey(key, QKeySequence(ToQString(Control().KeyBack())));
     if (!on && !back) return false;
-    if (widget_->isEnabled()) {
-      widget_->triggerAction(on ? QAbstractSlider::SliderSingleStepAdd
-                                : QAbstractSlider::SliderSingleStepSub);
-    }
+    if (widget_->isEnabled())
+      widget_->triggerAction(on ? QScrollBar::SliderSingleStepAdd : QScrollBar::SliderSingleStepSub);
     return true;
-  }
-
-  void ShowValue(int value) {
-    const QString name = ToQString(Control().AccessibleName());
-    const QString number = QString::number(Control().ShownNumber(value));
-    QToolTip::showText(QCursor::pos(), name.isEmpty() ? number : name + u' ' + number, widget_);
   }
 
   QScrollBar* widget_ = nullptr;

@@ -1,4 +1,4 @@
-// Makes the view that fits a control's kind. How a kind of control is shown is known in its own file alone.
+// Makes the view for a control. Each kind of view is defined in its own file.
 #pragma once
 
 #include <QWidget>
@@ -11,17 +11,15 @@ namespace lectern::desktop {
 
 using ViewMaker = std::unique_ptr<ControlView>(forms::Control& control, WindowView& window, QWidget& parent);
 
-// Returns nullptr for menus and timers, which lie in no panel.
+// Returns nullptr for menus and timers, which are in no panel.
 ViewMaker MakeView;
 
-// The maker of a kind, as its file defines it.
 template <class View, class Kind>
 std::unique_ptr<ControlView> MakeViewOf(forms::Control& control, WindowView& window, QWidget& parent) {
   return std::make_unique<View>(dynamic_cast<Kind&>(control), window, parent);
 }
 
-// The makers of all kinds.
-// Requires: the control is of that kind.
+// Each maker requires a control of its kind.
 extern ViewMaker* const kMakeButtonView;  // button_views.cpp
 extern ViewMaker* const kMakeOptionView;
 extern ViewMaker* const kMakeLabelView;  // label_view.cpp

@@ -22,12 +22,7 @@
 
 namespace lectern::desktop {
 
-namespace {
-
-// What a desktop puts around a window, at most: borders and a title.
-constexpr QSize kDecoration(8, 36);
-
-}  // namespace
+constexpr QSize kDecoration(8, 36);  // the most that a desktop adds to a window for borders and a title
 
 class WindowView::FrameWidget : public QWidget {
  public:
@@ -35,8 +30,13 @@ class WindowView::FrameWidget : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override {
-    event->ignore();  // the program decides what becomes of the window
-    view_.CloseAsked();
+    event->ignore();  // the program decides whether to close the window
+    if (view_.GetEvents().AtWork()) return;
+    view_.GetEvents().RunLater([view = QPointer<WindowView>(&view_)] {
+      if (view == nullptr) return;      // the close box was pressed twice
+      const auto close = view->close_;  // the view may be destroyed meanwhile
+      close(view->window_);
+    });
   }
 
   void keyPressEvent(QKeyEvent* event) override {
@@ -47,15 +47,19 @@ class WindowView::FrameWidget : public QWidget {
 
   bool event(QEvent* event) override {
     if (event->type() == QEvent::ShortcutOverride) {
-      // Qt would let a menu and a button with the same letter take turns.
+      // Qt would alternate between a menu and a button with the same letter.
       const int letter = AccessKey(static_cast<const QKeyEvent&>(*event));
       if (letter != 0 && view_.HasAccessKey(letter)) {
         event->accept();
         return true;
       }
     }
-    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ApplicationFontChange) {
-      view_.ThemeChanged();
+    const bool theme_changes =
+        event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ApplicationFontChange;
+    if (theme_changes && view_.children_) {
+      view_.Changed();
+      view_.children_->Recolour();
+      if (!view_.GetEvents().AtWork()) view_.GetEvents().Run([] {});
     }
     return QWidget::event(event);
   }
@@ -70,13 +74,13 @@ WindowView::WindowView(forms::Window& window, Events& events, std::function<void
   LayerView::Changed();
 }
 
-// The focus leaves the widgets while all of them are whole.
+// Moves the focus out of the window while all widgets are intact.
 WindowView::~WindowView() {
   window_.Attach(nullptr);
   if (frame_) frame_->hide();
 }
 
-// A pointer is shown at once, as it is about the very handler that runs.
+// The pointer changes at once, because it shows that the current handler is busy.
 void WindowView::Changed() {
   LayerView::Changed();
   if (frame_) ApplyPointer();
@@ -126,27 +130,27 @@ QWidget& WindowView::Face() {
   return *face_;
 }
 
-// The window's size is that of its client area. The menu bar takes its height above it.
+// The window's size is that of its client area, below the menu bar.
 void WindowView::ApplySize() {
   const QSize client(ToPixels(window_.ClientWidth()), ToPixels(window_.ClientHeight()));
   const int above = menu_bar_ ? menu_bar_->Place(client.width()) : 0;
-  const QSize room = frame_->screen()->availableSize() - kDecoration;
+  const QSize available = frame_->screen()->availableSize() - kDecoration;
   const bool resized = face_->size() != client;
-  const QSize size = fitted_->Place(client, CoveredPart(window_, client), above, room);
+  const QSize size = fitted_->Place(client, CoveredPart(window_, client), above, available);
   if (frame_->size() != size) frame_->setFixedSize(size);
   if (resized && children_) children_->MarkStale();
 }
 
-// Moves the frame only when the program moves the window: where a person has put it, it stays. A frame that
-// takes all the room begins where the room does.
+// Moves the frame only when the program moves the window, because the user may have moved it. A frame that
+// fills the screen starts at the screen's edge.
 void WindowView::ApplyPlace() {
   const std::pair<double, double> wanted{window_.Left, window_.Top};
   if (place_ == wanted) return;
   place_ = wanted;
-  const QRect room = frame_->screen()->availableGeometry();
-  const QSize left_over = room.size() - kDecoration - frame_->size();
-  const int left = left_over.width() > 0 ? std::max(ToPixels(wanted.first), 0) : room.left();
-  const int top = left_over.height() > 0 ? std::max(ToPixels(wanted.second), 0) : room.top();
+  const QRect available = frame_->screen()->availableGeometry();
+  const QSize left_over = available.size() - kDecoration - frame_->size();
+  const int left = left_over.width() > 0 ? std::max(ToPixels(wanted.first), 0) : available.left();
+  const int top = left_over.height() > 0 ? std::max(ToPixels(wanted.second), 0) : available.top();
   frame_->move(left, top);
 }
 
@@ -173,20 +177,6 @@ void WindowView::ApplyColours() {
   if (children_) children_->Recolour();
 }
 
-void WindowView::ThemeChanged() {
-  if (!children_) return;
-  Changed();
-  children_->Recolour();
-  if (!GetEvents().AtWork()) GetEvents().Run([] {});
-}
-
-void WindowView::Arrange() {
-  children_->Stack();
-  std::vector<ControlView*> order;
-  children_->AppendInTabOrder(order);
-  SetTabOrder(order);
-}
-
 void WindowView::WantsToCommit(ControlView& view) {
   if (std::find(uncommitted_.begin(), uncommitted_.end(), &view) == uncommitted_.end()) {
     uncommitted_.push_back(&view);
@@ -199,7 +189,12 @@ void WindowView::Commit() {
 
 void WindowView::Settle() {
   if (!frame_ || frame_->isHidden()) return;
-  if (std::exchange(needs_arranging_, false)) Arrange();
+  if (std::exchange(needs_arranging_, false)) {
+    children_->Stack();
+    std::vector<ControlView*> order;
+    children_->AppendInTabOrder(order);
+    SetTabOrder(order);
+  }
   focus_->Settle();
 }
 
@@ -237,15 +232,6 @@ bool WindowView::PressAccessKey(int letter) {
   if (button->RefusesPerson() != forms::Refusal::kNone) return true;
   GetEvents().Deliver(window_, [button] { button->PersonClicks(); });
   return true;
-}
-
-void WindowView::CloseAsked() {
-  if (GetEvents().AtWork()) return;
-  GetEvents().RunLater([view = QPointer<WindowView>(this)] {
-    if (view == nullptr) return;  // the close box was pressed twice
-    const auto close = view->close_;
-    close(view->window_);
-  });
 }
 
 bool WindowView::HandleKey(const QKeyEvent& key) {

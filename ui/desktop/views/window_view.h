@@ -1,8 +1,8 @@
-// A window on the screen: its title, its place, its menu bar, its face with the controls, and the focus. The
-// frame is made when the window is first shown.
+// A window on the screen: its title, its place, its menu bar, its controls and the focus. The frame is made
+// when the window is first shown.
 //
-// The view is destroyed with its window. The widgets of the window must not be in use then: a close box asks
-// for the closing by `Events::RunLater`, and nothing else closes a window.
+// The view is destroyed with its window, whose widgets must not be in use then. Therefore the close box
+// closes the window by `Events::RunLater`, and nothing else closes it.
 #pragma once
 
 #include <QKeyEvent>
@@ -26,8 +26,8 @@ class WindowFocus;
 
 class WindowView : public QObject, public LayerView {
  public:
-  // `close` is called when the person has pressed the close box, in an event of its own. It may destroy the
-  // window and this view.
+  // Calls `close` in a separate event after the close box is pressed. It may destroy the window and this
+  // view.
   WindowView(forms::Window& window, Events& events, std::function<void(forms::Window&)> close);
   ~WindowView() override;
 
@@ -35,17 +35,12 @@ class WindowView : public QObject, public LayerView {
   void Refresh() override;
   void TakeFocus() override;
 
-  // Ahead of an event: takes over what the person did without one.
-  void Commit();
+  void Commit();        // before an event: copies pending changes to the controls
+  void Settle();        // after an event: stacks the widgets and sets the tab order and the focus
+  void FocusArrived();  // after the focus has moved to another widget of the window
 
-  // After an event: stacks what overlaps, and puts the focus where it belongs.
-  void Settle();
-
-  // The keyboard's focus has moved to another widget of the window.
-  void FocusArrived();
-
-  QWidget* Frame() const { return frame_.get(); }  // nullptr until it was first shown
-  QWidget& Face();                                 // the frame without the menu bar
+  QWidget* Frame() const { return frame_.get(); }  // nullptr until the window is first shown
+  QWidget& Face();                                 // the part of the frame with the controls
   bool IsOf(const forms::Window& window) const { return &window_ == &window; }
 
   // For the views of the controls.
@@ -54,16 +49,15 @@ class WindowView : public QObject, public LayerView {
   void FocusIsWanted();
   void WantsToCommit(ControlView& view);
 
-  // Presses the button whose caption marks that letter. Returns whether there is one. Of several panels the
-  // one on top comes first, and a button always comes before a menu.
+  // Presses the button with that access key. Returns whether there is one. The top panel comes first, and a
+  // button always comes before a menu.
   bool PressAccessKey(int letter);
   bool HasAccessKey(int letter) const { return ButtonWith(letter) != nullptr; }
 
-  // Handles a key that counts wherever the focus is. Returns whether it does.
+  // Handles a key that works wherever the focus is. Returns whether it did.
   bool HandleKey(const QKeyEvent& key);
 
-  // The factor by which pages show their text larger than it is set. Lasts as long as the window. 0 steps
-  // return to the size that is set.
+  // The factor that enlarges the text of pages. It is kept as long as the window. 0 steps return to 1.
   double Enlargement() const;
   void Enlarge(int steps);
 
@@ -74,13 +68,8 @@ class WindowView : public QObject, public LayerView {
   void ApplyPlace();
   void ApplyPointer();
   void ApplyColours();
-  void Arrange();
   forms::Control* ButtonWith(int letter) const;
-
-  // What reaches the frame itself.
-  void ThemeChanged();
-  void CloseAsked();
-  bool KeyPressed(const QKeyEvent& key);
+  bool KeyPressed(const QKeyEvent& key);  // in the frame itself
 
   forms::Window& window_;
   std::function<void(forms::Window&)> close_;
@@ -88,8 +77,7 @@ class WindowView : public QObject, public LayerView {
   std::unique_ptr<ChildViews> children_;
   std::unique_ptr<WindowFocus> focus_;
   std::unique_ptr<FittedFace> fitted_;
-  // Goes before the views, so that its widgets never report to one that is gone.
-  std::unique_ptr<QWidget> frame_;
+  std::unique_ptr<QWidget> frame_;  // destroyed before the views, because its widgets report to them
   QWidget* face_ = nullptr;
   std::vector<ControlView*> uncommitted_;
   std::optional<std::pair<double, double>> place_;  // as applied, in twips
