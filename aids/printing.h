@@ -45,7 +45,8 @@ class PagePrinting {
   std::function<forms::Window&()> page_;
 };
 
-// A window with one picture and a button that prints it. No control opens it; only the routine does.
+// A window with one picture and a button that prints it. No control opens it; only the routine
+// PrintPaintPicture does.
 class PrintedPicture {
  public:
   explicit PrintedPicture(forms::Window& window);

@@ -40,10 +40,9 @@ class ConcordanceViewer {
   forms::Label lblwords{frmc_, "lblwords", {.caption = "Words"}};  // heading of the words
   // In upper case.
   forms::ListBox lstc{frmc_, "lstc", {.name = "Words of the concordance", .sorted = true}};
-  forms::Label lblw{frmc_, "lblw", {.caption = "click on word"}};  // the chosen word
-  forms::Label lblmatches2{
-      frmc_, "lblmatches2", {.caption = "Matches "}};     // in front of the number of verses
-  forms::Label text6{frmc_, "text6", {.caption = "00"}};  // number of its verses
+  forms::Label lblw{frmc_, "lblw", {.caption = "click on word"}};           // the chosen word
+  forms::Label lblmatches2{frmc_, "lblmatches2", {.caption = "Matches "}};  // in front of text6
+  forms::Label text6{frmc_, "text6", {.caption = "00"}};                    // number of its verses
   forms::ListBox lstc2{frmc_, "lstc2", {.name = "Verses of the word"}};
   forms::CommandButton Command9{frmc_, "Command9", {.caption = "Close Concordance", .is_cancel = true}};
 
@@ -71,7 +70,7 @@ class ConcordanceEditing {
                      TextSearch& the_search, ResultNavigation& the_results, ConcordanceViewer& the_viewer);
 
   forms::CommandButton Command21{frmc_, "Command21", {.caption = "Delete Word/Phrase"}};
-  // On the builder's panel.
+  // On the builder's panel: cuts the concordance at its true end.
   forms::CommandButton Command18{
       Frame2_, "Command18", {.caption = "Command18", .name = "Cut the file back to its true end"}};
 

@@ -28,7 +28,7 @@ namespace {
 
 constexpr std::string_view kDigits = "0123456789";
 
-// Leaves all from the chapter's first digit on in `chapter`.
+// Divides a reference at the chapter's first digit; `chapter` still holds the verse.
 std::optional<Entry> SplitAtChapter(std::string_view text, std::size_t skipped) {
   const std::size_t digit = text.find_first_of(kDigits, text::ByteOf(text, skipped + 1));
   if (digit == std::string_view::npos) return std::nullopt;

@@ -78,8 +78,8 @@ bool TermFinder::MatchesWord(const char* place) const {
   return term_.size() <= kWord || Matches(place);
 }
 
-// Passes on for each place of a block whether the term may be there. The compiler vectorizes this loop, as it
-// has no branch.
+// Calls `take` for each place of a block with whether the term may be there. The compiler vectorizes this
+// loop, as it has no branch.
 template <std::size_t kPlaces, class Take>
 void TermFinder::Sift(const char* block, Take take) const {
   const auto* const bytes = reinterpret_cast<const unsigned char*>(block);
