@@ -7,9 +7,6 @@
 
 namespace lectern::gallery {
 
-using base::ErrorNumber;
-using base::RunTimeError;
-
 namespace {
 
 constexpr int kSource = 1;  // slots
@@ -30,11 +27,11 @@ void BookConverter::Command33_Click() {
   }
   files::FileSlots& slots = form_.Slots();
   const std::string scratch = Dir2.Path + "\\TEMP.TXT";
-  LaySourceDown(scratch);
+  WriteSource(scratch);
   slots.OpenForReading(kSource, scratch);
   NME.Caption = ReadBookName();
   const std::string book_file = Dir2.Path + "\\" + NME.Caption() + ".TXT";
-  // ODDITY(converted-twice-doubles): opened behind what an earlier conversion wrote.
+  // ODDITY(converted-twice-doubles): appends to what an earlier conversion wrote.
   slots.OpenForAppending(kBook, book_file);
   slots.PrintLine(kBook, NME.Caption());
   ConvertVerses();
@@ -46,8 +43,8 @@ void BookConverter::Command33_Click() {
   File2.Refresh();
 }
 
-// Line by line, so that each line's encoding is its own.
-void BookConverter::LaySourceDown(const std::string& scratch) {
+// Writes the source line by line, because each line has its own encoding.
+void BookConverter::WriteSource(const std::string& scratch) {
   files::FileSlots& slots = form_.Slots();
   slots.OpenForAppending(kSource, scratch);
   std::string_view left = RTB1.Text();
@@ -59,7 +56,7 @@ void BookConverter::LaySourceDown(const std::string& scratch) {
   slots.Close(kSource);
 }
 
-// The line behind the header and a blank line, or behind two blank lines.
+// Returns the line after the header and a blank line, or after two blank lines.
 std::string BookConverter::ReadBookName() {
   files::FileSlots& slots = form_.Slots();
   std::string line;
@@ -79,25 +76,21 @@ void BookConverter::ConvertVerses() {
   while (!slots.EndOfFile(kSource)) {
     std::string line(slots.ReadLine(kSource));
     if (line.starts_with('-')) {
-      // ODDITY(dash-counts-a-chapter): a rule between chapters counts as one, and the number of the next is
-      // one too high; readers count chapter lines and never read the number.
+      // ODDITY(dash-counts-a-chapter): a rule between chapters counts as a chapter, so that the next number
+      // is too high. It does no harm: the number of a chapter line is never read.
       ++chapter;
     } else if (line.starts_with('[')) {
-      line = WholeVerse(line.substr(1));
+      line.erase(0, 1);
+      // A verse that is very short on its first line continues on the next one.
+      constexpr std::size_t kShortestVerse = 10;
+      if (text::Length(line) < kShortestVerse) line += slots.ReadLine(kSource);
       const std::size_t bracket = line.find(']');
-      if (bracket == std::string::npos) throw RunTimeError(ErrorNumber::kInvalidCall);
+      if (bracket == std::string::npos) throw base::RunTimeError(base::ErrorNumber::kInvalidCall);
       const std::string number = line.substr(0, bracket);
       if (number == "1") slots.PrintLine(kBook, "Chapter " + std::to_string(++chapter));
       slots.PrintLine(kBook, number + "." + line.substr(bracket + 1));
     }
   }
-}
-
-// A verse of which there is next to nothing on its first line goes on on the next one.
-std::string BookConverter::WholeVerse(std::string line) {
-  constexpr std::size_t kShortestVerse = 10;
-  if (text::Length(line) < kShortestVerse) line += form_.Slots().ReadLine(kSource);
-  return line;
 }
 
 }  // namespace lectern::gallery

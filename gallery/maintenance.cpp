@@ -37,25 +37,24 @@ Maintenance::Picked Maintenance::FindPicked() {
   for (int i = kSlotsOnPage - 1; i >= 0; --i) {
     if (browser_.lblp(i).ForeColor == kPickedColour) slot = i;
   }
-  // ODDITY(no-pick-is-the-first): with no picture picked the tools take the first of the page.
+  // ODDITY(no-pick-is-the-first): if no picture is selected, the tools use the first one on the page.
   return {slot, catalogue_.PageStart() + slot};
 }
 
-// Draws the strip from the catalogue as it is now, on the page it was on.
+// Redraws the given page of the strip from the catalogue.
 void Maintenance::ShowCatalogue(const std::string& page) {
   catalogue_.ListBookPictures();
   catalogue_.lblendpic.Caption = "";
   catalogue_.lblendpic.Caption = page;
 }
 
-// Takes every record of the catalogue in the order of the file, its name without the blanks at its end, to
-// `decide`, which keeps it or not.
+// Passes every record, its name trimmed at the end, to `decide`, which keeps it or not.
 void Maintenance::Rewrite(const std::function<void(const PictureRecord&)>& decide) {
   files::FileSlots& slots = reader_.form.Slots();
   const std::string page = catalogue_.lblendpic.Caption;
   const std::string fresh = reader_.DataFile("pics22.dat");
-  // ODDITY(leftover-of-a-failed-rewrite): what an action that failed left in the new file stays at its top,
-  // so that those records stand twice in the catalogue.
+  // ODDITY(leftover-of-a-failed-rewrite): records that a failed action left in the new file stay at its
+  // start, so the catalogue has them twice.
   slots.OpenForAppending(kNew, fresh);
   slots.OpenForReading(kOld, catalogue_.CatalogueFile());
   while (!slots.EndOfFile(kOld)) {
@@ -78,8 +77,8 @@ void Maintenance::Command49_Click() {
   files::FileSlots& slots = reader_.form.Slots();
   const std::string page = catalogue_.lblendpic.Caption;
   slots.OpenForAppending(kOld, catalogue_.CatalogueFile());
-  // ODDITY(doubled-credit): the third box is meant for a bare name; after a click on a picture it holds a
-  // whole credit line, and the prefix stands twice.
+  // ODDITY(doubled-credit): the third box is meant for a name. After a click on a picture it holds a whole
+  // credit line, and the prefix is written twice.
   WritePictureRecord(
       slots, kOld,
       {catalogue_.selfile(0).Text, catalogue_.selfile(1).Text, "PICTURES BY: " + catalogue_.selfile(2).Text});
@@ -94,8 +93,8 @@ void Maintenance::Command45_Click() {
       Keep(record);
       return;
     }
-    // ODDITY(remove-first-of-the-name): the first record of the name goes, in whichever book it stands and
-    // also where it is the only one; and a later picture that is really called "done" goes with it.
+    // ODDITY(remove-first-of-the-name): removes the first record of the name, in any book and even if it is
+    // the only one. A later picture that is really called "done" is removed too.
     sought = "done";
   });
   browser_.ResetPictureLabels();
@@ -113,40 +112,34 @@ void Maintenance::Command47_Click() {
     slots.OpenForAppending(kRemoved, reader_.DataFile("picsremoved.dat"));
     WritePictureRecord(slots, kRemoved, record);
     slots.Close(kRemoved);
-    // ODDITY(remove-all-wants-a-path): the picture that is moved away lies in the folder of the text, in a
-    // folder of its name, and is called "jpg"; where there is none, the action fails, the catalogue staying
-    // as it was, and ends the program.
+    // ODDITY(remove-all-wants-a-path): the picture to move is expected as a file "jpg" in a folder of its
+    // name in the folder of the text. If it is missing, the program ends and the catalogue stays as it was.
     reader_.form.Files().Rename(reader_.Dir3.Path + "\\" + kept_name + "\\jpg",
                                 reader_.Dir3.Path + "\\rem\\" + kept_name + "\\jpg");
   });
   browser_.ResetPictureLabels();
 }
 
-// Takes the record of the held name out and puts it back behind that of the trigger name. Both stand in one
-// chapter and in this order, or something is lost.
+// Moves the record `held_name` behind the record `trigger_name`.
 void Maintenance::Move(const std::string& held_name, const std::string& trigger_name) {
   std::optional<PictureRecord> held;
   const bool holds = !held_name.empty();
   Rewrite([&](const PictureRecord& record) {
     if (holds && record.name == held_name) {
-      // ODDITY(move-loses-a-record): what is held is written behind the trigger alone. Where that came
-      // first in the file, or never comes, or where the name stands again before it, the record is lost.
+      // ODDITY(move-loses-a-record): the held record is lost if the trigger is not behind it in the file, or
+      // if another record of its name comes first.
       held = record;
       return;
     }
     Keep(record);
     if (!holds || record.name != trigger_name) return;
-    if (held) {
-      Keep(*held);
-    } else {
-      reader_.form.Slots().PrintLine(kNew, ",,");
-    }
+    held ? Keep(*held) : reader_.form.Slots().PrintLine(kNew, ",,");
   });
   browser_.ResetPictureLabels();
 }
 
-// ODDITY(mark-after-a-move): the mark goes with the picture but from the first slot, where it is lost; from
-// the last slot it goes to the number above the first one, which stays red.
+// ODDITY(mark-after-a-move): the mark follows the picture, except from the first slot, where it is lost, and
+// from the last slot, where it goes to the number above the first slot, which stays red.
 void Maintenance::SSCommand1_Click() {
   const Picked picked = FindPicked();
   Move(NameAt(picked.index - 1), NameAt(picked.index));

@@ -5,7 +5,6 @@
 #include "base/errors.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
-#include "gallery/picture_catalogue.h"
 
 namespace lectern::gallery {
 
@@ -13,6 +12,7 @@ namespace {
 
 constexpr int kOld = 1;  // slots
 constexpr int kNew = 2;
+constexpr int kEmpty = 2;
 
 }  // namespace
 
@@ -27,15 +27,15 @@ void OldCatalogue::ConvertPicsDat() {
   enum class Expected { kCredit, kName, kPlace };
   files::FileSlots& slots = reader_.form.Slots();
   const base::Ignoring ignore;
-  ignore([&] { reader_.form.Files().DeleteKeepingBackup(catalogue_.CatalogueFile()); });  // or it was missing
+  ignore([&] { reader_.form.Files().DeleteKeepingBackup(catalogue_.CatalogueFile()); });  // it may be missing
   slots.OpenForReading(kOld, OldFile());
   slots.OpenForAppending(kNew, catalogue_.CatalogueFile());
   PictureRecord record;
   Expected expected = Expected::kCredit;
   while (!slots.EndOfFile(kOld)) {
     std::string line(slots.ReadLine(kOld));
-    // ODDITY(short-names-are-skipped): a name of five letters or fewer is taken for no line at all, and the
-    // place behind it for a name.
+    // ODDITY(short-names-are-skipped): a name of five letters or fewer is skipped, and the place after it is
+    // taken for a name.
     constexpr std::size_t kTooShort = 5;
     if (text::Length(line) <= kTooShort || line.starts_with("'''''")) continue;
     if (line.starts_with("PICTU")) {
@@ -55,59 +55,40 @@ void OldCatalogue::ConvertPicsDat() {
   reader_.rtxt.LoadFile(catalogue_.CatalogueFile());
 }
 
-// Shows the picture whose place the line is, where that lies at or behind the reader's chapter and the
-// picture has a name; whether it did.
-bool OldCatalogue::ShowAtOrBehindChapter(const std::string& line, std::string name) {
-  const int chapter = ChapterOf(line, text::Length(reader_.Book()));
-  name = text::TrimEnd(name);
-  if (chapter < text::LeadingDigits(reader_.Chapter()) || name.empty()) return false;
-  viewer_.pick.Picture = reader_.form.LoadPicture(reader_.DataFile("pics\\" + name + ".jpg"));
-  viewer_.LBLPICP.Caption = name;
-  viewer_.lblvs.Caption = line;
-  return true;
+// Shows the first picture with a name whose place is at or after the chapter. Other lines are names.
+void OldCatalogue::ShowChapterPicture(const std::function<bool(const std::string& line)>& is_in_book) {
+  files::FileSlots& slots = reader_.form.Slots();
+  slots.OpenForReading(kOld, OldFile());
+  std::string name;
+  while (!slots.EndOfFile(kOld)) {
+    const std::string line(slots.ReadLine(kOld));
+    if (!is_in_book(line)) {
+      name = text::TrimEnd(line);
+    } else if (!name.empty() &&
+               ChapterOf(line, text::Length(reader_.Book())) >= text::LeadingDigits(reader_.Chapter())) {
+      viewer_.pick.Picture = reader_.form.LoadPicture(reader_.DataFile("pics\\" + name + ".jpg"));
+      viewer_.LBLPICP.Caption = name;
+      viewer_.lblvs.Caption = line;
+      return;
+    }
+  }
 }
 
 void OldCatalogue::ShowPicsDatPicture() {
-  files::FileSlots& slots = reader_.form.Slots();
-  slots.OpenForReading(kOld, OldFile());
-  std::string name;
-  bool shown = false;
-  while (!shown && !slots.EndOfFile(kOld)) {
-    const std::string line(slots.ReadLine(kOld));
-    if (IsInBook(line, reader_.Book())) {
-      shown = ShowAtOrBehindChapter(line, name);
-    } else {
-      name = line;
-    }
-  }
-  slots.CloseAll();
+  ShowChapterPicture([this](const std::string& line) { return IsInBook(line, reader_.Book()); });
+  reader_.form.Slots().CloseAll();
 }
 
-// The same with every line told in a box, and the book's name in another: a means to look into the file.
+// Ignores case and shows each line and the book's name in boxes, as a way to inspect the file.
 void OldCatalogue::Command38_Click() {
-  files::FileSlots& slots = reader_.form.Slots();
   const std::string book = text::Upper(reader_.Book());
-  slots.OpenForReading(kOld, OldFile());
-  std::string name;
-  bool shown = false;
-  while (!shown && !slots.EndOfFile(kOld)) {
-    const std::string line(slots.ReadLine(kOld));
+  ShowChapterPicture([&](const std::string& line) {
     reader_.form.Platform().Message(line);
     reader_.form.Platform().Message(book);
-    if (IsInBook(text::Upper(line), book)) {
-      shown = ShowAtOrBehindChapter(line, name);
-    } else {
-      name = line;
-    }
-  }
-  slots.Close(kOld);
+    return IsInBook(text::Upper(line), book);
+  });
+  reader_.form.Slots().Close(kOld);
 }
-
-namespace {
-
-constexpr int kEmpty = 2;  // slot
-
-}  // namespace
 
 OlderList::OlderList(PictureCatalogue& the_catalogue, forms::Frame& Frame5, forms::Frame& Frame6)
     : Frame5_(Frame5), Frame6_(Frame6), catalogue_(the_catalogue), reader_(catalogue_.reader) {
@@ -120,8 +101,8 @@ void OlderList::Command40_Click() {
   const std::string empty_file = reader_.DataFile("tmppics3.dat");
   List4.Clear();
   List5.Clear();
-  // ODDITY(older-list-doubles): the work file still holds what the last change of book put there, so that
-  // each picture stands twice.
+  // ODDITY(older-list-doubles): the work file still has the records from the last change of book, so each
+  // picture is listed twice.
   const int highest = catalogue_.CopyBookRecords();
   ignore([&] { slots.OpenForAppending(kEmpty, empty_file); });
   const double chapter = text::LeadingDigits(reader_.Chapter());

@@ -1,10 +1,11 @@
-// The catalogue in its older form, `pics.dat`: plain lines, a credit ("PICTURES BY: …") for the pictures
-// below it, then a pair of lines a picture, its name and its place. Nothing of the reader's uses it any
-// more; these are the routine that turns it into today's catalogue, and two that show a chapter's picture
-// straight from it, by the older rule: the first picture at or behind the chapter.
+// The older form of the catalogue, `pics.dat`: a line of credit ("PICTURES BY: …") for the pictures below it,
+// then two lines for each picture, its name and its place. One routine converts it to the current catalogue;
+// two show a picture from it by the older rule: the first picture at or after the chapter.
 #pragma once
 
-#include "forms/containers.h"
+#include <functional>
+#include <string>
+
 #include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"
 
@@ -19,8 +20,7 @@ class OldCatalogue {
 
  private:
   void Command38_Click();
-
-  bool ShowAtOrBehindChapter(const std::string& line, std::string name);
+  void ShowChapterPicture(const std::function<bool(const std::string& line)>& is_in_book);
   std::string OldFile() const;
 
   PictureCatalogue& catalogue_;
@@ -33,9 +33,7 @@ class OldCatalogue {
       {.caption = "Command38", .name = "Show the chapter's picture of the old catalogue"}};
 };
 
-// An older way of listing the book's pictures, kept beside PictureCatalogue's: one list of the whole book and
-// one of the chapter. Its button is the keeper's; the second form of it, which nothing but the driver
-// calls, can start the slide show.
+// An older way to list the pictures: one list for the book and one for the chapter.
 class OlderList {
   forms::Frame& Frame5_;
   forms::Frame& Frame6_;
@@ -45,13 +43,11 @@ class OlderList {
  public:
   OlderList(PictureCatalogue& the_catalogue, forms::Frame& Frame5, forms::Frame& Frame6);
 
-  void ListChapterPictures();
+  void ListChapterPictures();  // starts the slide show if there is more than one
 
   forms::CommandButton Command40{Frame5_, "Command40", {.caption = "list?"}};  // fills the two lists
-  // The book's pictures.
-  forms::ListBox List4{Frame6_, "List4", {.name = "Older list of the book's pictures"}};
-  // The chapter's pictures.
-  forms::ListBox List5{Frame6_, "List5", {.name = "Older list of the chapter's pictures"}};
+  forms::ListBox List4{Frame6_, "List4", {.name = "Older list of the book's pictures"}};     // of the book
+  forms::ListBox List5{Frame6_, "List5", {.name = "Older list of the chapter's pictures"}};  // of the chapter
 
  private:
   void Command40_Click();

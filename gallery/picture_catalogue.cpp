@@ -16,7 +16,7 @@ namespace {
 constexpr int kWork = 1;  // slots
 constexpr int kCatalogue = 2;
 
-// Each whole record that is left in a file, failures passed over; none where the file did not open.
+// Calls `take` with each remaining whole record of a file, ignoring failures. The file need not be open.
 template <class Take>
 void ForEachRecord(files::FileSlots& slots, int slot, Take take) {
   const base::Ignoring ignore;
@@ -67,15 +67,13 @@ void PictureCatalogue::ExtractBookPictures() {
   const base::Ignoring ignore;
   ClearLists();
   ignore([&] { reader.form.Files().Delete(WorkFile()); });
-  const int highest = CopyBookRecords();
-  lbltm.Caption = std::to_string(highest);
-  // ODDITY(blank-labels-on-book-change): where the viewer did not stand on picture 0 it looks up picture 0
-  // in lists that are empty yet: its labels go blank and the old picture stays.
+  lbltm.Caption = std::to_string(CopyBookRecords());
+  // ODDITY(blank-labels-on-book-change): unless the viewer was at picture 0, it looks up picture 0 in the
+  // still empty lists: its labels become blank, and the old picture stays.
   ignore([&] { picnm.Value = 0; });
 }
 
-// The order that one pass over the file for each chapter would give, in one reading: a chapter that a hand
-// mistyped as two thousand million costs nothing.
+// Sorting, instead of a pass over the file for each chapter, keeps a mistyped huge chapter from taking long.
 std::vector<PictureCatalogue::Entry> PictureCatalogue::RecordsByChapter(std::size_t book_length,
                                                                         int highest) {
   const base::Ignoring ignore;
@@ -83,7 +81,7 @@ std::vector<PictureCatalogue::Entry> PictureCatalogue::RecordsByChapter(std::siz
   std::vector<Entry> entries;
   ignore([&] { slots.OpenForReading(kWork, WorkFile()); });
   ForEachRecord(slots, kWork, [&](PictureRecord record) {
-    // ODDITY(chapter-nought): a place without a chapter is in the work file and in no list.
+    // ODDITY(chapter-nought): a place without a chapter is in the work file, but in no list.
     const int chapter = ChapterOf(record.place, book_length);
     if (chapter >= 1 && chapter <= highest) entries.push_back({chapter, std::move(record)});
   });
@@ -120,9 +118,7 @@ void PictureCatalogue::SeekChapterPicture() {
 
 PictureRecord ReadPictureRecord(files::FileSlots& slots, int slot) {
   PictureRecord record;
-  record.name = slots.ReadField(slot);
-  record.place = slots.ReadField(slot);
-  record.author = slots.ReadField(slot);
+  for (std::string* field : {&record.name, &record.place, &record.author}) *field = slots.ReadField(slot);
   return record;
 }
 
@@ -131,8 +127,7 @@ void WritePictureRecord(files::FileSlots& slots, int slot, const PictureRecord& 
 }
 
 bool IsInBook(std::string_view place, std::string_view book) {
-  // ODDITY(book-by-prefix): only the beginning is compared, so that the pictures of a book whose name begins
-  // like this one's come along.
+  // ODDITY(book-by-prefix): the pictures of a book whose name begins with this one's are included.
   return place.starts_with(book);
 }
 

@@ -3,18 +3,31 @@
 #include "base/errors.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
-#include "gallery/picture_catalogue.h"
 
 namespace lectern::gallery {
+
+namespace {
+
+constexpr int kFirstPage = 4;  // the index of its last slot
+constexpr const char* kPastTheList = "end";
+
+}  // namespace
 
 Viewer::Viewer(PictureCatalogue& the_catalogue, forms::PictureBox& picp)
     : catalogue_(the_catalogue), reader_(catalogue_.reader), picp_(picp) {
   pick.BorderStyle = 1;
   catalogue_.picnm.Change = [this] { picnm_Change(); };
   reader_.tmrpic.Tick = [this] { tmrpic_Timer(); };
-  tmrpb.Tick = [this] { tmrpb_Timer(); };
+  // The text to show is always empty.
+  tmrpb.Tick = [this] {
+    reader_.form.Platform().Message("");
+    tmrpb.Enabled = true;
+  };
   Command32.Click = [this] { OpenPaint(); };
-  Command37.Click = [this] { Command37_Click(); };
+  Command37.Click = [this] {
+    reader_.tmrpic.Enabled = false;
+    picp_.Visible = false;
+  };
 }
 
 void Viewer::picnm_Change() {
@@ -23,40 +36,18 @@ void Viewer::picnm_Change() {
   const base::Ignoring ignore;
   const int index = catalogue_.picnm.Value;
   const std::string& name = catalogue_.lstmc(0).List(index);
-  // ODDITY(picture-missing-in-viewer): where the file is missing or is no picture, the picture before stays,
-  // under the new name and place.
+  // ODDITY(picture-missing-in-viewer): if the file is missing or damaged, the previous picture stays under
+  // the new name and place.
   ignore([&] { pick.Picture = reader_.form.LoadPicture(catalogue_.PictureFile(name)); });
   LBLPICP.Caption = name;
   lblvs.Caption = catalogue_.lstmc(1).List(index);
 }
 
-// One step of the slide show, which begins anew behind the last picture.
+// One step of the slide show, which starts again after the last picture.
 void Viewer::tmrpic_Timer() {
   forms::HScrollBar& picnm = catalogue_.picnm;
-  if (picnm.Value == picnm.Max()) {
-    picnm.Value = 0;
-  } else {
-    picnm.Value = picnm.Value + 1;
-  }
+  picnm.Value = picnm.Value == picnm.Max() ? 0 : picnm.Value + 1;
 }
-
-// Nothing enables it, and nothing ever gave it a text to show.
-void Viewer::tmrpb_Timer() {
-  reader_.form.Platform().Message("");
-  tmrpb.Enabled = true;
-}
-
-void Viewer::Command37_Click() {
-  reader_.tmrpic.Enabled = false;
-  picp_.Visible = false;
-}
-
-namespace {
-
-constexpr int kFirstPage = 4;  // the index of its last slot
-constexpr const char* kPastTheList = "end";
-
-}  // namespace
 
 Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, forms::PictureBox& Picture5,
                  forms::PictureBox& picp)
@@ -73,8 +64,8 @@ Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, forms::Pic
 void Browser::lblendpic_Change() {
   if (catalogue_.lblendpic.Caption == "") return;
   const int base = catalogue_.PageStart();
-  // ODDITY(missing-picture-stops-the-page): a picture that cannot be loaded leaves the slots from there on as
-  // they were, and on a page turn it ends the program.
+  // ODDITY(missing-picture-stops-the-page): if a picture cannot be loaded, its slot and those after it stay
+  // as they were, and a turn of the page ends the program.
   for (int slot = 0; slot < kSlotsOnPage; ++slot) ShowSlot(slot, base + slot);
   ResetPictureLabels();
 }
@@ -88,7 +79,7 @@ void Browser::ShowSlot(int slot, int index) {
     return;
   }
   const std::string& name = catalogue_.lstmc(0).List(index);
-  // ODDITY(nameless-slot): a record without a name leaves its slot as it was.
+  // ODDITY(nameless-slot): the slot of a record without a name stays as it was.
   if (name.empty()) return;
   const std::size_t book_length = text::Length(catalogue_.reader.Book());
   imgp(slot).Picture = form.LoadPicture(catalogue_.PictureFile(name));
@@ -102,18 +93,16 @@ void Browser::ResetPictureLabels() {
 
 void Browser::SSCommand3_Click() {
   forms::Label& lblendpic = catalogue_.lblendpic;
-  // ODDITY(page-of-fillers): only a filler in the last slot stops it, so that a book of just five pictures,
-  // or ten, has one more page with nothing but fillers.
+  // ODDITY(page-of-fillers): only a filler in the last slot stops paging, so a book with exactly five or ten
+  // pictures has another page with only fillers.
   if (Below(kSlotsOnPage - 1).Caption == kPastTheList) return;
-  if (lblendpic.Caption == "lblendpic") {
-    lblendpic.Caption = std::to_string(kFirstPage);
-  } else {
-    lblendpic.Caption = text::NumberText(text::LeadingDigits(lblendpic.Caption()) + kSlotsOnPage);
-  }
+  lblendpic.Caption = lblendpic.Caption == "lblendpic"
+                          ? std::to_string(kFirstPage)
+                          : text::NumberText(text::LeadingDigits(lblendpic.Caption()) + kSlotsOnPage);
   ResetPictureLabels();
 }
 
-// A book without pictures stops it too: its first number is not 1, and there is no page before it.
+// The second check is for a book without pictures, where the first number is not "1".
 void Browser::SSCommand4_Click() {
   forms::Label& lblendpic = catalogue_.lblendpic;
   if (Above(0).Caption == "1" || catalogue_.PageStart() <= 0) return;
@@ -128,10 +117,10 @@ void Browser::imgp_Click(int slot) {
     catalogue_.selfile(field).Text = catalogue_.lstmc(field).List(index);
   }
   Below(slot).ForeColor = kPickedColour;
-  // ODDITY(filler-opens-viewer): of a filler the bar refuses the index; the picked record is emptied, and
-  // the viewer opens with what it showed.
+  // ODDITY(filler-opens-viewer): the bar refuses the index of a filler. The boxes of the selected record
+  // become empty, and the viewer opens with its old picture.
   ignore([&] { catalogue_.picnm.Value = index; });
-  // The bar may stand on picture 0 already, and then nothing has changed.
+  // If the bar is at picture 0 already, it does not run its Change handler.
   if (slot == 0 && catalogue_.lblendpic.Caption == std::to_string(kFirstPage)) {
     viewer_.LBLPICP.Caption = catalogue_.selfile(0).Text;
     viewer_.lblvs.Caption = catalogue_.selfile(1).Text;

@@ -1,8 +1,6 @@
-// The panel with one picture at full size, its name and its place, and a bar that walks through the book's
-// pictures from the first chapter to the last. It follows the chapter, also while it is hidden; it never
-// moves the text. It is shown by a click on the strip (Browser).
-//
-// The index of the picture, PictureCatalogue's picnm, is its whole state.
+// The panel with one picture at full size, its name and its place, and a bar that moves through the book's
+// pictures. It follows the chapter, even while hidden, but never moves the text. Its only state is the index
+// of the picture, picnm in PictureCatalogue. A click on the strip (Browser) shows it.
 #pragma once
 
 #include <functional>
@@ -22,33 +20,27 @@ class Viewer {
  public:
   Viewer(PictureCatalogue& the_catalogue, forms::PictureBox& picp);
 
-  // Opens the paint window on the picture that is shown; the window that owns both joins it.
+  // Set by the window: opens the paint window with the picture.
   std::function<void()> OpenPaint = [] {};
 
   forms::Label LBLPICP{picp_, "LBLPICP"};  // the picture's name
   forms::Label lblvs{picp_, "lblvs"};      // its place
-  // The picture, stretched whatever its proportions.
   forms::Image pick{picp_, "pick", {.name = "The picture", .stretch = true}};
-  // Opens the picture in paint.
-  forms::CommandButton Command32{picp_, "Command32", {.caption = "Paint"}};
-  // Closes the panel.
+  forms::CommandButton Command32{picp_, "Command32", {.caption = "Paint"}};  // opens the picture in paint
   forms::CommandButton Command37{picp_, "Command37", {.caption = "Close Pictures", .is_cancel = true}};
   forms::Timer tmrpb{picp_, "tmrpb", {.enabled = false, .interval = 3000}};  // nothing enables it
 
  private:
   void picnm_Change();
   void tmrpic_Timer();
-  void tmrpb_Timer();
-  void Command37_Click();
 };
 
-// The strip along the bottom of the window: the book's pictures, five at a time, each with its number above
-// and its chapter and verse below. Two buttons turn the page; a click on a picture picks it and opens the
-// viewer on it.
+// The strip along the bottom of the window: the book's pictures, five to a page, each with its number above
+// and its chapter and verse below. Two buttons turn the page; a click selects a picture and shows it.
 //
-// The page is PictureCatalogue's lblendpic and nothing else: writing its caption draws the strip, and
-// whoever wants the same page drawn anew writes "" first. The picture that is picked is the one whose label
-// below is red; the keeper's tools find it by that colour.
+// Its only state is the page, lblendpic in PictureCatalogue. Writing its caption draws the strip; to redraw
+// the same page, "" is written first. The label below the selected picture is red; the maintenance tools find
+// the picture by that colour.
 inline constexpr int kSlotsOnPage = 5;
 inline constexpr forms::Colour kPickedColour = forms::kRed;
 inline constexpr forms::Colour kUnpickedColour = forms::kButtonText;
@@ -63,10 +55,10 @@ class Browser {
   Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, forms::PictureBox& Picture5,
           forms::PictureBox& picp);
 
-  // Takes the mark from whichever picture is picked.
+  // Removes the mark of the selected picture.
   void ResetPictureLabels();
 
-  // To the page before.
+  // To the previous page.
   forms::SSCommand SSCommand4{Picture5_, "SSCommand4", {.caption = "‹", .name = "Pictures before these"}};
   // The slots, left to right.
   forms::ControlArray<forms::Image> imgp{Picture5_,

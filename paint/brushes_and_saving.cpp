@@ -6,9 +6,10 @@ namespace lectern::paint {
 
 namespace {
 
+constexpr int kCatalogue = 1;  // slot
 constexpr int kBrushes = 5;
-constexpr int kChosen = 5;  // the box that shows the chosen brush
-// Of the brushes and, last, of the stroke that stands in the box of the chosen one at the start.
+constexpr int kChosen = 5;  // the box that shows the selected brush
+// Of the five brushes, and of the stroke that the box of the selected brush shows at the start.
 constexpr int kStrokeWidths[] = {14, 18, 20, 37, 45, 22};  // pixels
 constexpr int kDotWidths[] = {5, 10, 15, 20, 25, 15};
 
@@ -30,13 +31,12 @@ void Brushes::ShowPointer(int brush) {
       form_.LoadPicture(gallery_.reader.DataFile("cdx" + std::to_string(brush + 1) + ".ico"));
 }
 
-// ODDITY(pointer-of-another-brush): the first stroke has the width of the third brush under the pointer of
-// the second.
+// ODDITY(pointer-of-another-brush): the first stroke has the width of brush 3, but the pointer of brush 2.
 void Brushes::ShowFirstPointer() { ShowPointer(1); }
 
-// A click on the box of the chosen brush clears the marks and chooses nothing.
+// A click on the box of the selected brush clears the marks and selects nothing.
 void Brushes::picpbs_Click(int index) {
-  // Joined to the folder's path without a separator: the file lies beside the data folder.
+  // Without a separator after the folder's path, the file is next to the data folder.
   slots_.TakeSnapshot(gallery_.reader.Dir1.Path + "TEST.jpg");
   for (int x = 0; x < kBrushes; ++x) {
     if (x == index) {
@@ -50,15 +50,6 @@ void Brushes::picpbs_Click(int index) {
   if (index < kBrushes) pen_.mde(PenSettings::kDrawWidth).Text = std::to_string(kDotWidths[index]);
 }
 
-using forms::kPointerArrow;
-using forms::kPointerHourglass;
-
-namespace {
-
-constexpr int kCatalogue = 1;  // slot
-
-}  // namespace
-
 PictureSaving::PictureSaving(forms::Window& the_form, gallery::PictureCatalogue& the_gallery,
                              gallery::Viewer& the_viewer, Canvas& the_canvas, Palette& palette)
     : palette_(palette), form_(the_form), gallery_(the_gallery), viewer_(the_viewer), canvas_(the_canvas) {
@@ -66,29 +57,29 @@ PictureSaving::PictureSaving(forms::Window& the_form, gallery::PictureCatalogue&
   Command2.Click = [this] { Command2_Click(); };
 }
 
-// The canvas keeps its size and place, and the original stays what it was.
+// The canvas keeps its size and place, and the saves keep the original.
 void PictureSaving::Command5_Click() {
   canvas_.picbox.Picture = form_.LoadPicture(gallery_.reader.DataFile("newpic.jpg"));
 }
 
 void PictureSaving::Command2_Click() {
-  canvas_.picbox.Picture = canvas_.picbox.Image();  // also where nothing is saved in the end
-  form_.MousePointer = kPointerHourglass;
+  canvas_.picbox.Picture = canvas_.picbox.Image();  // even if nothing is saved
+  form_.MousePointer = forms::kPointerHourglass;
   const std::string old_name = viewer_.LBLPICP.Caption;
   std::string place = viewer_.lblvs.Caption;
   const std::string name = form_.Platform().Input("Save Picture as", "Save Picture", old_name);
   if (name.empty()) {
-    form_.MousePointer = kPointerArrow;
+    form_.MousePointer = forms::kPointerArrow;
     return;
   }
   if (IsInCatalogue(name)) {
     const bool replace = form_.Platform().Question(
         "Picture: " + name + " already exists. Would you like to replace the picture?", "File Found");
-    form_.MousePointer = kPointerArrow;
+    form_.MousePointer = forms::kPointerArrow;
     if (!replace) return;
   } else {
-    // ODDITY(name-for-a-place): a new picture leaves its name where the viewer shows the place, and takes
-    // over the verse and the credit of the picture that was picked last.
+    // ODDITY(name-for-a-place): the viewer shows the name of a new picture as its place, and its record gets
+    // the verse and the credit of the picture selected last.
     place = name;
     files::FileSlots& slots = form_.Slots();
     slots.OpenForAppending(kCatalogue, gallery_.CatalogueFile());
@@ -100,10 +91,10 @@ void PictureSaving::Command2_Click() {
   gallery_.ListBookPictures();
   viewer_.LBLPICP.Caption = old_name;
   viewer_.lblvs.Caption = place;
-  form_.MousePointer = kPointerArrow;
+  form_.MousePointer = forms::kPointerArrow;
 }
 
-// Compares to the letter, blanks at the end included.
+// The comparison includes case and blanks at the end.
 bool PictureSaving::IsInCatalogue(const std::string& name) {
   files::FileSlots& slots = form_.Slots();
   slots.OpenForReading(kCatalogue, gallery_.CatalogueFile());

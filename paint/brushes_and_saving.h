@@ -1,18 +1,13 @@
-// The five brushes. A click on one sets the width of the next stroke and the pointer over the canvas, which
-// shows the size of the dot.
+// The five brushes, and the buttons that begin and save a picture.
 #pragma once
 
-#include "forms/buttons.h"
-#include "forms/containers.h"
-#include "forms/picture_box.h"
-#include "gallery/picture_catalogue.h"
 #include "gallery/viewer.h"
-#include "paint/canvas.h"
 #include "paint/palette.h"
 #include "paint/zoom_and_saves.h"
 
 namespace lectern::paint {
 
+// A click on a brush sets the width of the strokes, and the pointer, which shows their size.
 class Brushes {
   forms::Window& form_;
   gallery::PictureCatalogue& gallery_;
@@ -24,11 +19,11 @@ class Brushes {
   Brushes(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, Canvas& the_canvas,
           PenSettings& the_pen, SaveSlots& the_slots);
 
-  // The pointer of the second brush, which a newly opened picture begins with, whatever the width.
+  // Sets the pointer for a newly opened picture: that of the second brush, whatever the width.
   void ShowFirstPointer();
 
   forms::Frame Frame5{form_, "Frame5", {.caption = "Paint Brush Size"}};  // holds the brushes
-  // The brushes from thin to thick, and the chosen one.
+  // The brushes from thin to thick, and the selected one.
   forms::ControlArray<forms::PictureBox> picpbs{Frame5,
                                                 "picpbs",
                                                 {{.name = "Brush 1, the thinnest"},
@@ -43,8 +38,7 @@ class Brushes {
   void ShowPointer(int brush);
 };
 
-// A blank page to begin on, and the way of a painting into the gallery: its file among the pictures, and a
-// record in the catalogue, so that it stands on the strip at once.
+// Begins a blank page, and saves a painting as a file and a record in the catalogue.
 class PictureSaving {
   Palette& palette_;
   forms::Window& form_;

@@ -52,7 +52,7 @@ void Canvas::TakePictureSize() {
   Centre();
 }
 
-// Any button draws. A setting that is no number leaves the old one; so does everything else that fails.
+// Any button draws. Failures are ignored.
 void Canvas::picbox_MouseDown(forms::MouseEvent mouse) {
   const base::Ignoring ignore;
   pen_.Apply(picbox);
@@ -61,19 +61,16 @@ void Canvas::picbox_MouseDown(forms::MouseEvent mouse) {
 
 void Canvas::picbox_MouseMove(forms::MouseEvent mouse) {
   if (mouse.button == 0) return;
-  // The window's own place of drawing, which never moves.
+  // The window's drawing position, which never changes.
   pen_.xpos.Caption = text::NumberText(form_.CurrentX);
   pen_.ypos.Caption = text::NumberText(form_.CurrentY);
   picbox.PSet(mouse.x, mouse.y);
 }
 
 // ODDITY(canvas-without-a-stop): the last step may leave a gap at an edge, and a picture that fits can be
-// pushed out of the middle; nothing stops it.
+// moved out of the middle.
 void Canvas::imgs_Click(int index) {
-  constexpr int kLeft = 0;
-  constexpr int kAbove = 1;
-  constexpr int kRight = 2;
-  constexpr int kBelow = 3;
+  enum { kLeft, kAbove, kRight, kBelow };
   if (index == kLeft && picbox.Left < 1) picbox.Left = picbox.Left + kStep;
   if (index == kAbove && picbox.Top < 1) picbox.Top = picbox.Top + kStep;
   if (index == kRight && picbox.Width + picbox.Left > Frame6.Width) picbox.Left = picbox.Left - kStep;

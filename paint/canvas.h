@@ -1,8 +1,6 @@
-// The canvas, in a viewport that clips it, and the one drawing tool: a round brush. A stroke is a chain of
-// separate dots, one for each movement of the mouse; a fast one leaves gaps, and that is the design.
-//
-// Until a swatch or a brush is clicked for the first time, drawing is seen on the screen alone and is no part
-// of the picture.
+// The canvas, in a viewport that clips it, and its only drawing tool, a round brush. A stroke is a row of
+// dots, one for each movement of the mouse; a fast stroke has gaps by design. Until the first click on a
+// swatch or a brush, drawing appears on the screen only and is not part of the picture.
 #pragma once
 
 #include "forms/containers.h"
@@ -13,9 +11,8 @@
 
 namespace lectern::paint {
 
-// The settings of the pen, on a frame that nobody sees: boxes that hold numbers as text. Only the width ever
-// changes while the program runs. The raster operation is number 3, so that paint takes its colour away from
-// what it is put on: on white it shows the complement of the pen.
+// The settings of the pen: hidden boxes with numbers as text. Only the width ever changes. The raster
+// operation is number 3, which subtracts the pen from what is below: white becomes the complement of the pen.
 class PenSettings {
   forms::Window& form_;
 
@@ -28,19 +25,18 @@ class PenSettings {
   static constexpr int kDrawMode = 3;
   static constexpr int kFillColor = 4;
 
-  // Takes over into a canvas what its settings say; each that is no number leaves the canvas as it is.
+  // Applies the settings to a canvas. A setting that is not a number is ignored.
   void Apply(forms::PictureBox& canvas) const;
 
-  // Storage of the pen's settings.
-  forms::Frame Frame2{form_, "Frame2", {.caption = "needs", .visible = false}};
-  forms::Frame Frame1{Frame2, "Frame1"};  // holds the boxes
+  forms::Frame Frame2{form_, "Frame2", {.caption = "needs", .visible = false}};  // storage of the settings
+  forms::Frame Frame1{Frame2, "Frame1"};                                         // holds the boxes
   // The settings, by the indices above.
   forms::ControlArray<forms::TextBox> mde{
       Frame1, "mde", {{.text = "15"}, {.text = "1"}, {.text = "1"}, {.text = "3"}, {.text = "7"}}};
   forms::TextBox Text2{Frame2, "Text2", {.text = "3"}};      // the canvas's scale mode
-  forms::Label xpos{Frame1, "xpos", {.caption = "Label2"}};  // where the pointer is
+  forms::Label xpos{Frame1, "xpos", {.caption = "Label2"}};  // where the pointer is, across
   forms::Label ypos{Frame1, "ypos", {.caption = "Label2"}};  // the same, down
-  // What each box is for.
+  // The labels of the boxes.
   forms::ControlArray<forms::Label> Label1{Frame1,
                                            "Label1",
                                            {{.caption = "DrawWidth = "},
@@ -62,20 +58,15 @@ class Canvas {
  public:
   Canvas(forms::Window& the_form, PenSettings& the_pen);
 
-  // In the middle of the viewport; a canvas larger than it begins outside.
+  // These centre the canvas in the viewport, even if it is larger.
   void Centre();
-
-  // Shows a picture in its own size, in the middle.
   void ShowInItsSize(const forms::Picture& picture);
-
-  // Gives the canvas the size of the picture that it shows, in the middle.
-  void TakePictureSize();
+  void TakePictureSize();  // of the picture that it shows
 
   forms::Frame Frame6{form_, "Frame6"};  // the viewport
-  // The canvas.
   forms::PictureBox picbox{
       Frame6, "picbox", {.name = "Canvas", .back_color = forms::kWhite, .fore_color = forms::kBlack}};
-  // Move the canvas: left, up, right, down.
+  // The arrows: left, up, right, down.
   forms::ControlArray<forms::Image> imgs{form_,
                                          "imgs",
                                          {{.name = "Move the picture right"},

@@ -6,34 +6,23 @@ namespace lectern::paint {
 
 namespace {
 
-constexpr forms::Pixel kInk = forms::kOpaque | 0x503C28;   // a deep blue
-constexpr forms::Pixel kSign = forms::kOpaque | 0xB07F4A;  // a blue that is seen on a light and a dark ground
+constexpr forms::Pixel kInk = forms::kOpaque | 0x503C28;   // dark blue
+constexpr forms::Pixel kSign = forms::kOpaque | 0xB07F4A;  // a blue that is visible on light and dark
 constexpr forms::Pixel kNothing = 0;                       // transparent
 
 }  // namespace
 
 forms::Picture ArrowPicture(Direction direction) {
   constexpr int kSize = 32;
-  constexpr int kTip = 8;  // how far the tip and the foot stand from the edges
+  constexpr int kTip = 8;  // distance of the tip and the foot from the edges
+  const bool is_flat = direction == Direction::kLeft || direction == Direction::kRight;
+  const bool is_reverse = direction == Direction::kRight || direction == Direction::kDown;
   forms::Bitmap arrow(kSize, kSize, kNothing);
   for (int along = 0; along < kSize - 2 * kTip; ++along) {
     for (int across = -along; across <= along; ++across) {
-      const int from_tip = kTip + along;
+      const int from_edge = is_reverse ? kSize - 1 - kTip - along : kTip + along;
       const int middle = kSize / 2 + across * 3 / 4;
-      switch (direction) {
-        case Direction::kLeft:
-          arrow.Set(from_tip, middle, kSign);
-          break;
-        case Direction::kRight:
-          arrow.Set(kSize - 1 - from_tip, middle, kSign);
-          break;
-        case Direction::kUp:
-          arrow.Set(middle, from_tip, kSign);
-          break;
-        case Direction::kDown:
-          arrow.Set(middle, kSize - 1 - from_tip, kSign);
-          break;
-      }
+      arrow.Set(is_flat ? from_edge : middle, is_flat ? middle : from_edge, kSign);
     }
   }
   return forms::Picture(std::move(arrow));

@@ -1,5 +1,4 @@
-// The small pictures that the paint window's buttons bear, drawn rather than loaded: arrows, strokes of the
-// brushes, the white page.
+// The pictures on the buttons of the paint window, and its white page. They are drawn, not loaded.
 #pragma once
 
 #include "forms/picture.h"
@@ -9,13 +8,8 @@ namespace lectern::paint {
 enum class Direction { kLeft, kUp, kRight, kDown };
 
 forms::Picture ArrowPicture(Direction direction);
-
-// A magnifying glass.
-forms::Picture GlassPicture();
-
-// A brush's stroke from top to bottom, in a picture `width` pixels wide.
-forms::Picture StrokePicture(int width, int thickness);
-
+forms::Picture GlassPicture();                           // a magnifying glass
+forms::Picture StrokePicture(int width, int thickness);  // of a brush, from top to bottom; in pixels
 forms::Picture WhitePage(int width, int height);
 
 }  // namespace lectern::paint

@@ -32,7 +32,7 @@ Palette::Palette(forms::Window& the_form, gallery::PictureCatalogue& the_gallery
   Command3.Click = [this] { Command3_Click(); };
 }
 
-// A file of fewer lines leaves the other swatches as they are; lines behind the last swatch go nowhere.
+// If the file has too few lines, the other swatches stay as they are. Extra lines are ignored.
 void Palette::LoadColours() {
   const base::Ignoring ignore;
   files::FileSlots& files = form_.Slots();
@@ -55,14 +55,14 @@ void Palette::LoadColours() {
   ignore([&] { files.Close(kColours); });
 }
 
-// ODDITY(first-pen): the first pen is not the first swatch's but the number of its shape, a near black, while
-// the colour in hand shows the first swatch.
+// ODDITY(first-pen): the first pen value is the number of the swatch's shape, almost black, while the current
+// colour is that of the first swatch.
 void Palette::TakeFirstPair() {
   pen_.clr1.BackColor = clrbox(0).FigureKind();
   clr2.BackColor = clrbox(0).BackColor;
 }
 
-// The right button fills the swatch with the pair in hand, any other takes the swatch's.
+// The right button sets the swatch to the current pair; any other button takes the swatch's pair.
 void Palette::clrboxs_MouseDown(int index, const forms::MouseEvent& mouse) {
   constexpr int kRightButton = 2;
   slots_.TakeSnapshot("TEST.jpg");
@@ -76,8 +76,7 @@ void Palette::clrboxs_MouseDown(int index, const forms::MouseEvent& mouse) {
   }
 }
 
-// ODDITY(mixed-pair): the bars make a dark pen and a bright colour, which is a hint of the result and not its
-// true complement.
+// ODDITY(mixed-pair): the bars make a dark pen and a bright colour, which is only roughly its complement.
 void Palette::scr1_Change() {
   const int red = scr1(0).Value;
   const int green = scr1(1).Value;
@@ -97,7 +96,7 @@ void Palette::Command3_Click() {
   files.Close(kColours);
 }
 
-// Runs on a change of the box's picture, which nothing makes.
+// Runs when the box's picture changes, which never happens.
 void Palette::clr2_Change() {
   pen_.Label3.Caption = ColourText(clr2.BackColor);
   Text3.Text = ColourText(clr2.BackColor);

@@ -1,20 +1,12 @@
-// The palette: pairs of a pen value, which goes to the canvas, and a colour, which the swatch shows. The two
-// differ because paint takes its colour away from what it is put on. A swatch can be filled anew with the
-// pair in hand, three bars mix a new one, and the palette is kept in `colors.dat`.
+// The palette: pairs of a pen value, used on the canvas, and a colour, shown by the swatch. They differ
+// because the pen is subtracted from what is below it. Three bars mix a new pair, a swatch can be set to the
+// current pair, and `colors.dat` stores the palette.
 //
-// A swatch is a circle with a label over it. The label's caption is the pen value, in the circle's own
-// colour, and it takes the mouse.
+// A swatch is a circle below a label. The label's caption is the pen value, in the colour of the circle; the
+// label receives the mouse.
 #pragma once
 
-#include <functional>
-
-#include "forms/bars_and_timer.h"
-#include "forms/buttons.h"
-#include "forms/figures.h"
-#include "forms/picture_box.h"
-#include "forms/text_controls.h"
 #include "gallery/picture_catalogue.h"
-#include "paint/canvas.h"
 #include "paint/zoom_and_saves.h"
 
 namespace lectern::paint {
@@ -32,13 +24,11 @@ class Palette {
           SaveSlots& the_slots);
 
   void LoadColours();
-
-  // The pair that a newly opened picture begins with.
-  void TakeFirstPair();
+  void TakeFirstPair();  // for a newly opened picture
 
   forms::PictureBox Picture1{form_, "Picture1"};                            // the panel
   forms::ControlArray<forms::Shape> clrbox{Picture1, "clrbox", kSwatches};  // the colours
-  // Over the colours: the swatches to press.
+  // The labels over the circles, which a person clicks.
   forms::ControlArray<forms::Label> clrboxs{
       Picture1, "clrboxs", {{.caption = "x", .name = "Colour 1"},  {.caption = " x", .name = "Colour 2"},
                             {.caption = "X", .name = "Colour 3"},  {.caption = "X", .name = "Colour 4"},
@@ -52,7 +42,7 @@ class Palette {
                             {.caption = "X", .name = "Colour 19"}, {.caption = "X", .name = "Colour 20"},
                             {.caption = "X", .name = "Colour 21"}, {.caption = "X", .name = "Colour 22"},
                             {.caption = "X", .name = "Colour 23"}, {.caption = "X", .name = "Colour 24"}}};
-  // Its background is the chosen colour.
+  // Its background is the current colour.
   forms::PictureBox clr2{Picture1, "clr2", {.name = "The colour in hand", .back_color = kYellow}};
   forms::CommandButton Command4{Picture1, "Command4", {.caption = "More Colors"}};    // shows the colour bars
   forms::CommandButton Command3{Picture1, "Command3", {.caption = "Save Pallette"}};  // saves the colours
@@ -63,7 +53,7 @@ class Palette {
       Frame3,
       "scr1",
       {{.max = 25, .name = "Red"}, {.max = 25, .name = "Green"}, {.max = 25, .name = "Blue"}}};
-  // Names of the bars.
+  // The labels of the bars.
   forms::ControlArray<forms::Label> Label2{
       Frame3, "Label2", {{.caption = "Red"}, {.caption = "Blue"}, {.caption = "Green"}}};
   forms::TextBox Text3{Frame3, "Text3", {.text = "Text3", .name = "Pen value"}};  // the pen value

@@ -1,18 +1,15 @@
-// Three levels of zoom, each a doubling of the one before; level 0 is the picture's own size. Zooming bakes
-// the drawing into the picture and paints it stretched, so that the picture that is saved has the size of the
-// level that stands.
+// The zoom and the saved states of the picture.
 #pragma once
 
 #include <string>
 
 #include "forms/buttons.h"
-#include "forms/containers.h"
-#include "forms/figures.h"
-#include "forms/text_controls.h"
 #include "paint/canvas.h"
 
 namespace lectern::paint {
 
+// Three levels of zoom, each twice the size of the one before; level 0 is the picture's own size. Zooming
+// stretches the picture itself, with what was drawn on it, so it is saved in the size of the current level.
 class Zoom {
   forms::Window& form_;
   Canvas& canvas_;
@@ -26,15 +23,15 @@ class Zoom {
                                              {{.caption = "      +", .name = "Zoom in"},
                                               {.caption = "      -", .enabled = false, .name = "Zoom out"}}};
   forms::TextBox txt5{form_, "txt5", {.text = "0", .name = "Zoom level"}};  // the level
-  forms::Image picbox2{form_, "picbox2", {.visible = false}};               // the size that comes next
+  forms::Image picbox2{form_, "picbox2", {.visible = false}};               // the next size
 
  private:
   bool IsTooLargeToDouble() const;
   void cmdm_Click(int index);
 };
 
-// The picture as it was opened, and the last four states that were kept. A state is kept whenever a swatch or
-// a brush is clicked, whether or not anything was painted; going back to one changes none.
+// The picture as it was opened, and its last four states. Each click on a swatch or a brush saves a state,
+// even if nothing was painted. Going back to a state changes none of them.
 class SaveSlots {
   forms::Window& form_;
   Canvas& canvas_;
@@ -43,8 +40,7 @@ class SaveSlots {
  public:
   SaveSlots(forms::Window& the_form, Canvas& the_canvas, Zoom& the_zoom);
 
-  // From the first call on, what is drawn is part of the picture. At zoom level 0 a copy goes to a scratch
-  // file, which nothing reads.
+  // From the first call on, drawing is part of the picture. At zoom level 0, it also writes a scratch file.
   void TakeSnapshot(const std::string& scratch_file);
 
   forms::Frame Frame7{form_, "Frame7", {.caption = "   Original               Saves  "}};  // holds the slots

@@ -1,4 +1,4 @@
-// A bookmark as its file holds it: a record of name, book and chapter.
+// A record of a bookmark file.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ struct BookmarkRecord {
   std::string chapter;
 };
 
-// The next three fields of the file, wherever its lines end. Error 62 where it ends before.
+// Reads the next three fields, across line ends. Raises error 62 if the file ends first.
 inline BookmarkRecord ReadBookmarkRecord(files::FileSlots& slots, int slot) {
   BookmarkRecord record;
   for (std::string* field : {&record.name, &record.book, &record.chapter}) *field = slots.ReadField(slot);

@@ -3,7 +3,6 @@
 #include "base/errors.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
-#include "forms/window.h"
 #include "reader/canon.h"
 #include "reader/reader.h"
 
@@ -53,7 +52,7 @@ ChapterCounts::ChapterCounts(forms::Window& form, Reader& the_reader) : form_(fo
   Command12.Click = [this] { Command12_Click(); };
 }
 
-// Reads from the data folder itself and by names cut to eight characters, unlike every other reader.
+// Unlike all other code, it reads from the data folder itself and by short stems.
 void ChapterCounts::Command12_Click() {
   files::FileSlots& slots = form_.Slots();
   for (int i = 0; i < reader_.lst.ListCount(); ++i) {

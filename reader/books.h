@@ -14,15 +14,15 @@ namespace lectern::reader {
 
 class Reader;
 
-// All that the program and its data tool know of a version. A further version is a further row, a place for
-// its two controls, and its text in the data folder.
+// All that the program and its data tool know about a version. To add a version, add a row, places for its
+// two controls, and its text in the data folder.
 struct Version {
   std::string_view name;         // "King James Version"
-  std::string_view label;        // the short name, beside its option
+  std::string_view label;        // the short name, next to its option
   std::string_view folder;       // of its books, in the data folder
   std::string_view prefix;       // in front of the stem of a book's file
   std::string_view concordance;  // its file in the data folder
-  const char* option;            // the controls: the option, and the label beside it
+  const char* option;            // the names of its option and of the label next to it
   const char* option_label;
 };
 
@@ -31,23 +31,21 @@ inline constexpr std::array kVersions = {
     Version{"Revised Standard Version", "NEW", "NEW", "N", "CONCORD2.DAT", "optn", "Label35"},
 };
 
-// The options of the window that pick a version.
+// The options that select a version.
 class VersionOptions {
  public:
   explicit VersionOptions(forms::Window& form);
 
-  // The first version whose option is set. The option of the last one is never read: it is current where no
-  // other is.
+  // The first version whose option is set, or else the last one, whose option is never read.
   const Version& Current() const;
 
-  std::deque<forms::OptionButton> options;  // in the order of the table; the first is set at the start
+  std::deque<forms::OptionButton> options;  // in the order of kVersions; the first is set at the start
 
  private:
   std::deque<forms::Label> labels_;
 };
 
-// How many chapters each book has: the file `bookschap.txt`, with a record for each book, its name in quotes
-// and the count.
+// Makes `bookschap.txt`, which holds the name and the number of chapters of each book.
 class ChapterCounts {
  public:
   ChapterCounts(forms::Window& form, Reader& the_reader);
@@ -57,12 +55,12 @@ class ChapterCounts {
 
   forms::Window& form_;
   Reader& reader_;
-  // Makes the file, for preparing the data.
-  forms::CommandButton Command12{form_, "Command12", {.caption = "make baokschap.txt"}};
+  forms::CommandButton Command12{
+      form_, "Command12", {.caption = "make baokschap.txt"}};  // for preparing data
 };
 
-// The number of chapters of a book, whose name is compared without regard to case; nothing where the file has
-// no record of it or cannot be read. Of several records the last one that holds a number counts.
+// Looks up the number of chapters of a book in such a file, ignoring case. The last record with a number
+// wins. Returns nothing if there is no record or the file cannot be read.
 std::optional<int> ChapterCount(forms::Window& form, std::string_view path, std::string_view book);
 
 }  // namespace lectern::reader

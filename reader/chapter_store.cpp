@@ -40,24 +40,24 @@ void ChapterStore::Load() {
   const base::Ignoring trap{[&] { slots.Close(kBook); }};
   if (!trap([&] { slots.OpenForReading(kBook, reader_.BookFile(reader_.Stem())); })) return;
   const std::string scratch = reader_.Dir3.Path + "\\temp.txt";
-  // Opened for appending, so that lines a broken run left there come first.
+  // Lines that an interrupted run left in the scratch file come first.
   bool written = trap([&] { slots.OpenForAppending(kScratch, scratch); });
   std::string held;
   const bool found = CopyChapter(trap, held);
   slots.Close(kBook);
-  // ODDITY(next-heading): the line in hand is written once more, whatever it is. It is the last line of
-  // the book, or the heading of the next chapter, with which every other chapter ends.
+  // ODDITY(next-heading): the last line read is written too. It is the heading of the next chapter or the
+  // last line of the book.
   written = trap([&] { slots.PrintLine(kScratch, held); }) && written;
   written = trap([&] { slots.Close(kScratch); }) && written;
-  // What a full disk cut off is no chapter: the pane keeps its text.
+  // The pane does not show a chapter that a full disk cut off.
   if (written && trap([&] { reader_.rtxt.LoadFile(scratch); })) {
     shown_ = {reader_.Book(), found ? reader_.Chapter() : "", std::string(reader_.CurrentVersion().label)};
   }
   trap([&] { reader_.form.Files().Delete(scratch); });
 }
 
-// Copies the chapter from the book to the scratch file, all but its last line, and leaves the line in hand;
-// whether the book has it. A failure closes the book, and with it ends the loop.
+// Copies the chapter, except the last line read (`held`), to the scratch file. Returns whether the book has
+// the chapter. A failure closes the book, which ends the loop.
 bool ChapterStore::CopyChapter(const base::Ignoring& trap, std::string& held) {
   files::FileSlots& slots = reader_.form.Slots();
   int counter = 0;  // 16 bits
@@ -68,8 +68,7 @@ bool ChapterStore::CopyChapter(const base::Ignoring& trap, std::string& held) {
     line = slots.ReadLineStarting(kBook, kChapterMark);
     if (!IsChapterLine(line)) continue;  // the book's last line
     trap([&] { counter = text::RoundToInteger(counter + 1); });
-    // The line behind a chapter line belongs to the chapter, whatever it looks like: a chapter line that
-    // follows another one at once is not counted.
+    // A chapter line directly after another one is not counted.
     trap([&] { line = slots.ReadLine(kBook); });
     bool wanted = false;
     trap([&] { wanted = text::ToNumber(reader_.Chapter()) == counter; });

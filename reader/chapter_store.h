@@ -1,10 +1,8 @@
-// Takes a chapter out of its book's file and puts it into the pane: the file is read from its first line to
-// the end of the chapter, the lines go through the scratch file `temp.txt`, and the pane loads that. Nothing
-// is kept in memory from one load to the next.
+// Loads a chapter of a book's file into the pane. It reads the file from the first line to the end of the
+// chapter, copies the chapter to the scratch file `temp.txt`, and has the pane load that. Nothing is cached.
 //
-// A book file has three kinds of line, told apart by how they begin: a chapter line ("Chap"), a verse line (a
-// digit, and no "-" behind it) and any other. What follows the four letters is never read; a chapter's number
-// is the count of chapter lines above it.
+// A book file has three kinds of lines: chapter lines, which begin with "Chap", verse lines, which begin with
+// a digit that no "-" follows, and other lines. The rest of a chapter line is not read: chapters are counted.
 #pragma once
 
 #include <string>
@@ -18,21 +16,21 @@ namespace lectern::reader {
 
 class Reader;
 
-// Where the text in the pane was taken from.
+// The place of the text in the pane.
 struct ShownChapter {
   std::string book;     // as displayed
-  std::string chapter;  // "" where the book has no such chapter: its last line then stands alone
+  std::string chapter;  // "" if the book has no such chapter; the pane then shows its last line
   std::string version;  // "KJV"
 };
 
-// How many verses each chapter of a book's file has. Errors are those of reading the file.
+// Counts the verses of each chapter of a book's file. Raises the errors of reading the file.
 std::vector<int> VersesOfChapters(const files::FileSystem& files, std::string_view path);
 
 class ChapterStore {
  public:
   explicit ChapterStore(Reader& the_reader) : reader_(the_reader) {}
 
-  // Loads the chapter of the reader's position. Where that fails the pane keeps its text.
+  // Loads the chapter at the reader's position. If that fails, the pane keeps its text.
   void Load();
 
   const ShownChapter& Shown() const { return shown_; }

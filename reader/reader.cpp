@@ -5,7 +5,6 @@
 #include "base/errors.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
-#include "reader/books.h"
 #include "reader/canon.h"
 
 namespace lectern::reader {
@@ -36,14 +35,14 @@ FoundReference Reader::Find(std::string_view typed) const {
   const auto read = ReadReference(typed);
   if (!read) return {{}, Missing::kBook};
   Reference at = read->reference;
-  std::vector<int> verses;  // of each chapter
+  std::vector<int> verses;  // per chapter
   const base::Ignoring ignore;
   ignore(
       [&] { verses = VersesOfChapters(form.Files(), BookFile(kCanon[static_cast<std::size_t>(at.book)])); });
   if (verses.empty()) return {at, Missing::kBook};
   if (verses.size() == 1 && at.verse == 0) at = {at.book, at.chapter == 0 ? 0 : 1, at.chapter};
   const auto chapter = static_cast<std::size_t>(at.chapter);
-  // A range of verses is found by its first.
+  // In a range of verses, the first one counts.
   const bool is_readable =
       read->rest.find_first_not_of(" .:,") == std::string_view::npos || read->rest[0] == '-';
   if (chapter > verses.size() || (chapter == 0 && !is_readable)) return {at, Missing::kChapter};
@@ -51,7 +50,7 @@ FoundReference Reader::Find(std::string_view typed) const {
   return {at, Missing::kNothing};
 }
 
-// The book stays, the chapter falls back to 1.
+// The book stays; the chapter goes back to 1.
 void Reader::ChangeVersion(const Version& version) {
   LBLVR.Caption = std::string(version.name);
   Dir3.Path = DataFile(version.folder);
@@ -62,7 +61,7 @@ void Reader::ReportError(const base::RunTimeError& error) {
   List1.Visible = true;
   base::Platform& platform = form.Platform();
   if (error.Is(base::ErrorNumber::kFileNotFound)) {
-    // ODDITY(concordance-missing): every missing file is told as the concordance's.
+    // ODDITY(concordance-missing): any missing file is reported as the concordance.
     platform.Message(std::string(kVersions[0].concordance) + " missing from " + Dir1.Path);
   } else {
     platform.Message(
@@ -74,7 +73,7 @@ void Reader::ReportError(const base::RunTimeError& error) {
 }
 
 void Reader::lblc_Change() {
-  tmrpic.Enabled = false;  // on the early return too
+  tmrpic.Enabled = false;  // even if nothing is loaded
   if (Chapter().empty() || Stem().empty()) return;
   chapter_store_.Load();
   LBLMRK(2).Caption = lblc.Caption;
@@ -112,7 +111,7 @@ void Reader::lst_Click() {
   form.MousePointer = forms::kPointerArrow;
 }
 
-// Goes to the chapter that the selected line names: "Chapter 12".
+// Goes to the chapter of the selected line, such as "Chapter 12".
 void Reader::List1_DblClick() {
   const std::string& line = List1.List(List1.SelectedIndex());
   if (text::Lower(text::Left(line, 7)) != "chapter") return;
@@ -121,7 +120,7 @@ void Reader::List1_DblClick() {
 }
 
 void Reader::OpenBook(const std::string& name) {
-  lblbook.Caption = "";  // chapter 1, to which the name sends the bar, does not load in the old book
+  lblbook.Caption = "";  // keeps the name from loading chapter 1 of the old book
   lblbk.Caption = name;
   lblbook.Caption = name;
   Reload("1");
@@ -141,8 +140,8 @@ void Reader::ShowPassage(const std::string& book, const std::string& chapter) {
   lblc.Caption = chapter;
 }
 
-// ODDITY(blank-behind-the-book): the name gets its trailing blank, so that the catalogue does not know the
-// book and the chapter bar keeps the range of the one before.
+// ODDITY(blank-behind-the-book): the name keeps its trailing blank, so the chapter counts do not list the
+// book and the chapter bar keeps the range of the previous one.
 void Reader::ShowFoundPassage(const std::string& name_with_blank, const std::string& chapter) {
   assert(!name_with_blank.empty());
   const std::size_t length = text::Length(name_with_blank);
@@ -155,7 +154,7 @@ void Reader::ShowChapterThenBook(const std::string& book, const std::string& cha
   Reload(chapter);
   lblbook.Caption = book;
   lblbk.Caption = book;
-  // The name does not go back by itself where the bar stands at 1 or the book was open before.
+  // The name alone does not go back if the bar is at 1 or the book was already open.
   if (!frms_.Visible) GoToChapter("1");
 }
 
@@ -167,8 +166,8 @@ void Reader::TakeBookmark(const BookmarkRecord& record) {
 
 void Reader::RestoreBookmark() {
   const std::string book = LBLMRK(1).Caption;
-  const std::string chapter = LBLMRK(2).Caption;  // the load of chapter 1 changes the label
-  // With lblbook empty the first write of the chapter loads nothing, but the name finds it not empty.
+  const std::string chapter = LBLMRK(2).Caption;  // loading chapter 1 changes the label
+  // While lblbook is empty, the first write of the chapter loads nothing, but lets the name take effect.
   lblbook.Caption = "";
   lblc.Caption = "";
   lblbk.Caption = "";

@@ -1,16 +1,16 @@
-// Where the reader is, and the way from there to the text on the screen.
+// The reader's position, and how it brings the text to the screen.
 //
-// Three labels hold the position: lblbook, the stem of the book's file, lblbk, the name as it is shown, and
-// lblc, the chapter. Writing another value runs the label's Change handler before the write returns:
+// Three labels hold the position: lblbook, the stem of the book's file; lblbk, the name as shown; lblc, the
+// chapter. Writing a new value runs the label's Change handler before the write returns:
 //
-//   lblc     loads the chapter of lblbook's file, and moves what follows the chapter; with lblc or lblbook
-//            empty it loads nothing
-//   lblbk    while lblc is not empty: sends the chapter bar to 1, and with it lblc, sets the bar's range, and
-//            fills the picture lists; while lblc is empty it does nothing
+//   lblc     loads the chapter of lblbook's file and updates the chapter bar, the bookmark and the picture;
+//            does nothing while lblc or lblbook is empty
+//   lblbk    sets the chapter bar, and so lblc, to 1, sets the bar's range, and fills the picture lists;
+//            does nothing while lblc is empty
 //   lblbook  does nothing
 //
-// So the order of the writes decides what follows and what stays as it was. Each order that the features want
-// is one of the functions below. Nobody else writes the three labels.
+// So the order of the writes decides what is updated. Each order that a feature needs is one of the functions
+// below. Only this class writes the three labels.
 #pragma once
 
 #include <deque>
@@ -41,109 +41,102 @@ class Reader {
  public:
   Reader(forms::Window& window, forms::Frame& frms, forms::PictureBox& Picture1, forms::Frame& Frame1);
 
-  // The position. A jump that is under way leaves the chapter empty for a moment.
+  // The position. During a jump the chapter is empty for a moment.
   const std::string& Stem() const { return lblbook.Caption; }
   const std::string& Book() const { return lblbk.Caption; }
   const std::string& Chapter() const { return lblc.Caption; }
 
-  // What the pane shows, which differs from the position where a load failed.
+  // What the pane shows. It differs from the position after a load that failed.
   const ShownChapter& Shown() const { return chapter_store_.Shown(); }
 
-  // Opens chapter 1 of a book of the list. Everything follows: the chapter bar and its range, the picture
-  // lists, the text. The open search panel keeps the bar where it is.
+  // Opens chapter 1 of a book of the list, and updates the chapter bar, its range and the picture lists.
+  // While the search panel is open, the bar stays.
   void OpenBook(const std::string& name);
 
-  // Loads a chapter of the open book, also the one that is shown.
+  // Loads a chapter of the open book, even if it is already shown.
   void Reload(const std::string& chapter);
 
-  // Moves to a chapter of the open book; where it is shown already, nothing happens.
+  // Loads a chapter of the open book unless it is already shown.
   void GoToChapter(const std::string& chapter);
 
-  // Shows a chapter of any book. The range of the chapter bar and the picture lists stay those of the book
-  // before; the bar moves where its range allows it.
+  // Shows a chapter of any book. The range of the chapter bar and the picture lists stay those of the
+  // previous book; the bar moves if its range allows it.
   void ShowPassage(const std::string& book, const std::string& chapter);
 
-  // The same for an entry of a search, whose name ends in the blank that stands in front of its chapter. The
-  // name keeps the blank, so that no chapter count is found and the bar keeps its range, but the picture
-  // lists are filled anew. The open search panel keeps the bar from going back to chapter 1.
-  // Requires: the name is not empty.
+  // The same for a search result, whose book name ends with a blank. Because the name keeps the blank, no
+  // chapter count is found and the bar keeps its range, but the picture lists are filled again. While the
+  // search panel is open, the bar does not go back to chapter 1. Requires: the name is not empty.
   void ShowFoundPassage(const std::string& name_with_blank, const std::string& chapter);
 
-  // Goes to a book with its chapter written first. The chapter loads in the book before, and the name that
-  // follows goes back to chapter 1; only with the search panel open does that text stay.
+  // Writes the chapter, which loads in the previous book, and then the book, which goes back to chapter 1.
+  // While the search panel is open, the loaded text stays.
   void ShowChapterThenBook(const std::string& book, const std::string& chapter);
 
-  // Shows a bookmark as the one in hand, in LBLMRK.
+  // Makes a bookmark the current one, in LBLMRK.
   void TakeBookmark(const BookmarkRecord& record);
 
-  // Goes to the place of the bookmark in hand. Everything follows; chapter 1 of the book loads on the way.
+  // Goes to the current bookmark and updates everything. Chapter 1 of the book loads on the way.
   void RestoreBookmark();
 
-  // Goes back to chapter 1 of the open book and reloads it, as the search and the concordance do when they
-  // close; what they may have hidden is shown again.
+  // Reloads chapter 1 of the open book and shows the controls that a panel hid. The search and the
+  // concordance call this when they close.
   void ReturnToChapter1();
 
-  // Moves one chapter on. Nothing stops it behind the last one.
+  // Goes to the next chapter, even past the last one.
   void StepToNextChapter();
 
-  // Writes the book's name alone: the bar, its range and the picture lists follow the name, and the text is
-  // chapter 1 of the book before.
+  // Writes only the book's name: the bar, its range and the picture lists are those of the named book, but
+  // the text is chapter 1 of the previous book.
   void NameBook(const std::string& name);
 
-  // For the start: no position, and then Genesis 1.
+  // For the start of the program.
   void ClearPosition();
   void ShowGenesis();
 
-  // The version that is set.
   const Version& CurrentVersion() const { return versions_.Current(); }
 
-  // Reads a reference that a person typed, and looks whether the text of the current version has the place.
-  // Of a book with a single chapter the only number is the verse.
+  // Reads a typed reference and checks whether the current version has the place. In a book with one chapter,
+  // a single number is the verse.
   FoundReference Find(std::string_view typed) const;
 
-  // The general report of a failure, at the end of error paths all over the window: a message and a beep.
+  // Reports a failure with a message and a beep.
   void ReportError(const base::RunTimeError& error);
 
-  // A file of the data folder, and one of the version that is set: "…\KJV\Exodus.txt", "…\NEW\NExodus.txt".
+  // Paths of a file in the data folder, and of a book of the current version: "…\NEW\NExodus.txt".
   std::string DataFile(std::string_view name) const;
   std::string BookFile(std::string_view stem) const;
 
   forms::Window& form;
 
-  forms::DirListBox Dir1{Frame1_, "Dir1"};  // the data folder; all paths are built on it
-  forms::DirListBox Dir3{Frame1_, "Dir3"};  // the folder of the version that is set
+  forms::DirListBox Dir1{Frame1_, "Dir1"};  // the data folder, on which all paths are built
+  forms::DirListBox Dir3{Frame1_, "Dir3"};  // the folder of the current version
 
  private:
   forms::Label lblbook{form, "lblbook", {.visible = false}};          // stem of the book's file
-  forms::Label lblbk{form, "lblbk"};                                  // the book's name as it is shown
+  forms::Label lblbk{form, "lblbk"};                                  // the book's name as shown
   forms::Label lblc{form, "lblc", {.caption = "00"}};                 // the chapter
   forms::Label LBLVR{form, "LBLVR", {.caption = kVersions[0].name}};  // name of the version
-  forms::Label Label30{form, "Label30", {.caption = "Book of"}};      // stands before the book
-  forms::Label Label21{form, "Label21", {.caption = "Chapter"}};      // stands before the chapter
+  forms::Label Label30{form, "Label30", {.caption = "Book of"}};      // before the book
+  forms::Label Label21{form, "Label21", {.caption = "Chapter"}};      // before the chapter
   VersionOptions versions_{form};
 
  public:
-  forms::ListBox lst{form, "lst", {.name = "Books"}};  // the books, at once names and file stems
-  // The chapter.
-  forms::HScrollBar scr{form,
-                        "scr",
-                        {.value = 1,
-                         .min = 1,
-                         .max = 32767,
-                         .name = "Chapter",
-                         .key_back = "Ctrl+PgUp",
-                         .key_on = "Ctrl+PgDown"}};
+  forms::ListBox lst{form, "lst", {.name = "Books"}};  // the books, both names and file stems
+  // clang-format off
+  forms::HScrollBar scr{form, "scr", {.value = 1, .min = 1, .max = 32767, .name = "Chapter",  // the chapter
+                                      .key_back = "Ctrl+PgUp", .key_on = "Ctrl+PgDown"}};
+  // clang-format on
   forms::RichTextBox rtxt{form, "rtxt", {.name = "Text of the chapter", .read_only = true}};  // the text
   forms::ListBox List1{form, "List1"};  // storage: nothing fills it
 
-  // The bookmark in hand: name, book, chapter. The chapter follows the reader.
+  // The current bookmark: name, book, chapter. The chapter follows the position.
   forms::ControlArray<forms::Label> LBLMRK{
       Picture1_, "LBLMRK", {{.caption = "NAME"}, {.caption = "BOOK"}, {.caption = "CHAPTER"}}};
-  // Slide show of the book's pictures, which a change of the chapter stops.
+  // The slide show of the book's pictures. A change of the chapter stops it.
   forms::Timer tmrpic{form, "tmrpic", {.enabled = false, .interval = 5000}};
 
-  // Joined by the window: the picture lists for the book that lblbk names, and the picture of a chapter that
-  // was loaded. Neither raises an error.
+  // Set by the window: updates the picture lists for the book in lblbk, and the picture for a loaded chapter.
+  // Neither raises an error.
   std::function<void()> BookChanged = [] {};
   std::function<void()> ChapterShown = [] {};
 

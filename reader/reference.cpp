@@ -4,6 +4,7 @@
 #include <array>
 #include <cassert>
 #include <charconv>
+#include <iterator>
 #include <limits>
 
 #include "base/text/characters.h"
@@ -13,82 +14,40 @@ namespace lectern::reader {
 
 namespace {
 
-// How people shorten a book's name other than by its first letters. The number in front of a name is left
-// out.
-constexpr std::array<std::string_view, kCanon.size()> kAbbreviations = {
-    " gn ",
-    "",
-    " lv ",
-    " nm nb ",
-    " dt ",
-    " jsh ",
-    " jdgs jdg jg ",
-    " rth ",
-    " sm ",
-    " sm ",
-    " kgs ",
-    " kgs ",
-    "",
-    "",
-    "",
-    "",
-    "",
-    " jb ",
-    " pss ",
-    " prv ",
-    " qoh ",
-    " ssol sos canticles ",
-    "",
-    " jr ",
-    "",
-    " ezk ",
-    " dn ",
-    "",
-    " jl ",
-    "",
-    "",
-    " jnh ",
-    "",
-    "",
-    " hb ",
-    " zp ",
-    " hg ",
-    " zc zch ",
-    " ml ",
-    " mt ",
-    " mk mr mrk ",
-    " lk ",
-    " jn jhn ",
-    "",
-    " rm ",
-    "",
-    "",
-    "",
-    "",
-    " php phi phil ",
-    "",
-    "",
-    "",
-    " tm ",
-    " tm ",
-    "",
-    " phm phlm phmn ",
-    "",
-    " jas jm ",
-    " pt ",
-    " pt ",
-    " jn jhn ",
-    " jn jhn ",
-    " jn jhn ",
-    " jd ",
-    " rv revelationofjohn apocalypse ",
+// Usual abbreviations that are not the first letters of the name. Neither has the number of the book.
+struct Abbreviation {
+  std::string_view letters;
+  std::string_view name;
 };
 
-// A name as it is compared: its number, 0 for none, and its small letters without blanks and stops.
-struct Name {
-  int number = 0;
-  std::string letters;
+// clang-format off
+constexpr Abbreviation kAbbreviations[] = {
+    {"gn", "genesis"}, {"lv", "leviticus"}, {"nm", "numbers"}, {"nb", "numbers"}, {"dt", "deuteronomy"},
+    {"jsh", "joshua"}, {"jdgs", "judges"}, {"jdg", "judges"}, {"jg", "judges"}, {"rth", "ruth"},
+    {"sm", "samuel"}, {"kgs", "kings"}, {"jb", "job"}, {"pss", "psalms"}, {"prv", "proverbs"},
+    {"qoh", "ecclesiastes"}, {"ssol", "songofsolomon"}, {"sos", "songofsolomon"},
+    {"canticles", "songofsolomon"}, {"jr", "jeremiah"}, {"ezk", "ezekiel"}, {"dn", "daniel"},
+    {"jl", "joel"}, {"jnh", "jonah"}, {"hb", "habakkuk"}, {"zp", "zephaniah"}, {"hg", "haggai"},
+    {"zc", "zechariah"}, {"zch", "zechariah"}, {"ml", "malachi"}, {"mt", "matthew"}, {"mk", "mark"},
+    {"mr", "mark"}, {"mrk", "mark"}, {"lk", "luke"}, {"jn", "john"}, {"jhn", "john"}, {"rm", "romans"},
+    {"php", "philippians"}, {"phi", "philippians"}, {"phil", "philippians"}, {"tm", "timothy"},
+    {"phm", "philemon"}, {"phlm", "philemon"}, {"phmn", "philemon"}, {"jas", "james"}, {"jm", "james"},
+    {"pt", "peter"}, {"jd", "jude"}, {"rv", "revelation"}, {"revelationofjohn", "revelation"},
+    {"apocalypse", "revelation"},
 };
+// clang-format on
+
+// The form in which names are compared.
+struct Name {
+  int number = 0;       // 0 for none
+  std::string letters;  // in lower case, without blanks and stops
+};
+
+bool IsAbbreviation(std::string_view letters, std::string_view name) {
+  return std::any_of(std::begin(kAbbreviations), std::end(kAbbreviations), [&](const Abbreviation& known) {
+    return known.letters == letters && known.name == name;
+  });
+}
 
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -96,12 +55,12 @@ bool IsBetweenLetters(char c) { return c == ' ' || c == '.' || c == '-' || c == 
 bool IsBetweenNumbers(char c) { return c == ' ' || c == '.' || c == ':' || c == ','; }
 
 template <class Test>
-void PassOver(std::string_view& text, Test test) {
+void Skip(std::string_view& text, Test test) {
   text.remove_prefix(
       static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), test) - text.begin()));
 }
 
-// "1", "I" and the like in front of a name.
+// The number before a name, such as "1" or "I".
 int TakeBookNumber(std::string_view& text) {
   if (text.size() > 1 && text[0] >= '1' && text[0] <= '3' && !IsDigit(text[1])) {
     const int number = text[0] - '0';
@@ -114,9 +73,9 @@ int TakeBookNumber(std::string_view& text) {
   return static_cast<int>(end);
 }
 
-// The name that a text begins with, up to the first digit behind it.
+// The name at the start of the text, up to the next digit.
 Name TakeName(std::string_view& text) {
-  PassOver(text, IsBetweenLetters);
+  Skip(text, IsBetweenLetters);
   Name name{TakeBookNumber(text), {}};
   for (; !text.empty() && (IsLetter(text[0]) || IsBetweenLetters(text[0])); text.remove_prefix(1)) {
     if (IsLetter(text[0])) name.letters += text[0];
@@ -140,15 +99,13 @@ const std::array<Name, kCanon.size()>& CanonNames() {
 std::optional<int> FindName(const Name& wanted) {
   constexpr std::size_t kShortest = 2;
   if (wanted.letters.size() < kShortest) return std::nullopt;
-  const std::string abbreviation = " " + wanted.letters + " ";
   std::optional<int> begins;
   int beginning = 0;
   for (std::size_t i = 0; i < kCanon.size(); ++i) {
     const Name& name = CanonNames()[i];
     if (name.number != wanted.number) continue;
     const bool is_whole = name.letters == wanted.letters;
-    if (is_whole || kAbbreviations[i].find(abbreviation) != std::string_view::npos)
-      return static_cast<int>(i);
+    if (is_whole || IsAbbreviation(wanted.letters, name.letters)) return static_cast<int>(i);
     if (!name.letters.starts_with(wanted.letters)) continue;
     begins = static_cast<int>(i);
     ++beginning;
@@ -156,7 +113,7 @@ std::optional<int> FindName(const Name& wanted) {
   return beginning == 1 ? begins : std::nullopt;
 }
 
-// A number too large to be one is the largest there is.
+// A number that does not fit becomes the largest int.
 int TakeNumber(std::string_view& text) {
   int number = 0;
   const char* const end = text.data() + text.size();
@@ -179,7 +136,7 @@ std::optional<ReadReferenceResult> ReadReference(std::string_view text) {
   if (text.empty() || !IsDigit(text[0])) return result;
   result.reference.chapter = TakeNumber(text);
   result.rest = text;
-  PassOver(text, IsBetweenNumbers);
+  Skip(text, IsBetweenNumbers);
   if (text.empty() || !IsDigit(text[0])) return result;
   result.reference.verse = TakeNumber(text);
   result.rest = text;

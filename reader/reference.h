@@ -1,5 +1,5 @@
-// References to places in the text: "1 Peter 2:6". People write them in many ways, the program's lists with
-// blanks alone, "1 Peter 2 6".
+// References to places in the text: "1 Peter 2:6". People write them in many ways; the program's lists
+// separate the parts with blanks, "1 Peter 2 6".
 #pragma once
 
 #include <optional>
@@ -9,36 +9,36 @@
 namespace lectern::reader {
 
 struct Reference {
-  int book = 0;     // its position in the canon, from 0
-  int chapter = 0;  // from 1; 0 where none is given
+  int book = 0;     // position in the canon, from 0
+  int chapter = 0;  // from 1; 0 if none is given
   int verse = 0;    // the same
 };
 
-// The book by its name or a usual abbreviation, "1 Samuel", "1sam.", "I Sm": its position in the canon. Case,
-// blanks and stops do not count. Two letters or more that only one book begins with are enough.
+// Finds a book by its name or a usual abbreviation ("1 Samuel", "1sam.", "I Sm") and returns its position in
+// the canon. Ignores case, blanks and stops. The first letters, at least two, are enough if unambiguous.
 std::optional<int> FindBook(std::string_view name);
 
 struct ReadReferenceResult {
   Reference reference;
-  std::string_view rest;  // what follows in the text
+  std::string_view rest;  // of the text
 };
 
-// The reference that a text begins with, "Jn 3 16", "ps119:105", "Gen.1.1 and so on"; nothing where no book
-// is named. Between chapter and verse stand blanks, a colon, a stop or a comma.
+// Reads the reference at the start of a text: "Jn 3 16", "ps119:105", "Gen.1.1 and so on". Blanks, a colon, a
+// stop or a comma separate chapter and verse. Returns nothing if no book is named.
 std::optional<ReadReferenceResult> ReadReference(std::string_view text);
 
-// "1 Peter 2:6", or with another character between chapter and verse.
+// "1 Peter 2:6", or with another separator.
 std::string ReferenceText(std::string_view book, std::string_view chapter, std::string_view verse,
                           char between = ':');
-// Requires: the book is one of the canon.
-std::string ReferenceText(const Reference& reference);  // without the parts that are not given
+// Leaves out the parts that are not given. Requires: the book is in the canon.
+std::string ReferenceText(const Reference& reference);
 
-// What a person typed, held against the text.
+// A typed reference, checked against the text.
 struct FoundReference {
   enum class Missing { kNothing, kBook, kChapter, kVerse };
 
   Reference reference;
-  Missing missing = Missing::kNothing;  // the first part that is unreadable or that the text does not have
+  Missing missing = Missing::kNothing;  // the first part that cannot be read or is not in the text
 };
 
 }  // namespace lectern::reader

@@ -35,11 +35,11 @@ void StartUp::PlaceWindow() {
   form.Left = screen.width / 2 - form.Width / 2;
 }
 
-// The data folder is the one the program is started in, wherever the program itself lies.
+// The data folder is the one in which the program is started.
 void StartUp::FindFolders() {
   const base::Ignoring ignore;
   ignore([&] {
-    // A start in the folder of the data's first keeper, and there alone, reads the data from another.
+    // This one folder is replaced by another.
     if (reader_.Dir1.Path == "C:\\a\\ide\\ID98") reader_.Dir1.Path = "C:\\CODEX";
   });
   ignore([&] { controls_.Dirpics.Path = reader_.DataFile("pics"); });
@@ -50,7 +50,7 @@ void StartUp::FindFolders() {
 void StartUp::FillLists() {
   const base::Ignoring ignore;
   for (const std::string_view book : kCanon) reader_.lst.AddItem(std::string(book));
-  reader_.form.Slots().Close(kSettings);  // a settings file that was too short was left open
+  reader_.form.Slots().Close(kSettings);  // left open if the file was too short
   reader_.ClearPosition();
   controls_.Text2.Text = "";
   for (int i = 0; i < reader_.LBLMRK.Count(); ++i) reader_.LBLMRK(i).Caption = "";
@@ -81,8 +81,8 @@ void Exits::xx_Click() {
   if (oo12_.Checked) {
     reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("CODEX.CFG"));
     reader_.form.Slots().OpenForAppending(kSettings, reader_.DataFile("codex.cfg"));
-    // ODDITY(menu-exit-loses-settings): the first field of the record is a colour of something that does
-    // not exist, so that the write fails and the settings file stays behind empty.
+    // ODDITY(menu-exit-loses-settings): the first field of the record is the colour of an object that does
+    // not exist, so the write fails and leaves the settings file empty.
     throw base::RunTimeError(base::ErrorNumber::kObjectRequired);
   }
   throw base::ProgramEnd{};

@@ -1,4 +1,4 @@
-// The start of the program and its ends.
+// The start of the program and the ways to end it.
 #pragma once
 
 #include "forms/containers.h"
@@ -10,16 +10,15 @@
 
 namespace lectern::reader {
 
-// What the start sets that belongs to features above.
+// Controls of higher layers that the start sets.
 struct StartUpControls {
   forms::DirListBox& Dirpics;
   forms::FileListBox& File1;
   forms::TextBox& Text2;
 };
 
-// What happens once, before the window is seen: the size and place of the window, the folders, the settings,
-// the list of books, the fonts, and Genesis 1. The panels stand in their places already. No position is
-// remembered from one run to the next. A step that fails does not keep the next one from running.
+// Runs once, before the window is shown: sets the window's size and place, the folders, the settings, the
+// list of books and the fonts, and opens Genesis 1. If a step fails, the next one still runs.
 class StartUp {
  public:
   StartUp(Reader& the_reader, Settings& the_settings, StartUpControls the_controls)
@@ -37,9 +36,9 @@ class StartUp {
   StartUpControls controls_;
 };
 
-// The ways out. The exit button saves the font settings; the exit entry of the menu tries to, in an older
-// layout, and fails; the window's close box saves nothing. Each ends the program at once: no other window is
-// asked, and no handler runs any more.
+// The ways to end the program. The exit button saves the font settings; the menu's exit entry tries to, in an
+// older layout, and fails; the window's close box saves nothing. Each ends the program at once, without
+// running any other handler.
 class Exits {
  public:
   Exits(Reader& the_reader, Settings& the_settings, ToolButtons& tools, forms::Menu& xx, forms::Menu& oo12);

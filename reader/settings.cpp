@@ -28,7 +28,7 @@ constexpr Style kStyles[] = {
     {"Bold Italic", true, true},
 };
 
-// Italic and bold by the name of a style; any other name changes nothing.
+// An unknown style changes nothing.
 void SetStyle(forms::TextControl& control, std::string_view style) {
   for (const Style& known : kStyles) {
     if (known.name != style) continue;
@@ -63,8 +63,8 @@ void Settings::PrepareFile() {
   ignore([&] {
     constexpr std::uint64_t kShortest = 3;
     if (reader_.form.Files().Length(path) >= kShortest) return;
-    // ODDITY(default-settings-misread): the default is of an older layout, colour, colour, font and size, and
-    // it is read as font, size and style.
+    // ODDITY(default-settings-misread): the default record has an older layout (colour, colour, font, size),
+    // but is read as font, size and style.
     slots.WriteRecord(kSettings, "&HFF0000", "&H80000005", "Arial", "10");
   });
   ignore([&] { slots.Close(kSettings); });
@@ -90,7 +90,7 @@ void Settings::ReadSettings() {
   size_read_ = size;
   style_read_ = style;
   ApplyFontSamples();
-  // The name goes to both panes before a size can fail.
+  // Both panes get the name before an invalid size raises an error.
   reader_.rtxt.FontName = font;
   RTXT2.FontName = font;
   reader_.rtxt.FontSize = text::ToNumber(size);
@@ -110,7 +110,7 @@ void Settings::ApplyFontSamples() {
   PointAtSearchButton(forms::kPointerDefault);
 }
 
-// A size that is none leaves the panes at theirs, so that the other two boxes can be tried meanwhile.
+// An invalid size is ignored, so that the other two boxes still take effect.
 void Settings::ApplyFontToPanes() {
   const base::Ignoring ignore;
   for (forms::RichTextBox* pane : {&reader_.rtxt, &RTXT2}) {
@@ -120,9 +120,8 @@ void Settings::ApplyFontToPanes() {
   }
 }
 
-// After a start without settings the boxes hold a size and a style that do not exist. A font that is picked
-// replaces them by those of the pane, so that Save writes a record that can be read again. What a person
-// typed stays.
+// After a start without settings, the boxes hold an invalid size and an unknown style. Choosing a font
+// replaces them with those of the pane, so that Save writes a valid record. Text that a person typed stays.
 void Settings::Combo1_Click() {
   const base::Ignoring ignore;
   const forms::RichTextBox& pane = reader_.rtxt;
@@ -133,8 +132,8 @@ void Settings::Combo1_Click() {
   const auto has_name = [&](const Style& style) { return style.name == Combo3.Text(); };
   if (Combo3.Text == style_read_ && std::none_of(std::begin(kStyles), std::end(kStyles), has_name)) {
     for (const Style& style : kStyles) {
-      if (style.italic == pane.FontItalic && style.bold == pane.FontBold)
-        Combo3.Text = std::string(style.name);
+      if (style.italic != pane.FontItalic || style.bold != pane.FontBold) continue;
+      Combo3.Text = std::string(style.name);
     }
   }
   Combo_Click();
@@ -153,8 +152,8 @@ void Settings::Command36_Click() {
   ReadSettings();
 }
 
-// ODDITY(close-unlocks): opening the panel locks no tool buttons, closing it sets them free all the same,
-// also those that another panel holds locked.
+// ODDITY(close-unlocks): closing the panel enables the tool buttons although opening it does not disable
+// them, even if another panel keeps them disabled.
 void Settings::Command24_Click() {
   Picture23_.Visible = false;
   tools_.Enable();
@@ -202,7 +201,7 @@ void DesktopColour::Swatch_Click(forms::PictureBox& swatch) {
   }
 }
 
-// ODDITY(front-colour): what is called the front colour is the background of the panels.
+// ODDITY(front-colour): the "front" colour is the background of the panels.
 void DesktopColour::ApplyDesktopColour() {
   for (forms::PlacedControl* panel : coloured_) panel->BackColor = text::ToLong(ChosenColour);
 }

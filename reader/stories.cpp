@@ -7,7 +7,6 @@ namespace lectern::reader {
 namespace {
 
 enum class Order { kBookFirst, kChapterFirst };
-
 enum class Failures { kLeave, kIgnore };
 
 struct Submenu {
@@ -15,7 +14,7 @@ struct Submenu {
   const char* caption;
 };
 
-// ODDITY(kept-spelling): some captions are misspelt; readers know them so.
+// ODDITY(kept-spelling): some captions are misspelt; readers know them that way.
 constexpr Submenu kSubmenus[] = {
     {"dd2", "The Beginning"}, {"dd3", "Abraham"}, {"dd4", "Noah"}, {"ddd8", "Moses"},
     {"dd5", "David"},         {"dd6", "Peter"},   {"dd7", "Paul"}, {"dd8", "Jesus"},
@@ -96,13 +95,13 @@ Stories::Stories(Reader& the_reader, forms::Menu& dd1) : reader_(the_reader) {
   }
 }
 
-// ODDITY(story-keeps-range): the chapter bar keeps the range of the book before.
+// ODDITY(story-keeps-range): the chapter bar keeps the range of the previous book.
 void Stories::Entry_Click(const Story& story) {
   const auto show = [&] {
     if (story.order == Order::kBookFirst) {
       reader_.ShowPassage(story.book, story.chapter);
     } else {
-      // ODDITY(story-first-chapter): the name goes back to chapter 1, whatever chapter the entry is for.
+      // ODDITY(story-first-chapter): the name goes back to chapter 1, whatever the chapter of the entry.
       reader_.ShowChapterThenBook(story.book, story.chapter);
     }
   };

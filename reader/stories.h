@@ -1,6 +1,5 @@
-// The menu of stories: a fixed list of passages, grouped by person or age. Each entry goes to one chapter of
-// one book, in the version that is set. Nothing else moves: the chapter bar and the picture lists keep to the
-// book before.
+// The menu of stories: a fixed list of passages, grouped by person or period. Each entry shows a chapter in
+// the current version. The chapter bar and the picture lists stay with the previous book.
 #pragma once
 
 #include <deque>

@@ -1,5 +1,5 @@
-// The row of tool buttons, and the lock that they are: most panels disable the six feature buttons while
-// they are open, so that one is open at a time. The exit button is never disabled.
+// The row of tool buttons. Most panels disable the six feature buttons while they are open, so that only one
+// is open at a time. The exit button is never disabled.
 #pragma once
 
 #include "forms/buttons.h"

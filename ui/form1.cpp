@@ -17,7 +17,6 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
   routines["ConvertPicsDat"] = [this](const std::string&) { old_catalogue_.ConvertPicsDat(); };
   routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue_.ShowPicsDatPicture(); };
   routines["ListChapterPictures"] = [this](const std::string&) { older_list_.ListChapterPictures(); };
-
   Apply(kForm1Places, *this);
 }
 

@@ -1,5 +1,5 @@
-// The main window: the sum of its panels, and what is joined between them. Members stand in the order in
-// which their controls are made.
+// The main window: its features, and the connections between them. The order of the members is the order in
+// which their controls are created.
 #pragma once
 
 #include <functional>
@@ -11,14 +11,8 @@
 #include "gallery/book_converter.h"
 #include "gallery/maintenance.h"
 #include "gallery/old_catalogue.h"
-#include "gallery/picture_catalogue.h"
-#include "gallery/viewer.h"
-#include "reader/books.h"
-#include "reader/reader.h"
 #include "reader/session.h"
-#include "reader/settings.h"
 #include "reader/stories.h"
-#include "reader/tool_buttons.h"
 #include "search/concordance.h"
 #include "search/concordance_builder.h"
 #include "search/dictionary.h"
@@ -30,12 +24,11 @@
 
 namespace lectern::ui {
 
-// How the main window's doors reach the other windows: each makes its window where there is none yet.
+// How the main window reaches the other windows. Each call creates the window if needed.
 struct OtherWindows {
   std::function<forms::Window&()> Form2;
   std::function<aids::Notes&()> notes;
-  std::function<void(const forms::Picture&)>
-      OpenPaint;  // the paint window on a picture; a white page for none
+  std::function<void(const forms::Picture&)> OpenPaint;  // with a white page for an empty picture
 };
 
 class Form1 : public forms::Window {
@@ -47,7 +40,7 @@ class Form1 : public forms::Window {
   void Form_Load() override { start_up_.Form_Load(); }
   void Form_Unload() override { exits_.Form_Unload(); }
 
-  // What the paint window works with.
+  // For the paint window.
   gallery::PictureCatalogue& Pictures() { return pictures_; }
   gallery::Viewer& PictureViewer() { return viewer_; }
 

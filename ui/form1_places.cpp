@@ -1,5 +1,5 @@
-// The main window, whose client area is 916 by 668 pixels. The panels lie over the text and leave the tool
-// buttons and the books in sight.
+// The main window, with a client area of 916 by 668 pixels. The panels cover the text, but not the tool
+// buttons and the books.
 #include "ui/places.h"
 
 namespace lectern::ui {
@@ -9,15 +9,14 @@ using enum Look;
 
 namespace {
 
-constexpr double k800 = 800.0 / 15;  // 800 and 100 twips, which are no whole pixels
+constexpr double k800 = 800.0 / 15;  // 800 and 100 twips, not whole pixels
 constexpr double k100 = 100.0 / 15;
 
 // clang-format off
 constexpr Place kForm1Table[] = {
-    // The text, and at its right what is open, the chapter bar, the books and the versions; below, the tool
-    // buttons, and along the bottom the strip of pictures.
+    // The text; to its right the position, the chapter bar, the books and the versions; below, the tool buttons
+    // and the strip of pictures.
     {"rtxt",            24,   24,  636,  456, kFill},
-
     {"lblbook",          0,    0,    0,    0, kStorage},
     {"Label30",        676,   28,   52,   20, kTopRight},
     {"lblbk",          732,   24,  160,   28, kTopRight, kHeading},
@@ -41,7 +40,6 @@ constexpr Place kForm1Table[] = {
     {"Command1",       791,    8,  101,   28, kTopRight},
 
     {"Picture5",         0,  532,  916,  136, kBottom},
-
     {"SSCommand4",      24,   40,   40,   56, kTopLeft, kTitle},
     {"SSCommand3",     852,   40,   40,   56, kTopRight, kTitle},
     {"lblp(5)",         90,    6,  128,   16, kTopCentre, kCentredSmall},
@@ -69,7 +67,7 @@ constexpr Place kForm1Table[] = {
     {"Command32",      365,  420,   84,   28, kBottomRight},
     {"Command37",      457,  420,  128,   28, kBottomRight},
 
-    // Search: terms and scope at the left, the verses found at the right.
+    // Search: terms and scope on the left, the verses found on the right.
     {"frms",           k800,  120,  600,  240, kTopLeft},
     {"lblfor",          16,   20,   32,   20, kTopLeft},
     {"txts",            52,   16,  272,   28, kTopLeft},
@@ -81,17 +79,15 @@ constexpr Place kForm1Table[] = {
     {"Command20",      174,  120,  150,   28, kTopLeft},
     {"Command15",       16,  156,  150,   28, kTopLeft},
     {"cmdadd",         174,  156,  150,   28, kTopLeft},
-
     {"frmscale",        16,  192,  308,   36, kTopLeft},
     {"text7",            0,    0,  150,   18, kTopLeft, kSmall},
     {"pbar",             0,   20,  150,   12, kTopLeft},
     {"Command25",      158,    4,  150,   28, kTopLeft},
-
     {"lblmatches",     340,   12,   60,   20, kTopLeft},
     {"text5",          404,   12,   80,   20, kTopLeft, kStrong},
     {"lsts",           340,   36,  244,  188, kFill},
 
-    // Concordance: the words at the left, the verses of the chosen one at the right.
+    // Concordance: the words on the left, the verses of the selected word on the right.
     {"frmc",           k800,  120,  600,  264, kTopLeft},
     {"lblwords",        16,   12,  180,   20, kTopLeft},
     {"LBLCC",            0,    0,    0,    0, kStorage},
@@ -103,11 +99,9 @@ constexpr Place kForm1Table[] = {
     {"Command21",      212,  220,  182,   28, kBottomRight},
     {"Command9",       402,  220,  182,   28, kBottomRight},
 
-    // Dictionary: the words at the left, the entry at the right.
+    // Dictionary: the words on the left, the entry on the right.
     {"frmd",            16,   24,  644,  456, kTopLeft},
-
     {"lstd",            16,   16,  184,  424, kLeft},
-
     {"dwd2",           218,   18,  412,   32, kTop, kTitle},
     {"dwd",            216,   16,  412,   32, kTop, kTitle},
     {"ddf2",           217,   65,  412,  148, kTop, kReading},
@@ -115,41 +109,35 @@ constexpr Place kForm1Table[] = {
     {"linedic",        216,  222,  412,    1, kTop},
     {"dex2",           217,  233,  412,  164, kFill, kReading},
     {"dex",            216,  232,  412,  164, kFill, kReading},
-
     {"Command19",      484,  412,  144,   28, kBottomRight},
 
     // Trivia.
     {"Picture17",     k100, k100,  653,  260, kTopLeft},
-
     {"lbltrivia",       16,   12,  621,   32, kTop, kTitle},
     {"Label25",         16,   56,  621,   64, kTop, kHeading},
     {"Label26",         16,  128,  621,   72, kFill, kReading},
     {"List3",          312,  216,   64,   28, kBottomLeft},
-
     {"Command29",       16,  216,  112,   28, kBottomLeft},
     {"Command31",      136,  216,  112,   28, kBottomLeft},
     {"Command28",      525,  216,  112,   28, kBottomRight},
 
-    // Bookmarks: the chosen one at the left, the list at the right.
+    // Bookmarks: the current one on the left, the list on the right.
     {"Picture1",       k800,  120,  600,  296, kTopLeft},
     {"Label19(3)",      16,   12,  264,   24, kTopLeft, kHeading},
-
     {"LBLMRK(0)",       16,   44,  264,   24, kTopLeft, kCentredStrong},
     {"LBLMRK(1)",       16,   68,  264,   20, kTopLeft, kCentred},
     {"C(4)",            16,   92,  128,   20, kTopLeft, kFlushRight},
     {"LBLMRK(2)",      152,   92,  128,   20, kTopLeft},
     {"Picture2",       k800,  120,  190,   44, kTopLeft},
-
     {"Command5",        16,  180,  128,   28, kTopLeft},
     {"Command6",       152,  180,  128,   28, kTopLeft},
     {"Command10",       16,  216,  128,   28, kTopLeft},
     {"Command11",      152,  216,  128,   28, kTopLeft},
     {"Command30",       16,  252,  128,   28, kTopLeft},
     {"Command7",       152,  252,  128,   28, kTopLeft},
-
     {"File1",          296,   16,  288,  264, kFill},
 
-    // Help: the topics at the left, the text at the right.
+    // Help: the topics on the left, the text on the right.
     {"frmhelp",        k800,   24,  607,  456, kTopLeft},
     {"Label19(4)",      16,   14,  112,   24, kTopLeft, kHeading},
     {"lblhp(0)",        10,   52,  118,   24, kTopLeft},
@@ -164,21 +152,17 @@ constexpr Place kForm1Table[] = {
     {"Command4",       479,   12,  112,   28, kTopRight},
     {"Command44",      479,  412,  112,   28, kBottomRight},
 
-    // Fonts and colours: the font at the left, samples at the right, colours below.
+    // Fonts and colours: the font on the left, samples on the right, colours below.
     {"Picture23",      k800,  120,  600,  328, kTopLeft},
-
     {"lblsetting(0)",   16,   12,  568,   24, kTop, kHeading},
-
     {"lblsetting(1)",   16,   52,   48,   20, kTopLeft},
     {"Combo1",          72,   48,  216,   28, kTopLeft},
     {"lblsetting(2)",   16,   88,   48,   20, kTopLeft},
     {"Combo2",          72,   84,  216,   28, kTopLeft},
     {"lblsetting(3)",   16,  124,   48,   20, kTopLeft},
     {"Combo3",          72,  120,  216,   28, kTopLeft},
-
     {"lblf(0)",        304,   48,  280,   48, kTop, kCentred},
     {"lblf(1)",        304,  100,  280,   48, kTop, kCentred},
-
     {"lblsetting(4)",   16,  164,  568,   20, kTop, kStrong},
     {"Option2",         16,  188,  128,   24, kTopLeft},
     {"Option3",        152,  188,  128,   24, kTopLeft},
@@ -194,7 +178,6 @@ constexpr Place kForm1Table[] = {
     {"Picture33",      415,    8,   44,   32, kTopLeft},
     {"Picture34",      466,    8,   44,   32, kTopLeft},
     {"Picture35",      517,    8,   44,   32, kTopLeft},
-
     {"Command36",      396,  284,   90,   28, kBottomRight},
     {"Command24",      494,  284,   90,   28, kBottomRight},
 
@@ -204,7 +187,7 @@ constexpr Place kForm1Table[] = {
     {"Label36",          0,    0,    0,    0, kTop},
     {"Command34",        0,    0,    0,    0, kTopRight},
 
-    // The keeper's tools: the concordance builder, the upkeep of the pictures, and two buttons.
+    // Maintenance tools: the concordance builder, the catalogue of pictures, and a button.
     {"Frame2",        1112,  -56,  916,  628, kStorage},
     {"Command27",       16,   32,  112,   28, kTopLeft},
     {"Command23",      136,   32,  112,   28, kTopLeft},
@@ -225,14 +208,12 @@ constexpr Place kForm1Table[] = {
     {"Label2",         152,   37,  120,   20, kTopLeft},
     {"lblendpic",      288,   37,   80,   20, kTopLeft},
     {"Command46",      804,   32,   96,   28, kTopLeft},
-
     {"Label3(0)",       16,   76,  160,   20, kTopLeft},
     {"selfile(0)",     184,   72,  264,   26, kTopLeft},
     {"Label3(1)",       16,  108,  160,   20, kTopLeft},
     {"selfile(1)",     184,  104,  264,   26, kTopLeft},
     {"Label3(2)",       16,  140,  160,   20, kTopLeft},
     {"selfile(2)",     184,  136,  264,   26, kTopLeft},
-
     {"Command49",       16,  176,  160,   28, kTopLeft},
     {"Command45",      184,  176,  160,   28, kTopLeft},
     {"Command47",      352,  176,   96,   28, kTopLeft},
@@ -240,7 +221,6 @@ constexpr Place kForm1Table[] = {
     {"SSCommand2",      72,  212,   48,   28, kTopLeft},
     {"Command40",      184,  212,  160,   28, kTopLeft},
     {"Command48",      352,  212,   96,   28, kTopLeft},
-
     {"Frame6",         464,   72,  436,  228, kTopLeft},
     {"lbltm",           16,   24,   64,   20, kTopLeft},
     {"lstmc(0)",        16,   48,  128,   72, kTopLeft},
@@ -250,14 +230,12 @@ constexpr Place kForm1Table[] = {
     {"List5",          120,  128,   96,   84, kTopLeft},
     {"Dirpics",        224,  128,   96,   84, kTopLeft},
     {"File3",          328,  128,   92,   84, kTopLeft},
-
     {"Dir2",            16,  316,  200,  112, kTopLeft},
     {"File2",           16,  436,  200,  140, kTopLeft},
     {"NME",             16,  584,  200,   20, kTopLeft},
     {"RTB1",           224,  316,  328,  260, kTopLeft},
     {"RTB2",           560,  316,  340,  260, kTopLeft},
     {"Command33",      744,  584,  156,   28, kTopLeft},
-
     {"Command38",      940,  380,  200,   28, kStorage},
 
     // Storage.

@@ -26,7 +26,7 @@ void Form4::Form_Load() {
   Top = (screen.height - Height) / 2;
   Left = (screen.width - Width) / 2;
   ignore([&] { palette_.LoadColours(); });
-  palette_.Command4.SetFocus();  // on none of the brushes, which would look as if it were chosen
+  palette_.Command4.SetFocus();  // a brush with the focus would look selected
 }
 
 void Form4::Open(const forms::Picture& picture) {
@@ -35,10 +35,6 @@ void Form4::Open(const forms::Picture& picture) {
   canvas_.picbox.Picture = picture ? picture : paint::WhitePage(kPageWidth, kPageHeight);
   Visible = true;
   BringToFront();
-  StartPaint();
-}
-
-void Form4::StartPaint() {
   canvas_.TakePictureSize();
   palette_.TakeFirstPair();
   brushes_.ShowFirstPointer();

@@ -1,13 +1,9 @@
-// The paint window: a canvas with its brushes, its palette and the states that were kept. Made at the first
-// picture that is opened in it; closing it hides it, with all its state.
+// The paint window: a canvas with brushes, a palette and saved states. Closing only hides it.
 #pragma once
 
 #include <functional>
 
 #include "paint/brushes_and_saving.h"
-#include "paint/canvas.h"
-#include "paint/palette.h"
-#include "paint/zoom_and_saves.h"
 
 namespace lectern::ui {
 
@@ -16,18 +12,16 @@ class Form4 : public forms::Window {
   gallery::Viewer& viewer_;
 
  public:
-  // `print_picture` opens the print window on a picture.
+  // `print_picture` opens the print window with a picture.
   Form4(forms::Services services, gallery::PictureCatalogue& gallery, gallery::Viewer& viewer,
         const std::function<void(const forms::Picture&)>& print_picture);
 
   void Form_Load() override;
 
-  // Shows the window with a picture on the canvas; a white page where there is none.
+  // Shows the window with a picture, or with a white page if it is empty.
   void Open(const forms::Picture& picture);
 
  private:
-  void StartPaint();
-
   paint::PenSettings pen_{*this};
   paint::Canvas canvas_{*this, pen_};
   paint::Zoom zoom_{*this, canvas_};

@@ -1,6 +1,5 @@
-// The paint window, whose client area is 1045 by 699 pixels: the canvas at the left with an arrow at each of
-// its sides and the zoom under it; at the right the colours, the brushes, the states that were kept, and what
-// is done with the picture.
+// The paint window, with a client area of 1045 by 699 pixels. On the left: the canvas with an arrow at each
+// side, and the zoom below. On the right: the colours, the brushes, the saved states and the buttons.
 #include "ui/places.h"
 
 namespace lectern::ui {
@@ -23,7 +22,6 @@ constexpr Place kForm4Table[] = {
     {"cmdm(0)",         56,  655,   72,   28, kBottomLeft},
     {"cmdm(1)",        136,  655,   72,   28, kBottomLeft},
     {"txt5",           216,  655,   40,   28, kBottomLeft},
-
     {"Picture1",       676,   16,  340,  236, kTopRight},
     {"clrbox(0)",       16,   16,   34,   34, kTopLeft},
     {"clrbox(1)",       58,   16,   34,   34, kTopLeft},
@@ -77,7 +75,6 @@ constexpr Place kForm4Table[] = {
     {"Command4",        16,  192,  104,   28, kTopLeft},
     {"Command3",       128,  192,  108,   28, kTopLeft},
     {"Command5",       244,  192,   80,   28, kTopLeft},
-
     {"Frame5",         676,  268,  340,  170, kTopRight},
     {"picpbs(0)",       16,   32,   14,  122, kTopLeft},
     {"picpbs(1)",       52,   32,   18,  122, kTopLeft},
@@ -85,7 +82,6 @@ constexpr Place kForm4Table[] = {
     {"picpbs(3)",      134,   32,   37,  122, kTopLeft},
     {"picpbs(4)",      193,   32,   45,  122, kTopLeft},
     {"picpbs(5)",      279,   32,   22,  122, kTopLeft},
-
     {"Frame7",         676,  454,  340,  185, kTopRight},
     {"IMGSPB(0)",       16,   36,   94,   64, kTopLeft},
     {"Line2",          120,   36,    1,  136, kTopLeft},
@@ -93,7 +89,6 @@ constexpr Place kForm4Table[] = {
     {"IMGSPB(2)",      231,   36,   93,   64, kTopLeft},
     {"IMGSPB(3)",      130,  108,   93,   64, kTopLeft},
     {"IMGSPB(4)",      231,  108,   93,   64, kTopLeft},
-
     {"Frame3",         676,  454,  340,  185, kTopRight},
     {"Label2(0)",       16,   24,   52,   20, kTopLeft},
     {"scr1(0)",         72,   24,  252,   20, kTopLeft},
@@ -103,10 +98,8 @@ constexpr Place kForm4Table[] = {
     {"scr1(2)",         72,   96,  252,   20, kTopLeft},
     {"Text3",           72,  136,  104,   28, kTopLeft},
     {"Clear",          188,  136,  136,   28, kTopLeft},
-
     {"Command2",       676,  655,  166,   28, kBottomRight},
     {"Command1",       850,  655,  166,   28, kBottomRight},
-
     {"Frame2",        1056,   16,  300,  320, kStorage},
     {"Frame1",           8,   24,  280,  240, kTopLeft},
     {"mde(0)",         120,    8,   80,   24, kTopLeft},

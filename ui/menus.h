@@ -1,5 +1,5 @@
-// The menu bar of the main window. The entries stand here in the order in which they show. Each feature is
-// given its own and joins its handlers to them; the stories add theirs under dd1.
+// The menu bar of the main window, with the entries in order. Each feature sets the handlers of its entries;
+// the stories add theirs under dd1.
 #pragma once
 
 #include "forms/containers.h"
@@ -18,7 +18,7 @@ class Menus {
   forms::Menu ff0{ff, "ff0", {.caption = "-"}};          // line
   forms::Menu xx{ff, "xx", {.caption = "E&xit"}};        // ends the program
 
-  // Codex: opens panels and leaves the tool buttons as they are.
+  // Opens panels without disabling the tool buttons.
   forms::Menu cc{form_, "cc", {.caption = "C&odex"}};
   forms::Menu cc0{cc, "cc0", {.caption = "&Notes"}};        // opens the notes
   forms::Menu cc1{cc, "cc1", {.caption = "&Concordance"}};  // opens the concordance
@@ -26,11 +26,11 @@ class Menus {
   forms::Menu cc3{cc, "cc3", {.caption = "&Search"}};       // opens the search
   forms::Menu cc4{cc, "cc4", {.caption = "&Trivia"}};       // opens the trivia
 
-  forms::Menu dd1{form_, "dd1", {.caption = "Codex &Stories"}};  // the stories, which add their entries
+  forms::Menu dd1{form_, "dd1", {.caption = "Codex &Stories"}};  // filled by the stories
 
   forms::Menu oo{form_, "oo", {.caption = "O&ptions"}};        // Options
   forms::Menu oo11{oo, "oo11", {.caption = "Fonts/Desktop"}};  // opens fonts and colours
-  // On at every start, never stored.
+  // Set at every start, never stored.
   forms::Menu oo12{oo, "oo12", {.caption = "Save settings on exit", .checked = true}};
 
   forms::Menu webb{form_, "webb", {.caption = "Internet"}};       // web pages

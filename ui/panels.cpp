@@ -3,7 +3,7 @@
 namespace lectern::ui {
 
 Panels::Panels(forms::Window& form) : form_(form) {
-  Picture6.BorderStyle = 0;  // no edge: the tools belong to the text above them
+  Picture6.BorderStyle = 0;  // no border between the tools and the text above
 }
 
 std::vector<forms::PlacedControl*> Panels::Coloured() {

@@ -1,5 +1,5 @@
-// The panels of the main window, in which the features lie. Those that open over the reading area are hidden
-// at the start; the frames beyond the right edge are the program's storage and the keeper's bench.
+// The panels of the main window, which contain the features. Those that open over the text are hidden at the
+// start. The frames beyond the right edge hold storage and the maintenance tools.
 #pragma once
 
 #include <vector>
@@ -17,7 +17,7 @@ class Panels {
  public:
   explicit Panels(forms::Window& form);
 
-  // What a colour picked on the settings panel colours, in this order.
+  // The panels that take a colour chosen in the settings, in this order.
   std::vector<forms::PlacedControl*> Coloured();
 
   forms::PictureBox Picture6{form_, "Picture6"};  // the row of tool buttons
@@ -30,24 +30,21 @@ class Panels {
   forms::PictureBox frmhelp{form_, "frmhelp", {.visible = false, .name = "Help"}};         // help
   forms::PictureBox Picture17{form_, "Picture17", {.visible = false, .name = "Trivia"}};   // trivia
   forms::PictureBox Picture1{form_, "Picture1", {.visible = false, .name = "Bookmarks"}};  // bookmarks
-  // In the bookmarks: steps through the chapters.
+  // In the bookmarks panel: steps through the chapters.
   forms::PictureBox Picture2{
       Picture1, "Picture2", {.name = "Sweep the pointer to step through the chapters"}};
-  // Fonts and colours.
-  forms::PictureBox Picture23{form_, "Picture23", {.visible = false, .name = "Fonts and desktop"}};
-  forms::Frame frmd{form_, "frmd", {.visible = false, .name = "Dictionary"}};  // dictionary
-  // Second text pane.
-  forms::PictureBox Picture4{form_, "Picture4", {.visible = false, .name = "Second text"}};
+  forms::PictureBox Picture23{form_, "Picture23", {.visible = false, .name = "Fonts and desktop"}};  // fonts
+  forms::Frame frmd{form_, "frmd", {.visible = false, .name = "Dictionary"}};                // dictionary
+  forms::PictureBox Picture4{form_, "Picture4", {.visible = false, .name = "Second text"}};  // second pane
 
-  // In the search: progress through the whole text.
+  // In the search panel: progress through the whole text.
   forms::Frame frmscale{frms, "frmscale", {.visible = false, .name = "Progress"}};
 
   forms::Frame Frame1{form_, "Frame1"};     // storage: the folders
   forms::Frame FRMMARK{Frame1, "FRMMARK"};  // storage: takes the colour of the panels
-  forms::Label Label22{FRMMARK, "Label22", {.caption = "BOOK MARK"}};  // storage: heading of FRMMARK
-  // Keeper's tools: the concordance builder.
-  forms::Frame Frame2{form_, "Frame2", {.caption = "make concordance"}};
-  // Keeper's tools: upkeep of the pictures.
+  forms::Label Label22{FRMMARK, "Label22", {.caption = "BOOK MARK"}};     // storage: heading of FRMMARK
+  forms::Frame Frame2{form_, "Frame2", {.caption = "make concordance"}};  // tools: the concordance builder
+  // Tools: maintenance of the pictures.
   forms::Frame Frame5{form_, "Frame5", {.caption = "pictures", .visible = false}};
   forms::Frame Frame6{Frame5, "Frame6", {.caption = "needs"}};  // storage in Frame5: the picture lists
 };

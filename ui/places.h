@@ -1,6 +1,6 @@
-// Where the controls of a window stand: one table for each window, one line a control. Places are in pixels
-// at 96 dots an inch (15 twips), within the control's parent, at the size with which the window starts. The
-// controls of storage are marked as such by their anchor.
+// The positions of the controls: a table for each window, with a line for each control. They are in pixels at
+// 96 dpi (15 twips), within the control's parent, for the initial size of the window. Storage has its own
+// anchor.
 #pragma once
 
 #include <span>
@@ -10,19 +10,12 @@
 
 namespace lectern::ui {
 
-// How a text is set, beyond the window's own font.
+// How a text differs from the window's font.
+// clang-format off
 enum class Look {
-  kPlain,
-  kReading,
-  kStrong,
-  kHeading,
-  kTitle,
-  kSmall,
-  kFlushRight,
-  kCentred,
-  kCentredStrong,
-  kCentredSmall
+  kPlain, kReading, kStrong, kHeading, kTitle, kSmall, kFlushRight, kCentred, kCentredStrong, kCentredSmall
 };
+// clang-format on
 
 struct Place {
   std::string_view control;  // "lblc", "LBLMRK(2)"
@@ -31,8 +24,8 @@ struct Place {
   Look look = Look::kPlain;
 };
 
-// Puts the controls of a window in their places. Throws a std::logic_error that names the control where the
-// table has one that the window has not, or lacks one of the window's.
+// Positions the controls of a window. Throws a std::logic_error with the control's name unless table and
+// window have the same controls.
 void Apply(std::span<const Place> places, forms::Window& window);
 
 extern const std::span<const Place> kForm1Places;

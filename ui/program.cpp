@@ -36,7 +36,7 @@ void Program::Start() {
   Guard(forms::AfterFailure::kEndProgram, [this] { Form1_().Visible = true; });
 }
 
-// What handlers had written so far goes to the disk.
+// Closing the files writes what the handlers wrote to the disk.
 void Program::End(int status) {
   ended_ = true;
   status_ = status;
@@ -47,7 +47,7 @@ void Program::End(int status) {
 }
 
 void Program::Deliver(forms::Window& window, const std::function<void()>& event) {
-  // Asked ahead: the event may let its window go.
+  // Read first, because the event may delete its window.
   if (!ended_) Guard(window.AfterUntrappedFailure(), event);
 }
 

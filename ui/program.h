@@ -1,6 +1,6 @@
-// The whole program without its face: the five windows, and how what a person does reaches them.
+// The whole program without its display: the five windows and the delivery of events to them.
 //
-// A layer makes one Program, starts it, and brings everything in through Deliver, one event at a time.
+// A layer creates a Program, starts it, and passes each event to Deliver.
 #pragma once
 
 #include <functional>
@@ -20,25 +20,25 @@ class Program {
  public:
   explicit Program(forms::Services services);
 
-  // Makes Form1, which runs the start-up, and shows it. A failure ends the program, as in any event.
+  // Creates Form1, which runs the start-up, and shows it. A failure ends the program.
   void Start();
 
-  // Runs an event of a window to its end. A failure that nothing traps is handed to `report_failure`;
-  // unless the window goes on after failures, it ends the program.
+  // Runs an event of a window. A failure that is not trapped goes to `report_failure` and ends the program,
+  // unless the window goes on after failures.
   void Deliver(forms::Window& window, const std::function<void()>& event);
 
-  // One tick of every timer that is on when the round begins, or of those among them that are due; whether
-  // there was one.
+  // Ticks every timer that is on at the start of the call, or only those that are due. Returns whether any
+  // did.
   bool Tick();
   bool Tick(const std::function<bool(const forms::Timer&)>& due);
 
-  // The close box of a window: its Form_Unload runs, and the window goes or is hidden.
+  // Acts as the close box of a window: runs Form_Unload, and then deletes or hides the window.
   void Close(forms::Window& window);
 
-  // By its name, without regard to case; touching a window makes it. nullptr where there is none.
+  // Finds a window by name, ignoring case, and creates it if needed. Returns nullptr for an unknown name.
   forms::Window* Touch(std::string_view name);
 
-  // A routine of one of the windows; its window is nullptr where there is none of that name.
+  // A routine of a window; the window is nullptr if no window has a routine of that name.
   struct Routine {
     forms::Window* window = nullptr;
     std::function<void(const std::string& text)> run{};
@@ -52,7 +52,6 @@ class Program {
   std::function<void(const base::RunTimeError&)> report_failure;
 
  private:
-  // One of the windows there can be.
   struct Known {
     std::string_view name;
     std::function<forms::Window&()> touch;

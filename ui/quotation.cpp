@@ -10,26 +10,22 @@ namespace lectern::ui {
 
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
-
 struct Line {
   std::string_view number;  // of a verse; "" for any other line
-  std::string_view words;   // what is selected of it, trimmed
-  bool has_number;          // whether the number is selected too
+  std::string_view words;   // the selected ones, trimmed
+  bool has_number;          // the number is selected too
 };
 
 std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
+  const std::size_t first = text.find_first_not_of(" \t\r\n");
   return first == std::string_view::npos ? "" : text::TrimEnd(text.substr(first));
 }
 
-// The digits that a line begins with, if a blank follows them.
+// The digits at the start of the line, if a blank follows.
 std::string_view NumberOf(std::string_view line) {
   const std::size_t end = line.find_first_not_of("0123456789");
   return end == std::string_view::npos || line[end] != ' ' ? "" : line.substr(0, end);
 }
-
-bool IsHeadingOfChapter(std::string_view line) { return line.starts_with("Chap"); }
 
 // Positions in bytes.
 std::vector<Line> SelectedLines(std::string_view text, std::size_t from, std::size_t to) {
@@ -40,7 +36,7 @@ std::vector<Line> SelectedLines(std::string_view text, std::size_t from, std::si
     const std::string_view number = NumberOf(line);
     const std::size_t first = std::max(start + number.size(), from);
     const std::size_t last = std::min(end, to);
-    if (first < last && !IsHeadingOfChapter(line)) {
+    if (first < last && !line.starts_with("Chap")) {  // not the heading of the next chapter
       std::string_view words = text.substr(first, last - first);
       words = Trimmed(words.substr(0, words.find('\r')));
       if (!words.empty()) lines.push_back({number, words, from <= start});
@@ -56,11 +52,10 @@ std::string Quotation(std::string_view text, std::size_t start, std::size_t leng
                       const reader::ShownChapter& place) {
   const std::size_t from = text::ByteOf(text, start + 1);
   const std::size_t to = text::ByteOf(text, start + length + 1);
-  std::string quotation;
-  std::string_view first_verse;
-  std::string_view last_verse;
   const std::vector<Line> lines = SelectedLines(text, from, to);
   if (lines.empty()) return "";
+  std::string quotation;
+  std::string_view first_verse, last_verse;
   for (const Line& line : lines) {
     if (!quotation.empty()) quotation += '\n';
     if (lines.size() > 1 && line.has_number && !line.number.empty()) (quotation += line.number) += ' ';
@@ -71,11 +66,12 @@ std::string Quotation(std::string_view text, std::size_t start, std::size_t leng
   }
   std::string verses(first_verse);
   if (last_verse != first_verse) (verses += '-') += last_verse;
-  const std::string chapter = place.chapter.empty() ? "" : " " + place.chapter;
   quotation += " (";
-  quotation += place.chapter.empty() || verses.empty()
-                   ? place.book + chapter
-                   : reader::ReferenceText(place.book, place.chapter, verses);
+  if (!place.chapter.empty() && !verses.empty()) {
+    quotation += reader::ReferenceText(place.book, place.chapter, verses);
+  } else {
+    quotation += place.chapter.empty() ? place.book : place.book + " " + place.chapter;
+  }
   if (!place.version.empty()) (quotation += ", ") += place.version;
   return quotation += ')';
 }

@@ -1,5 +1,4 @@
-// A passage as a reader copies it: the selected words of a chapter and their place, as in
-// "Jesus wept. (John 11:35, KJV)".
+// The text that a person copies: the selected words and their place, as in "Jesus wept. (John 11:35, KJV)".
 #pragma once
 
 #include <string>
@@ -10,12 +9,12 @@
 
 namespace lectern::ui {
 
-// Quotes the selection of a pane that shows the chapter. A single verse loses its number; several keep
-// theirs, each on a line of its own. The heading of the next chapter is left out. Where the chapter is not
-// known, only the book is named. Returns "" where no words are selected.
+// Quotes the selection of a pane that shows the chapter. Several verses keep their numbers and are on
+// separate lines; a single verse loses its number. The heading of the next chapter is left out. If the
+// chapter is unknown, the place is only the book. Returns "" if no words are selected.
 std::string QuotationFrom(const forms::RichTextBox& pane, const reader::ShownChapter& place);
 
-// The same for `length` characters of a chapter's text from `start` on, counted from 0.
+// The same for `length` characters of a chapter's text from `start`, which counts from 0.
 std::string Quotation(std::string_view text, std::size_t start, std::size_t length,
                       const reader::ShownChapter& place);
 

@@ -4,10 +4,10 @@
 
 namespace lectern::ui {
 
+namespace {
+
 using enum forms::Anchor;
 using enum Look;
-
-namespace {
 
 // clang-format off
 // The client area is 618 by 443 pixels.
@@ -59,7 +59,7 @@ Form3::Form3(forms::Services services) : Window(services, "Form3", "Notes") {
 }
 
 Form5::Form5(forms::Services services) : Window(services, "Form5", "Print") {
-  Width = 4800 + forms::kFrameWidth;  // around the image as it is before it gets a picture
+  Width = 4800 + forms::kFrameWidth;  // fits the image while it is empty
   Height = 3600 + forms::kFrameHeight;
   Apply(kForm5Table, *this);
 }

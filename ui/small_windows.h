@@ -1,5 +1,4 @@
-// The windows that hold one feature each: the page that is printed, the notes, and the picture that is
-// printed.
+// The windows with a single feature.
 #pragma once
 
 #include "aids/notes.h"
@@ -13,14 +12,14 @@ class Form2 : public forms::Window {
   explicit Form2(forms::Services services);
 
   void Form_Load() override { page_.Form_Load(); }
-  // The page keeps its text.
+  // Hidden, so that the page keeps its text.
   forms::CloseBox OnCloseBox() const override { return forms::CloseBox::kHides; }
 
  private:
   aids::PrintedPage page_{*this};
 };
 
-// The notes. A failure in it is reported and the window goes on, so that nothing unsaved is lost.
+// The notes. After a failure the window goes on, so that unsaved text is not lost.
 class Form3 : public forms::Window {
  public:
   explicit Form3(forms::Services services);
