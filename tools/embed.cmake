@@ -16,12 +16,12 @@ namespace lectern::make_data {
 
 namespace {
 
-constexpr WrittenText kTexts[] = {
+constexpr WrittenText ${NAME}List[] = {
 ${entries}};
 
 }  // namespace
 
-const std::span<const WrittenText> ${NAME} = kTexts;
+const std::span<const WrittenText> ${NAME} = ${NAME}List;
 
 }  // namespace lectern::make_data
 ")
