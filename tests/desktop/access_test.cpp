@@ -1,4 +1,4 @@
-// The whole program as a screen reader is told of it: every window, every panel, and the keeper's bench.
+// The whole program as a screen reader hears it: every window, every panel, and the keeper's bench.
 #include <QAccessible>
 #include <QApplication>
 #include <QTest>

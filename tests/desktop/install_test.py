@@ -53,7 +53,7 @@ def look_at_what_is_installed(root):
 
 
 class Menu:
-    """Whoever starts the program from the menu, with a home of their own."""
+    """A person with a home of their own who starts the program from the menu."""
 
     def __init__(self, start, home):
         self.start = start

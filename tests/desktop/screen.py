@@ -1,6 +1,6 @@
 """A screen of its own with a window manager, a mouse, a keyboard and the ears of a screen reader.
 
-Everything that is clicked is found by what a screen reader is told of it, and everything that is expected is waited
+Everything that is clicked is found as a screen reader finds it, and everything that is expected is waited
 for. The texts are made up.
 """
 
@@ -89,10 +89,10 @@ class Screen:
         return None
 
     def find(self, role, name):
-        return wait_for(f"{role} {name!r}", lambda: self.look(role, lambda told: told == name))
+        return wait_for(f"{role} {name!r}", lambda: self.look(role, lambda found: found == name))
 
     def find_beginning(self, role, beginning):
-        return wait_for(f"{role} {beginning!r}", lambda: self.look(role, lambda told: told.startswith(beginning)))
+        return wait_for(f"{role} {beginning!r}", lambda: self.look(role, lambda found: found.startswith(beginning)))
 
     def takes_input(self, thing):
         """Whether keys and clicks come to the window that it is in."""
@@ -108,7 +108,7 @@ class Screen:
         places = []
 
         def look():
-            thing = self.look(role, lambda told: told == name)
+            thing = self.look(role, lambda found: found == name)
             if thing is None or not self.takes_input(thing):
                 return None
             places.append(self.place_of(thing))

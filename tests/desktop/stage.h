@@ -1,4 +1,4 @@
-// The sample window on a screen, with whoever uses it standing before it.
+// The sample window on a screen, and a person who uses it.
 #pragma once
 
 #include <QAbstractScrollArea>
