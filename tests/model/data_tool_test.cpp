@@ -7,9 +7,8 @@
 #include "reader/canon.h"
 #include "tests/kit/temporary_folder.h"
 #include "tools/make_data/dictionary.h"
-#include "tools/make_data/drawings.h"
-#include "tools/make_data/picture_table.h"
-#include "tools/make_data/pictures.h"
+#include "tools/make_data/plates/clip_art.h"
+#include "tools/make_data/plates/pictures.h"
 #include "tools/make_data/texts.h"
 #include "tools/make_data/version_files.h"
 #include "tools/make_data/written_texts.h"
@@ -83,17 +82,21 @@ TEST(Pictures, OfTheKeeperStayAsTheyAre) {
   folder.Write("pics2.dat", catalogue);
   folder.Write("picend.jpg", "my card");
   folder.Write("pics/mine.jpg", "mine");
-  for (const Drawing& drawing : kDrawings) {
-    const std::string name(drawing.name);
-    if (name != "ant" && name != "crown") folder.Write("pics/" + name + ".jpg", "painted on");
+  const Version text = ReadKingJames();
+  std::vector<plates::Plate> pictures = plates::Gallery(text).Plates();
+  for (const plates::Plate& drawing : plates::ClipArt()) pictures.push_back(drawing);
+  for (const plates::Plate& picture : pictures) {
+    if (picture.name != "ant" && picture.name != "lion") {
+      folder.Write("pics/" + picture.name + ".jpg", "painted on");
+    }
   }
-  folder.Write("pics/crown.JPG", "painted");
-  MakePictures(folder.Path());
+  folder.Write("pics/lion.JPG", "painted");
+  plates::MakePictures(folder.Path(), text);
   EXPECT_EQ(folder.Read("pics2.dat"), catalogue);
   EXPECT_EQ(folder.Read("picend.jpg"), "my card");
   EXPECT_EQ(folder.Read("pics/mine.jpg"), "mine");
-  EXPECT_EQ(folder.Read("pics/bee.jpg"), "painted on");
-  EXPECT_EQ(folder.Read("pics/crown.jpg"), "(missing)");
+  EXPECT_EQ(folder.Read("pics/The First Day.jpg"), "painted on");
+  EXPECT_EQ(folder.Read("pics/lion.jpg"), "(missing)");
   EXPECT_EQ(headless::DecodePicture(folder.Read("pics/ant.jpg")).Width(), 640);
   EXPECT_EQ(headless::DecodePicture(folder.Read("newpic.jpg")).Height(), 363);
 }
@@ -103,19 +106,19 @@ TEST(Pictures, AreDrawnAsLargeAsFits) {
   folder.Write("small.svg",
                "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 100 100'>"
                "<rect x='80' y='80' width='10' height='20' fill='#ff0000'/></svg>");
-  const forms::Picture drawn = headless::DecodePicture(DrawnAsJpeg(folder.Path() + "/small.svg"));
+  const forms::Picture drawn = headless::DecodePicture(plates::DrawnAsJpeg(folder.Path() + "/small.svg"));
   const auto is_red = [&](int x, int y) {
     const forms::Pixel pixel = drawn->At(x, y);
-    return (pixel & 0xFF) > 200 && ((pixel >> 8) & 0xFF) < 80;
+    return (pixel & 0xFF) > 150 && ((pixel >> 8) & 0xFF) < 80;
   };
   ASSERT_EQ(drawn.Width(), 640);
-  ASSERT_EQ(drawn.Height(), 480);
-  EXPECT_TRUE(is_red(320, 240) && is_red(320 - 100, 30) && is_red(320 + 100, 450));
-  EXPECT_FALSE(is_red(320 - 120, 240) || is_red(320, 16));
+  ASSERT_EQ(drawn.Height(), 436);
+  EXPECT_TRUE(is_red(320, 218) && is_red(320 - 80, 50) && is_red(320 + 80, 390));
+  EXPECT_FALSE(is_red(320 - 110, 218) || is_red(320, 26));
   folder.Write("empty.svg", "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 9 9'/>");
   folder.Write("none.svg", "no drawing");
-  EXPECT_THROW(DrawnAsJpeg(folder.Path() + "/empty.svg"), Obstacle);
-  EXPECT_THROW(DrawnAsJpeg(folder.Path() + "/none.svg"), Obstacle);
+  EXPECT_THROW(plates::DrawnAsJpeg(folder.Path() + "/empty.svg"), Obstacle);
+  EXPECT_THROW(plates::DrawnAsJpeg(folder.Path() + "/none.svg"), Obstacle);
 }
 
 TEST(Pictures, CreditTheArtistWhomTheDrawingNames) {
@@ -127,10 +130,10 @@ TEST(Pictures, CreditTheArtistWhomTheDrawingNames) {
                                                         {"Anonymous", ""}}) {
     folder.Write("a.svg", "<svg><metadata><dc:title>A bird</dc:title><dc:creator><cc:Agent><dc:title>" +
                               name + "</dc:title></cc:Agent></dc:creator></metadata></svg>");
-    EXPECT_EQ(ArtistOf(folder.Path() + "/a.svg"), artist);
+    EXPECT_EQ(plates::ArtistOf(folder.Path() + "/a.svg"), artist);
   }
   folder.Write("a.svg", "<svg><metadata><dc:title>A bird</dc:title><dc:creator/></metadata></svg>");
-  EXPECT_EQ(ArtistOf(folder.Path() + "/a.svg"), "");
+  EXPECT_EQ(plates::ArtistOf(folder.Path() + "/a.svg"), "");
 }
 
 TEST(HelpTopics, AreMadeFromTheirMarks) {

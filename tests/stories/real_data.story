@@ -17,20 +17,20 @@ click Form1.Command20
 
 # A reader colours a picture with the thickest brush, zooms and moves it, goes back to the newest state, and saves it.
 click Form1.imgp(0)
-  LBLPICP "earth", pick picture 640x480
+  LBLPICP "The First Day", pick picture 640x436
 click Form1.Command32; mousedown Form4.clrboxs(2) 1 0 5 5; click Form4.picpbs(4)
 mousedown Form4.picbox 1 0 40 40
-  Form4.clr2.BackColor 42495, picbox.Point(40,40) 42495, picbox.Point(40,52) 42495, picbox.Point(5,5) 16777215
+  Form4.clr2.BackColor 42495, picbox.Point(40,40) 41207, picbox.Point(40,52) 41207, picbox.Point(5,5) 14741750
 mousedown Form4.clrboxs(14) 1 0 5 5; mousedown Form4.picbox 1 0 40 40
-  Form4.picbox.Point(40,40) 9336
+  Form4.picbox.Point(40,40) 8304
 click Form4.cmdm(0); click Form4.cmdm(0); click Form4.imgs(0)
-  Form4.txt5 "2", picbox.Width 38400, picbox.Left -12992.5, picbox.Point(160,160) 9336
+  Form4.txt5 "2", picbox.Width 38400, picbox.Left -12992.5, picbox.Point(160,160) 8304
 click Form4.IMGSPB(4)
-  Form4.picbox picture 640x480, picbox.Left -592.5, picbox.Point(40,40) 42495
-click Form4.Command2 | input "Save Picture as" "Save Picture" "earth" -> "my earth"
+  Form4.picbox picture 640x436, picbox.Left -592.5, picbox.Point(40,40) 41207
+click Form4.Command2 | input "Save Picture as" "Save Picture" "The First Day" -> "my first day"
 click Form4.Command1
 # It stands on the strip behind the other pictures of its chapter, also after the program's next start.
-@restart; click Form1.SSCommand3; click Form1.imgp(2)
-  LBLPICP "my earth", lblvs "Genesis 1: 1", selfile(2) "PICTURES BY: Architetto…", lblp(7) "8", lblp(2) "1: 1"
+@restart; click Form1.SSCommand3; click Form1.SSCommand3; click Form1.imgp(0)
+  LBLPICP "my first day", lblvs "Genesis 1: 1", selfile(2) "PICTURES BY: Lectern", lblp(7) "13", lblp(2) "2: 7"
 click Form1.Command32
-  Form4.picbox.Point(40,40) 42495, picbox.Point(5,5) 16777215
+  Form4.picbox.Point(40,40) 41207, picbox.Point(5,5) 14741750

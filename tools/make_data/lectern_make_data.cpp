@@ -17,7 +17,7 @@
 #include "reader/books.h"
 #include "tools/make_data/dictionary.h"
 #include "tools/make_data/paint_files.h"
-#include "tools/make_data/pictures.h"
+#include "tools/make_data/plates/pictures.h"
 #include "tools/make_data/texts.h"
 #include "tools/make_data/version_files.h"
 #include "tools/make_data/written_texts.h"
@@ -104,7 +104,7 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   steps.Begin("Help", 4);
   WriteHelpTopics(folder);
   steps.Begin("Pictures", 4);
-  MakePictures(folder);
+  plates::MakePictures(folder, king_james);
   MakePaintFiles(folder);
   MakeSettings(folder);
   steps.Begin("Concordance of the first version", 36);

@@ -16,6 +16,7 @@ struct WrittenText {
 
 extern const std::span<const WrittenText> kHelpSources;    // one for each topic
 extern const std::span<const WrittenText> kTriviaSources;  // questions of the game
+extern const std::span<const WrittenText> kPlateTables;    // what the gallery's plates show
 
 struct TriviaQuestion {
   std::string question;

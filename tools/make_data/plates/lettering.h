@@ -1,0 +1,40 @@
+// Lettering in EB Garamond.
+#pragma once
+
+#include <cairo.h>
+#include <string>
+
+#include "tools/make_data/plates/style.h"
+
+namespace lectern::plates {
+
+struct Letters {
+  double size = 13;  // of the em, in pixels
+  bool is_italic = false;
+  bool has_small_capitals = false;
+  double spacing = 0;  // between letters
+};
+
+enum class Align { kLeft, kMiddle, kRight };
+
+struct Extent {
+  double width;
+  double ascent;   // of a capital, above the base line
+  double descent;  // below it
+};
+
+// Requires: EB Garamond is installed (RequireLettering).
+Extent Measure(const std::string& text, const Letters& letters);
+
+// One line, its base line at the point.
+void DrawText(cairo_t* context, const std::string& text, const Letters& letters, Point at, Align align,
+              Colour colour);
+
+// The same with a rim in the colour of the ground, so that lines below it do not touch the letters.
+void DrawTextWithRim(cairo_t* context, const std::string& text, const Letters& letters, Point at, Align align,
+                     Colour colour, Colour rim, double rim_width = 3);
+
+// An Obstacle where the typeface is not installed.
+void RequireLettering();
+
+}  // namespace lectern::plates
