@@ -167,8 +167,8 @@ Texts RandomPerson::Next(headless::Driver& driver, const std::string& folder) {
   if (kAsking.contains(name) && !OneIn(4)) {
     commands.push_back("answer " + (OneIn(2) ? Quoted(Text()) : std::string(OneIn(3) ? "no" : "yes")));
   }
-  if (name == "Form1.Command29") {
-    // Random numbers of this seed, so that the draws are the same each time.
+  if (control.Parent().ContainerName() == "Picture17") {
+    // Random numbers of this seed, so that the questions drawn are the same each time.
     std::string numbers = "random";
     for (int i = 0; i < 12; ++i) numbers += " 0." + std::to_string(10 + Below(90));
     commands.push_back(numbers);
