@@ -25,8 +25,8 @@ TextPositions::Measured TextPositions::Measure(std::string_view text) {
 
 void TextPositions::Read(std::string_view text) { marks_ = Measure(text).marks; }
 
-template <class Position>
-TextPositions::Mark TextPositions::LastMark(Position position, Position Mark::*count) const {
+template <class Position, class Count>
+TextPositions::Mark TextPositions::LastMark(Position position, Count count) const {
   const auto behind = std::upper_bound(marks_.begin(), marks_.end(), position,
                                        [count](Position at, const Mark& mark) { return at < mark.*count; });
   return behind == marks_.begin() ? Mark() : *std::prev(behind);

@@ -32,8 +32,8 @@ class TextPositions {
   static Measured Measure(std::string_view text);
 
   // The last mark at or before a position, in the count of the forms or of Qt; a mark at 0 if there is none.
-  template <class Position>
-  Mark LastMark(Position position, Position Mark::*count) const;
+  template <class Position, class Count>
+  Mark LastMark(Position position, Count count) const;
 
   std::vector<Mark> marks_;
 };
