@@ -91,8 +91,8 @@ class RichTextBox : public TextControl {
   std::size_t ByteOf(std::size_t position);  // the text's size where there is no such position
 
   TextRuns runs_;
-  // What was counted of a text that is not plain ASCII, until it changes: whoever goes through it find by
-  // find does not count it from its beginning each time.
+  // Counts over a text that is not plain ASCII, kept until it changes: otherwise a walk from find to find
+  // would count from the beginning each time.
   std::optional<std::size_t> length_;
   Place reached_;
   bool read_only_;
