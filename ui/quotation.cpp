@@ -5,6 +5,7 @@
 
 #include "base/text/characters.h"
 #include "reader/reference.h"
+#include "reader/word_blanks.h"
 
 namespace lectern::ui {
 
@@ -52,7 +53,13 @@ std::string Quotation(std::string_view text, std::size_t start, std::size_t leng
                       const reader::ShownChapter& place) {
   const std::size_t from = text::ByteOf(text, start + 1);
   const std::size_t to = text::ByteOf(text, start + length + 1);
-  const std::vector<Line> lines = SelectedLines(text, from, to);
+  const std::vector<std::size_t> blanks = reader::WordBlanks(text);
+  const auto shown = [&blanks](std::size_t byte) {
+    return byte -
+           static_cast<std::size_t>(std::lower_bound(blanks.begin(), blanks.end(), byte) - blanks.begin());
+  };
+  const std::string shown_text = reader::WithoutWordBlanks(text);
+  const std::vector<Line> lines = SelectedLines(shown_text, shown(from), shown(to));
   if (lines.empty()) return "";
   std::string quotation;
   std::string_view first_verse, last_verse;

@@ -157,6 +157,31 @@ TEST_F(Page, TellsTheControlWhatIsSelectedAndTakesNoLetters) {
   EXPECT_EQ(Edit()->textCursor().selectedText(), "2");
 }
 
+// What the search needs in a verse takes no part in what is seen and copied, and moves neither marks nor the
+// selection.
+TEST_F(Page, HidesTheBlanksThatWordsNeed) {
+  const std::string text = "1   ( Behold) Alas— \" woe       \r\n2   \" Blessed\"       \r\n";
+  Do([&] {
+    window->page.Text = text;
+    Mark("Blessed");
+    window->page.SelStart = 5;  // a blank
+    window->page.SelLength = 8;
+  });
+  EXPECT_EQ(Edit()->toPlainText(), "1   (Behold) Alas—\"woe\n2   \"Blessed\"\n");
+  const auto mark = Edit()->document()->findBlockByNumber(1).layout()->formats().last();
+  EXPECT_EQ(std::pair(mark.start, mark.length), std::pair(5, 2));
+  EXPECT_EQ(Edit()->textCursor().selectedText(), "Behold)");
+  Edit()->setTextCursor(Edit()->textCursor());
+  Do([] {});
+  EXPECT_EQ(window->page.SelStart, 5);
+  Edit()->setTextCursor(Edit()->document()->find("woe"));
+  Key("page", Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "woe");
+  Do([] {});
+  EXPECT_EQ(window->page.SelStart, 22);
+  EXPECT_EQ(window->page.Text, text);
+}
+
 // Every third character is beyond U+FFFF, every fifth is a line end.
 std::string OddText(int length) {
   std::string text;

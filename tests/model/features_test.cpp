@@ -9,6 +9,7 @@
 #include "forms/figures.h"
 #include "forms/rich_text_box.h"
 #include "gallery/picture_catalogue.h"
+#include "reader/word_blanks.h"
 #include "tests/kit/session.h"
 #include "tests/kit/test_window.h"
 #include "ui/quotation.h"
@@ -213,29 +214,43 @@ TEST(Today, IsTheDayWhereTheReaderIs) {
   EXPECT_EQ(days.size(), 2U);
 }
 
+TEST(WordBlanks, StandBeforeEveryWordInTheFileAndAreNotShown) {
+  for (const auto& [shown, in_file] : std::vector<std::pair<std::string, std::string>>{
+           {"\"Blessed are the poor\", (he said).", "\" Blessed are the poor\", ( he said)."},
+           {"'Tis \"'a man's' [not] word\"", "' Tis \" ' a man's' [ not] word\""},
+           {"Alas—woe! \"You—\" he went—\"no\"—on", "Alas— woe! \" You—\" he went— \" no\"— on"},
+           {"—all of Baal-zebub--he", "— all of Baal-zebub-- he"},
+           {"“‘So’ – and — so\"", "“ ‘ So’ – and — so\""}}) {
+    EXPECT_EQ(reader::WithWordBlanks(shown), in_file);
+    EXPECT_EQ(reader::WithoutWordBlanks("119 " + in_file + "       \r\n12  ( so)   "),
+              "119 " + shown + "\r\n12  (so)");
+  }
+  EXPECT_EQ(reader::WithoutWordBlanks("( no) verse   \r\n1. ( no)"), "( no) verse   \r\n1. ( no)");
+}
+
 // As copied from the first place where `from` is to the end of the first `to`.
 TEST(Quotation, SaysWhereTheWordsStand) {
   const std::string chapter =
       "A psalm · of David\r\n1   The LORD is my shepherd;       \r\n2   He maketh me to lie down: he leadeth "
-      "me.       \r\n10  The grün pastures.\r\nChapter 24\r\n";
+      "me.       \r\n10  ( The) \" grün\" pastures.\r\nChapter 24\r\n";
   struct Case {
     const char *from, *to, *quoted;
   };
   for (const auto& [from, to, quoted] : std::vector<Case>{
            {"LORD", "shepherd", "LORD is my shepherd (Psalms 23:1, KJV)"},
            {"grün", "grün", "grün (Psalms 23:10, KJV)"},
+           {"\" grün", "past", "\"grün\" past (Psalms 23:10, KJV)"},
            {"of David", "of David", "of David (Psalms 23, KJV)"},
            // The number of a single verse is left out, also where the number of the next one is selected.
            {"1   The", "shepherd;       \r\n", "The LORD is my shepherd; (Psalms 23:1, KJV)"},
            {"1   The", "\r\n2  ", "The LORD is my shepherd; (Psalms 23:1, KJV)"},
            {"shepherd", "pastures.",
-            "shepherd;\n2 He maketh me to lie down: he leadeth me.\n10 The grün pastures. (Psalms 23:1-10, "
-            "KJV)"},
+            "shepherd;\n2 He maketh me to lie down: he leadeth me.\n10 (The) \"grün\" pastures. (Psalms "
+            "23:1-10, KJV)"},
            // The heading of the next chapter is left out.
            {"A psalm", "24\r\n",
             "A psalm · of David\n1 The LORD is my shepherd;\n2 He maketh me to lie down: he leadeth me.\n10 "
-            "The grün "
-            "pastures. (Psalms 23:1-10, KJV)"},
+            "(The) \"grün\" pastures. (Psalms 23:1-10, KJV)"},
            {"Chapter 24", "24", ""},
            {"psalm", "", ""}}) {
     const std::size_t start = chapter.find(from);

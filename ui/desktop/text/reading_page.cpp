@@ -13,6 +13,7 @@
 #include <functional>
 #include <string>
 
+#include "reader/word_blanks.h"
 #include "ui/desktop/app/theme.h"
 #include "ui/desktop/text/page_setting.h"
 #include "ui/desktop/text/rich_text_view.h"
@@ -168,8 +169,8 @@ class ReadingPage : public RichTextView {
   void Load() {
     text_ = Control().Text;
     font_ = page_->font();
-    positions_.Read(text_);
-    const QString shown = ToDocument(text_);
+    positions_.Read(text_, reader::WordBlanks(text_));
+    const QString shown = ToDocument(reader::WithoutWordBlanks(text_));
     setting_.emplace(font_, shown);
     std::unique_ptr<QTextDocument> document = setting_->Document(shown, page_->viewport()->width());
     document->setDocumentMargin(kPageMargin);

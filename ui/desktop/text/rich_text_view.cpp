@@ -39,6 +39,13 @@ void RichTextView::SelectionMoved() {
 
 void RichTextView::CommitSelection(const QTextCursor& cursor) {
   assert(shown_);
+  // Several positions of the control may be one on the screen: only what a person selects changes them.
+  const auto known = static_cast<std::size_t>(Control().SelStart());
+  const auto known_end = known + static_cast<std::size_t>(Control().SelLength());
+  if (positions_.ToQt(known) == cursor.selectionStart() &&
+      positions_.ToQt(known_end) == cursor.selectionEnd()) {
+    return;
+  }
   const auto start = static_cast<int>(positions_.ToForms(cursor.selectionStart()));
   const int length = static_cast<int>(positions_.ToForms(cursor.selectionEnd())) - start;
   Control().PersonSelects(start, length);

@@ -4,13 +4,20 @@
 
 namespace lectern::desktop {
 
-TextPositions::Measured TextPositions::Measure(std::string_view text) {
+TextPositions::Measured TextPositions::Measure(std::string_view text,
+                                               const std::vector<std::size_t>& hidden) {
   Measured measured;
+  auto next_hidden = hidden.begin();
   Mark& end = measured.end;
   for (std::size_t byte = 0; byte < text.size(); ++byte) {
     const auto lead = static_cast<unsigned char>(text[byte]);
     if ((lead & 0xC0) == 0x80) continue;  // inside a character
     ++end.forms;
+    if (next_hidden != hidden.end() && *next_hidden == byte) {
+      ++next_hidden;
+      measured.marks.push_back(end);
+      continue;
+    }
     ++end.qt;
     if (lead == '\n' && byte > 0 && text[byte - 1] == '\r') {
       --end.qt;
@@ -23,7 +30,9 @@ TextPositions::Measured TextPositions::Measure(std::string_view text) {
   return measured;
 }
 
-void TextPositions::Read(std::string_view text) { marks_ = Measure(text).marks; }
+void TextPositions::Read(std::string_view text, const std::vector<std::size_t>& hidden) {
+  marks_ = Measure(text, hidden).marks;
+}
 
 template <class Position, class Count>
 TextPositions::Mark TextPositions::LastMark(Position position, Count count) const {
