@@ -147,8 +147,16 @@ TEST_F(Stage, ACanvasIsDrawnOnByKeys) {
   const auto keys = [this](std::initializer_list<Qt::Key> pressed) {
     for (const Qt::Key key : pressed) Key("canvas", key);
   };
+  const auto has_cross = [&] {
+    return canvas->grab().toImage().pixelColor(middle + QPoint(5, 0)) == QColor(Qt::black);
+  };
+  EXPECT_TRUE(has_cross());
+  Find("list")->setFocus();
+  canvas->setFocus(Qt::OtherFocusReason);
+  EXPECT_FALSE(has_cross());
   keys({Qt::Key_Right, Qt::Key_Left});  // the pen is up
   EXPECT_EQ(at(middle), ground);
+  EXPECT_TRUE(has_cross());
   keys({Qt::Key_Space, Qt::Key_Down});
   Key("canvas", Qt::Key_Right, Qt::ShiftModifier);
   constexpr forms::Pixel kInk = 0xFF000000U;

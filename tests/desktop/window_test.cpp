@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 
@@ -78,6 +79,26 @@ TEST_F(Stage, WhatStoodForAMomentNeverShows) {
   EXPECT_EQ(changes, 1);
   EXPECT_EQ(edit->text(), "1");
   EXPECT_EQ(Find<QLabel>("label")->text(), "");
+}
+
+TEST_F(Stage, AFrameThatFillsTheScreenStartsAtItsEdge) {
+  Do([this] {
+    window->Width = 900 * forms::kTwipsPerPixel;  // the screen has 800
+    window->Left = 15 * forms::kTwipsPerPixel;
+    window->Top = 25 * forms::kTwipsPerPixel;
+  });
+  EXPECT_EQ(view->Frame()->pos(), QPoint(0, 25));
+}
+
+TEST_F(Stage, AFailureIsReportedInABoxWithASign) {
+  bool has_sign = false;
+  QTimer::singleShot(0, [&] {
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    has_sign = box->icon() == QMessageBox::Critical && !box->iconPixmap().isNull();
+    box->accept();
+  });
+  platform.Report(base::RunTimeError(base::ErrorNumber::kDiskFull));
+  EXPECT_TRUE(has_sign);
 }
 
 // Options are one stop; the arrows go through them.

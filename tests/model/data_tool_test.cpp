@@ -40,14 +40,28 @@ TEST(Dictionary, ExplainsATopicWithAVerse) {
   // A topic that only refers to another takes its verse from there.
   const std::string lamp =
       "\"In the beginning there was a lamp, and Amram saw the lamp.\",\"Genesis 1:1\"\r\n";
-  EXPECT_EQ(RecordsOf("$$$BETH-ABARA\n<lb/>→ See <ref target=\"Nave:TOWN\">TOWN</ref>\n"
-                      "$$$LANTERN\n<lb/>→ See <ref target=\"Nave:LIGHT\">LIGHT</ref> <lb/>→ See <ref "
-                      "target=\"Nave:X\">X</ref>\n"
-                      "$$$LIGHT (A LAMP)\n<lb/>→ (A thing that shines) <ref osisRef=\"Gen.1\">Ge 1</ref>\n"
-                      "$$$NOWHERE\n<lb/>→ See <ref target=\"Nave:NOTHING\">NOTHING</ref>\n"),
-            "\"Beth-Abara\",\"See Town.\",\"And Bethabara was a town.\",\"Genesis 1:2\"\r\n"
-            "\"Lantern\",\"See Light; X.\"," +
-                lamp + "\"Light (a Lamp)\",\"A thing that shines.\"," + lamp);
+  EXPECT_EQ(
+      RecordsOf(
+          "$$$BETH-ABARA\n<lb/>→ See <ref target=\"Nave:TOWN\">TOWN</ref>\n"
+          "$$$LANTERN\n<lb/>→ See <ref target=\"Nave:LIGHT\">LIGHT</ref> <lb/>→ See <ref "
+          "target=\"Nave:X\">X</ref>\n"
+          "$$$LIGHT (A LAMP)\n<lb/>→ (A thing that shines) <ref osisRef=\"Gen.1\">Ge 1</ref>\n"
+          "$$$NAME\n<lb/>→ Given <ref osisRef=\"Gen.1.1\">Ge 1:1</ref> <ref osisRef=\"Exod.6.16\">Ex</ref>\n"
+          "$$$NOWHERE\n<lb/>→ See <ref target=\"Nave:NOTHING\">NOTHING</ref>\n"),
+      "\"Beth-Abara\",\"See Town.\",\"And Bethabara was a town.\",\"Genesis 1:2\"\r\n"
+      "\"Lantern\",\"See Light; X.\"," +
+          lamp + "\"Light (a Lamp)\",\"A thing that shines.\"," + lamp +
+          "\"Name\",\"Given.\",\"These are the names.\",\"Exodus 6:16\"\r\n");
+}
+
+TEST(OwnText, MayBeInOsis) {
+  const TemporaryFolder folder;
+  folder.Write("own.xml",
+               "<osis><verse osisID='Gen.1.2'/><verse osisID=\"Gen.1.1\">In the <i>beginning</i></verse> of"
+               "<verse sID=\"a\" osisID=\"Exod.6.20\"/>And<note>1</note> she<verse eID=\"a\"/> bare</osis>");
+  const Version own = ReadOwnText(folder.Path() + "/own.xml");
+  EXPECT_EQ(own.VerseCount(), 2);
+  EXPECT_EQ(own.books[0].at(1).at(1) + "|" + own.books[1].at(6).at(20), "In the beginning|And she");
 }
 
 TEST(Dictionary, KeepsQuotesOutOfTheFieldsJoinsEqualHeadingsAndStopsAtAnItemsEnd) {

@@ -1,4 +1,5 @@
 // Rules of the features that a story cannot reach.
+#include <array>
 #include <cstdlib>
 #include <ctime>
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include "gallery/picture_catalogue.h"
 #include "reader/word_blanks.h"
 #include "tests/kit/session.h"
+#include "tests/kit/small_world.h"
 #include "tests/kit/test_window.h"
 #include "ui/quotation.h"
 #include "ui/small_windows.h"
@@ -67,6 +69,24 @@ TEST_F(Printing, ShowsAPictureInAWindowOfItsSizeAndPrintsItWithItsButton) {
   form.picture.PrintPaintPicture({});
   EXPECT_FALSE(image.Picture());
   EXPECT_EQ(form.Width, 533 * 15);
+}
+
+TEST(Focus, GoesWhereThePersonGoesOn) {
+  const TemporaryFolder folder;
+  LaySmallWorld(folder.Path());
+  Session session(folder.Path());
+  session.Do("click Form1.cc4");
+  for (const auto& [step, window, focus] :
+       std::vector<std::array<const char*, 3>>{{"click Form1.Command16", "Form1", "txts"},
+                                               {"click Form1.Command29", "Form1", "Command31"},
+                                               {"click Form1.Command31", "Form1", "Command29"},
+                                               {"click Form1.cc0", "Form3", "File1"},
+                                               {"click Form3.File1 0", "Form3", "txthelp"},
+                                               {"click Form1.Command32", "Form4", "Command4"}}) {
+    session.Do(step);
+    const forms::Control* const there = session.driver.Program().Touch(window)->Focus();
+    EXPECT_EQ(there == nullptr ? "nothing" : there->FullName(), focus) << step;
+  }
 }
 
 void WriteQuestions(const TemporaryFolder& folder, int count) {

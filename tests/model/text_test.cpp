@@ -20,8 +20,16 @@ TEST(Characters, AreCountedFromOneWhateverTheirBytes) {
 }
 
 TEST(LetterCase, ChangesTheScriptsThatPeopleWriteIn) {
-  EXPECT_EQ(Upper("grace, ñandú, ἀρχή, мир, ÿ"), "GRACE, ÑANDÚ, ἀΡΧΉ, МИР, Ÿ");
-  EXPECT_EQ(Lower("ÀÉÎ ΩΣ МИР ŠŽ × 12"), "àéî ωσ мир šž × 12");
+  const std::string capitals =
+      "ABZ ÀÁÖ×ØÙÞß ĀĂĮ ĲĴĶ ĹĻŇ ŊŌŶ ŹŻŽŸ ΈΉΊ "
+      "ΑΒΡ ΣΤΫ ЀЁЏ АБЯ ѠѢҀ ҊҌҾ ӐӒԮ ḀḂẔ ẠẢỾ ἀ12";
+  const std::string smalls =
+      "abz àáö×øùþß āăį ĳĵķ ĺļň ŋōŷ źżžÿ έήί "
+      "αβρ στϋ ѐёџ абя ѡѣҁ ҋҍҿ ӑӓԯ ḁḃẕ ạảỿ ἀ12";
+  for (const std::string& text : {capitals, smalls}) {
+    EXPECT_EQ(Upper(text), capitals);
+    EXPECT_EQ(Lower(text), smalls);
+  }
   EXPECT_TRUE(EqualFolded("Ünïcode", "üNÏCODE"));
   EXPECT_FALSE(EqualFolded("abc", "abcd"));
 }

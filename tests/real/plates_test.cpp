@@ -73,6 +73,13 @@ TEST(Plates, MapsNameWhatTheirPassageNames) {
     }
     ExpectNamesInPassage(section, names);
   }
+  // What waters.txt changes: a lake that was drained since, and the sea above a dam.
+  const auto is_water = [&](const char* region, Place place) {
+    const MapGround& ground = grounds.Of(region);
+    return ground.IsWater(ground.Scale().At(place));
+  };
+  EXPECT_TRUE(is_water("Galilee", {35.605, 33.07}));
+  EXPECT_FALSE(is_water("Nations", {33, 23.72}));
 }
 
 template <class Plate>

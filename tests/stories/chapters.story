@@ -41,9 +41,9 @@ set Form1.lblc.Caption = ""; set Form1.lblc.Caption = "3"
   rtxt "1   In the evening they lit a lamp.…"
 
 # A book without a heading, an empty one, one that ends in a heading, one heading behind another.
-@write KJV/Ruth.txt | no heading | last line
+@write KJV/Ruth.txt | no heading | the next line
 click Form1.lst "Ruth"
-  rtxt "last line\r\n"
+  rtxt "the next line\r\n"
 @write KJV/Ruth.txt ""
 click Form1.lst "Ruth"
   rtxt "\r\n"

@@ -15,7 +15,8 @@ click Form1.Command32
 @copy picend.jpg newpic.jpg; click Form4.Command5
   Form4.picbox picture 1x1
 set Form4.picbox.Width = 600; set Form4.picbox.Height = 600
-  Form4.picbox.Point(20,20) 16777215
+  Form4.picbox.Point(20,20) 16777215, picbox.Point(-1,0) -1
+set Form4.picbox.DrawWidth = 32768 | error: run-time error 380 "Invalid property value"
 # Before a swatch or a brush is clicked, a stroke is seen but not part of the picture. ODDITY(first-strokes-fade)
 mousedown Form4.picbox 1 0 20 20
   Form4.picbox.Point(20,20) 16777215

@@ -119,7 +119,7 @@ run 2 | ran 2 ticks
 click Form1.imgp(0); click Form1.Command37
   tmrpic disabled
 call ListChapterPictures
-  tmrpic enabled
+  tmrpic enabled, picnm.Max 1
 scroll Form1.scr 1
   tmrpic disabled
 # No code starts this timer; it shows an empty box and starts itself again.

@@ -40,7 +40,7 @@ start
   SSCommand1 "‹", SSCommand2 "›", Command49 "Add 2 Picture File", Command45 "Remove Duplicate"
   Command47 "Remove All", Command46 "Close", Command38 "Command38", Command40 "list?", NME "NME"
   Command33 "CONVERT FILE", Picture1 hidden, frms hidden, frmc hidden, frmd hidden, Picture17 hidden, Picture23 hidden
-  frmhelp hidden, FRMNOTE hidden
+  frmhelp hidden, FRMNOTE hidden, Picture2 picture 190x44, Picture2.Point(169,21) 9539985, Picture2.Point(162,14) 9539985
   Form2.Height 7050, Text1 "Text1", Command1 "Print", Command2 "Cancel"
   Form3.lblname "NAME", lblc "Label1", txthelp "RichTextBox1\r\n", Command1 "Open", Command13 "Save"
   Form3.Command12 "Close", Label17 "Notes", Label2 "Click file above to open or Create New File"
