@@ -75,7 +75,7 @@ TEST(Focus, GoesWhereThePersonGoesOn) {
   const TemporaryFolder folder;
   LaySmallWorld(folder.Path());
   Session session(folder.Path());
-  session.Do("click Form1.cc4");
+  session.Do("click Form1.cc4", "random 0.5 0.5");
   for (const auto& [step, window, focus] :
        std::vector<std::array<const char*, 3>>{{"click Form1.Command16", "Form1", "txts"},
                                                {"click Form1.Command29", "Form1", "Command31"},
