@@ -105,7 +105,10 @@ std::size_t RichTextBox::ByteOf(std::size_t position) {
 void RichTextBox::LoadFile(std::string_view path) {
   files::Contents contents;
   HostWindow().Files().Read(path, contents);
-  const std::string_view bytes = contents.Bytes();
+  LoadBytes(contents.Bytes());
+}
+
+void RichTextBox::LoadBytes(std::string_view bytes) {
   Show(LooksLikeRtf(bytes) ? ReadRtf(bytes) : RichText{WithCrLf(files::Decode(bytes)), {}});
 }
 

@@ -41,6 +41,7 @@ class RichTextBox : public TextControl {
   // Replaces the whole content from a file: rich text where the file begins as such, plain text where not.
   // Change runs, also where the text is the same.
   void LoadFile(std::string_view path);
+  void LoadBytes(std::string_view bytes);  // as from a file that holds them
 
   // Replaces the whole content by rich text.
   void Show(RichText content);

@@ -1,7 +1,11 @@
 #include "reader/chapter_store.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include "base/errors.h"
 #include "base/files/record_reader.h"
+#include "base/files/text_encoding.h"
 #include "base/text/characters.h"
 #include "base/text/numbers.h"
 #include "reader/reader.h"
@@ -10,8 +14,7 @@ namespace lectern::reader {
 
 namespace {
 
-constexpr int kBook = 1;  // slots
-constexpr int kScratch = 2;
+constexpr int kBook = 1;  // slot
 
 constexpr std::string_view kChapterMark = "Chap";
 
@@ -39,31 +42,41 @@ void ChapterStore::Load() {
   files::FileSlots& slots = reader_.form.Slots();
   const base::Ignoring trap{[&] { slots.Close(kBook); }};
   if (!trap([&] { slots.OpenForReading(kBook, reader_.BookFile(reader_.Stem())); })) return;
-  const std::string scratch = reader_.Dir3.Path + "\\temp.txt";
-  // Lines that an interrupted run left in the scratch file come first.
-  bool written = trap([&] { slots.OpenForAppending(kScratch, scratch); });
-  std::string held;
-  const bool found = CopyChapter(trap, held);
+  std::string text = TakeScratchFile();
+  const bool found = CopyChapter(trap, text);
   slots.Close(kBook);
-  // ODDITY(next-heading): the last line read is written too. It is the heading of the next chapter or the
-  // last line of the book.
-  written = trap([&] { slots.PrintLine(kScratch, held); }) && written;
-  written = trap([&] { slots.Close(kScratch); }) && written;
-  // The pane does not show a chapter that a full disk cut off.
-  if (written && trap([&] { reader_.rtxt.LoadFile(scratch); })) {
-    shown_ = {reader_.Book(), found ? reader_.Chapter() : "", std::string(reader_.CurrentVersion().label)};
-  }
-  trap([&] { reader_.form.Files().Delete(scratch); });
+  reader_.rtxt.LoadBytes(text);
+  shown_ = {reader_.Book(), found ? reader_.Chapter() : "", std::string(reader_.CurrentVersion().label)};
 }
 
-// Copies the chapter, except the last line read (`held`), to the scratch file. Returns whether the book has
-// the chapter. A failure closes the book, which ends the loop.
-bool ChapterStore::CopyChapter(const base::Ignoring& trap, std::string& held) {
+// Returns the lines of a scratch file, which come first, and deletes it. The data folder may be somebody
+// else's: anything of that name that is not a plain file is left alone.
+std::string ChapterStore::TakeScratchFile() const {
+  const files::FileSystem& files = reader_.form.Files();
+  std::string lines;
+  const base::Ignoring ignore;
+  ignore([&] {
+    // The name is known to the letter. Comparing all names of the folder would take as long as the book.
+    const std::string path = files.HostPath(reader_.Dir3.Path()) + "/temp.txt";
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(std::filesystem::symlink_status(path, failure))) return;
+    files::Contents contents;
+    files.Read(path, contents);
+    lines = contents.Bytes();
+    files.Delete(path);
+  });
+  return lines;
+}
+
+// Appends the chapter, in the encoding of files, and the last line read. Returns whether the book has the
+// chapter. A failure closes the book, which ends the loop.
+bool ChapterStore::CopyChapter(const base::Ignoring& trap, std::string& text) {
   files::FileSlots& slots = reader_.form.Slots();
   int counter = 0;  // 16 bits
   bool done = false;
   std::string_view line;
   const auto more = [&] { return slots.IsOpen(kBook) && !slots.EndOfFile(kBook); };
+  const auto copy_line = [&] { text.append(files::Encode(line)).append("\r\n"); };
   while (!done && more()) {
     line = slots.ReadLineStarting(kBook, kChapterMark);
     if (!IsChapterLine(line)) continue;  // the book's last line
@@ -74,12 +87,14 @@ bool ChapterStore::CopyChapter(const base::Ignoring& trap, std::string& held) {
     trap([&] { wanted = text::ToNumber(reader_.Chapter()) == counter; });
     if (!wanted) continue;
     while (!IsChapterLine(line) && more()) {
-      trap([&] { slots.PrintLine(kScratch, line); });
+      copy_line();
       trap([&] { line = slots.ReadLine(kBook); });
     }
     done = true;
   }
-  held = line;
+  // ODDITY(next-heading): the last line read is copied too. It is the heading of the next chapter or the
+  // last line of the book.
+  copy_line();
   return done;
 }
 

@@ -1,5 +1,6 @@
 // Loads a chapter of a book's file into the pane. It reads the file from the first line to the end of the
-// chapter, copies the chapter to the scratch file `temp.txt`, and has the pane load that. Nothing is cached.
+// chapter. Nothing is cached, and nothing is written, so that a chapter can be read on a full disk. What an
+// earlier version left in its scratch file `temp.txt` is shown before the next chapter, once.
 //
 // A book file has three kinds of lines: chapter lines, which begin with "Chap", verse lines, which begin with
 // a digit that no "-" follows, and other lines. The rest of a chapter line is not read: chapters are counted.
@@ -30,13 +31,14 @@ class ChapterStore {
  public:
   explicit ChapterStore(Reader& the_reader) : reader_(the_reader) {}
 
-  // Loads the chapter at the reader's position. If that fails, the pane keeps its text.
+  // Loads the chapter at the reader's position. If the book cannot be opened, the pane keeps its text.
   void Load();
 
   const ShownChapter& Shown() const { return shown_; }
 
  private:
-  bool CopyChapter(const base::Ignoring& trap, std::string& held);
+  std::string TakeScratchFile() const;
+  bool CopyChapter(const base::Ignoring& trap, std::string& text);
 
   Reader& reader_;
   ShownChapter shown_;

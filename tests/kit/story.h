@@ -27,7 +27,7 @@
 //
 //   @data small|empty|real|…     which one (the first line; small where it is left out)
 //   @write FILE · @append FILE   with lines like those that a step prints, or with the one "text" beside it
-//   @delete FILE · @copy A B · @folder NAME
+//   @delete FILE · @copy A B · @folder NAME · @link NAME TARGET
 //   @show FILE                   prints its lines; "missing", "empty"
 //   @files FOLDER                prints the names in it
 //   @changes FILE [OTHER]        prints what FILE has changed since it, or OTHER, was last written or shown,

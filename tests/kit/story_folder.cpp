@@ -41,6 +41,8 @@ std::optional<Lines> StoryFolder::Run(const std::string& command, const std::str
     fs::copy(path, folder_ / second, fs::copy_options::recursive);
   } else if (command == "@folder") {
     fs::create_directories(path);
+  } else if (command == "@link") {
+    fs::create_symlink(second, path);
   } else {
     return std::nullopt;
   }

@@ -62,11 +62,13 @@ click Form1.lst "Malachi"
 click Form1.lst "Jude"; set Form1.lblc.Caption = ""
 set Form1.lblbook.Caption = "Genesis"; set Form1.lblbk.Caption = "Genesis"; set Form1.lblc.Caption = "2"
   rtxt "1   A stranger came by the road at noon.…Chapter 3\r\n", scr 1, scr.Max 1
-# A scratch file that cannot be written: the pane keeps its text, the rest of the load runs.
+# Anything else that has the scratch file's name is left alone, and so is what a link points to.
 @folder KJV/temp.txt; click Form1.lst "Exodus"
-  rtxt "1   A stranger came by the road at noon.…Chapter 3\r\n", scr.Max 2
-@delete KJV/temp.txt; click Form1.lst "Jude"
+  rtxt "1   The people went out…", scr.Max 2
+@delete KJV/temp.txt; @write note.not | mine
+@link KJV/temp.txt ../note.not; click Form1.lst "Jude"
   rtxt "1   A short letter to the house by the river.       \r\n"
+@show note.not | mine
 
 # The person who prepares the data has the chapters counted; the reader's bar follows the counts.
 @data empty
