@@ -91,7 +91,7 @@ def is_in_front(program):
 def start_for_the_first_time(menu, screen, home):
     # A package is missing: nothing is left behind.
     bare = menu.click(PATH="/nowhere")
-    screen.find_beginning("label", "The program 'bible' is missing. Install bible-kjv")
+    screen.find_beginning("label", "The program 'mod2imp' is missing. Install libsword-utils")
     press(screen, "Close")
     expect("a start that failed says so", end_of(bare) == 1)
     menu.leaves()

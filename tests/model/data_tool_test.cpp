@@ -19,7 +19,7 @@ namespace {
 
 // From a text in which two names, a town and a lamp are mentioned.
 std::string RecordsOf(const std::string& topics) {
-  Version text{std::vector<Book>(66), ""};
+  Version text{std::vector<Book>(66), "", ""};
   text.books[0][1] = {{1, "In the beginning there was a lamp, and Amram saw the lamp."},
                       {2, "And Bethabara was a town."},
                       {3, "They said \"Peace\" to Amram, and he was glad of his peace."}};
@@ -81,12 +81,21 @@ TEST(BookFiles, OfAPersonAreNotReplacedByTheStandIn) {
   folder.Write("NGenesis.txt", "Chapter 1\r\n1   My own text.       \r\n");
   folder.Write("NExodus.txt", "Chapter 1 (Stand-in)\r\n1   Made before.       \r\n");
   folder.Write("NLeviticus.txt", "");
-  Version stand_in{.books = std::vector<Book>(reader::kCanon.size()), .chapter_remark = "(Stand-in)"};
-  for (std::size_t book = 0; book < 4; ++book) stand_in.books[book][1][1] = "Made now.";
-  WriteStandIn(stand_in, folder.Path(), "N");
-  EXPECT_EQ(folder.Read("NGenesis.txt"), "Chapter 1\r\n1   My own text.       \r\n");
-  for (const char* name : {"NExodus.txt", "NLeviticus.txt", "NNumbers.txt"}) {
-    EXPECT_EQ(folder.Read(name), "Chapter 1 (Stand-in)\r\n1   Made now.       \r\n") << name;
+  folder.Write("Numbers.txt", "my copy");
+  Version stand_in{std::vector<Book>(reader::kCanon.size()), "Stand-in", "free"};
+  for (std::size_t book = 0; book < 4; ++book) stand_in.books[book][1][2] = "(Made now.";
+  for (int twice = 0; twice < 2; ++twice) {
+    WriteStandIn(stand_in, folder.Path(), "N");
+    for (const char* name : {"NGenesis.txt", "Genesis.txt"}) {
+      EXPECT_EQ(folder.Read(name), "Chapter 1\r\n1   My own text.       \r\n") << name;
+    }
+    for (const char* name : {"NExodus.txt", "NLeviticus.txt", "NNumbers.txt", "Exodus.txt"}) {
+      EXPECT_EQ(folder.Read(name),
+                "Chapter 1 (Stand-in)\r\n1   [ not in this version]       \r\n"
+                "2   ( Made now.       \r\nStand-in, free\r\n")
+          << name;
+    }
+    EXPECT_EQ(folder.Read("Numbers.txt"), "my copy");
   }
 }
 

@@ -8,6 +8,7 @@
 #include "tests/kit/temporary_folder.h"
 #include "tests/robust/fuzz.h"
 #include "tools/make_data/dictionary.h"
+#include "tools/make_data/markup.h"
 #include "tools/make_data/texts.h"
 #include "tools/make_data/written_texts.h"
 #include "ui/headless/headless_platform.h"

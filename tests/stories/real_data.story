@@ -11,8 +11,9 @@ type Form1.txts "in the beginning"; click Form1.Command22; run | ran 66 ticks
 # The first candidate decides a verse: "loved" in front of "love" loses it, "gods" in front of "god".
 type Form1.txts "love"; click Form1.Command22; run | ran 66 ticks
   text5 "272"
+# A psalm's title is found as well: "[A Prayer of Moses the man of God.]"
 type Form1.txts "god"; type Form1.txts2 "moses"; click Form1.Command22; run | ran 66 ticks
-  text5 "80"
+  text5 "81"
 click Form1.Command20
 
 # A reader colours a picture with the thickest brush, zooms and moves it, goes back to the newest state, and saves it.

@@ -1,8 +1,5 @@
 #include "tools/make_data/texts.h"
 
-#include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -15,6 +12,7 @@
 #include "base/text/characters.h"
 #include "reader/canon.h"
 #include "reader/reference.h"
+#include "tools/make_data/markup.h"
 
 namespace lectern::make_data {
 
@@ -24,115 +22,6 @@ std::size_t Version::VerseCount() const {
     for (const auto& [number, chapter] : book) count += chapter.size();
   }
   return count;
-}
-
-namespace {
-
-// Elements whose contents do not belong to the text.
-bool IsLeftOut(std::string_view element) { return element == "note" || element == "title"; }
-
-std::string_view ElementName(std::string_view tag) {
-  if (tag.starts_with('/')) tag.remove_prefix(1);
-  return tag.substr(0, tag.find_first_of(" \t\r\n/"));
-}
-
-std::string WithoutTags(std::string_view markup) {
-  std::string words;
-  int left_out = 0;  // how deep inside elements that are left out
-  while (!markup.empty()) {
-    const std::size_t open = std::min(markup.find('<'), markup.size());
-    if (left_out == 0) words.append(markup.substr(0, open));
-    markup.remove_prefix(open);
-    if (markup.empty()) break;
-    const std::size_t close = std::min(markup.find('>'), markup.size() - 1);
-    const std::string_view tag = markup.substr(1, close - 1);
-    const std::string_view element = ElementName(tag);
-    if (IsLeftOut(element) && !tag.ends_with('/')) {
-      left_out = std::max(left_out + (tag.starts_with('/') ? -1 : 1), 0);
-    }
-    // A note may be all that stands between two words; a line of verse ends without a blank.
-    if (IsLeftOut(element) || element == "l" || element == "lb" || element == "div") words.push_back(' ');
-    markup.remove_prefix(close + 1);
-  }
-  return words;
-}
-
-// The character of "#8217", "#x2019", "amp"; "" if there is none.
-std::string Referenced(std::string_view reference) {
-  constexpr std::array<std::pair<std::string_view, const char*>, 5> kNamed = {
-      {{"amp", "&"}, {"lt", "<"}, {"gt", ">"}, {"quot", "\""}, {"apos", "'"}}};
-  for (const auto& [name, character] : kNamed) {
-    if (reference == name) return character;
-  }
-  if (!reference.starts_with('#')) return {};
-  reference.remove_prefix(1);
-  const bool hexadecimal = reference.starts_with('x');
-  if (hexadecimal) reference.remove_prefix(1);
-  unsigned number = 0;
-  const auto [end, failure] =
-      std::from_chars(reference.data(), reference.data() + reference.size(), number, hexadecimal ? 16 : 10);
-  std::string character;
-  if (failure == std::errc{} && number > 0 && number < 0x110000) text::AppendCharacter(character, number);
-  return character;
-}
-
-std::string WithCharacters(std::string_view words) {
-  std::string result;
-  for (std::size_t at = 0; at < words.size(); ++at) {
-    const std::size_t end = words[at] == '&' ? words.find(';', at) : std::string_view::npos;
-    const std::string character =
-        end == std::string_view::npos ? std::string() : Referenced(words.substr(at + 1, end - at - 1));
-    if (character.empty()) {
-      result.push_back(words[at]);
-    } else {
-      result.append(character);
-      at = end;
-    }
-  }
-  return result;
-}
-
-std::string WithPlainQuotes(std::string_view words) {
-  std::string result;
-  for (std::size_t at = 0; at < words.size();) {
-    switch (const char32_t character = text::NextCharacter(words, at)) {
-      case U'‘':
-      case U'’':
-        result.push_back('\'');
-        break;
-      case U'“':
-      case U'”':
-        result.push_back('"');
-        break;
-      case U'\u00A0':
-        result.push_back(' ');
-        break;
-      default:
-        text::AppendCharacter(result, character);
-    }
-  }
-  return result;
-}
-
-std::string WithSingleBlanks(std::string_view words) {
-  std::string result;
-  for (const char c : words) {
-    const bool blank = c == ' ' || c == '\t' || c == '\r' || c == '\n';
-    const bool closes = std::string_view(",.;:!?)").find(c) != std::string_view::npos;
-    if (blank) {
-      if (!result.empty() && result.back() != ' ') result.push_back(' ');
-    } else {
-      if (closes && !result.empty() && result.back() == ' ') result.pop_back();
-      result.push_back(c);
-    }
-  }
-  return std::string(text::TrimEnd(result));
-}
-
-}  // namespace
-
-std::string PlainWords(std::string_view markup) {
-  return WithSingleBlanks(WithPlainQuotes(WithCharacters(WithoutTags(markup))));
 }
 
 namespace {
@@ -150,7 +39,7 @@ std::string& VerseAt(Version& version, const reader::Reference& at) {
   return version.books[static_cast<std::size_t>(at.book)][at.chapter][at.verse];
 }
 
-Version EmptyVersion() { return {std::vector<Book>(reader::kCanon.size()), ""}; }
+Version EmptyVersion() { return {std::vector<Book>(reader::kCanon.size()), "", ""}; }
 
 // One verse a line.
 Version FromLines(std::string_view text) {
@@ -189,52 +78,59 @@ std::string OutputOf(const std::string& command, const std::string& program, con
   return output;
 }
 
-Version ReadKingJames() {
-  Version version =
-      FromLines(OutputOf("bible -f 'gen1:1-rev22:21' </dev/null", "bible", "bible-kjv bible-kjv-text"));
-  RequireWhole(version, "The program 'bible'");
-  return version;
-}
-
-Version ReadWorldEnglish() {
-  const std::string text =
-      OutputOf("mod2imp engWEB2015eb </dev/null", "mod2imp", "libsword-utils sword-text-web");
-  Version version = EmptyVersion();
-  version.chapter_remark = "(World English Bible)";
-  files::RecordReader lines(text);
-  std::optional<reader::ReadReferenceResult> at;
-  std::string markup;
-  const auto put = [&] {
-    if (at) {
-      // What follows the end of a chapter is matter between books: a glossary, an introduction.
-      const std::string_view verse = std::string_view(markup).substr(0, markup.find("<chapter eID"));
-      VerseAt(version, at->reference) = PlainWords(verse);
-    }
-    markup.clear();
-  };
-  while (!lines.AtEnd()) {
-    const std::string_view line = lines.Line();
-    if (line.starts_with("$$$")) {
-      put();
-      at = ReadVerseReference(line.substr(3));
-    } else {
-      markup.append(line).append(1, ' ');
-    }
-  }
-  put();
-  RequireWhole(version, "The text engWEB2015eb");
-  return version;
-}
-
 namespace {
 
-std::string_view Attribute(std::string_view tag, std::string_view name) {
-  const std::string start = " " + std::string(name) + "=\"";
-  const std::size_t at = tag.find(start);
-  if (at == std::string_view::npos) return {};
-  const std::string_view value = tag.substr(at + start.size());
-  return value.substr(0, value.find('"'));
+Version FromModule(const std::vector<MarkedVerse>& verses) {
+  Version version = EmptyVersion();
+  std::string titles;  // above the first verse of a chapter
+  for (const auto& [place, markup] : verses) {
+    if (place.verse == 0) {
+      titles = place.chapter == 0 ? "" : Titles(markup);
+      continue;
+    }
+    const std::string words = VerseWords(markup);
+    if (!words.empty()) VerseAt(version, place) = std::exchange(titles, "") + words;
+  }
+  return version;
 }
+
+// The doxology of Romans stands at the end of chapter 14 in one tradition and at the end of chapter 16 in the
+// other, as three verses in both.
+void MoveDoxology(Version& version) {
+  constexpr std::string_view kBeginnings[] = {"Now to him who is able", "but now is revealed",
+                                              "to the only wise God"};
+  constexpr int kFirstVerse = 25;
+  Book& romans = version.books[static_cast<std::size_t>(*reader::FindBook("Romans"))];
+  std::string& last = romans[14][23];
+  for (int i = 2; i >= 0; --i) {
+    const std::size_t at = last.find(kBeginnings[i]);
+    if (at == std::string::npos) return;
+    romans[16][kFirstVerse + i] = last.substr(at);
+    last.resize(text::TrimEnd(std::string_view(last).substr(0, at)).size());
+  }
+}
+
+}  // namespace
+
+Version KingJames(const std::vector<MarkedVerse>& module) {
+  Version version = FromModule(module);
+  RequireWhole(version, "The package sword-text-kjv");
+  return version;
+}
+
+Version WorldEnglish(const std::vector<MarkedVerse>& module) {
+  Version version = FromModule(module);
+  MoveDoxology(version);
+  RequireWhole(version, "The package sword-text-web");
+  version.name = "World English Bible";
+  version.terms = "public domain";
+  return version;
+}
+
+Version ReadKingJames() { return KingJames(ReadKingJamesModule()); }
+Version ReadWorldEnglish() { return WorldEnglish(ReadWorldEnglishModule()); }
+
+namespace {
 
 // Verses are elements with their text inside, or marks at its beginning and end.
 Version FromOsis(std::string_view text) {
@@ -244,7 +140,7 @@ Version FromOsis(std::string_view text) {
   const auto put = [&](std::size_t end) {
     if (at) {
       std::string& verse = VerseAt(version, at->reference);
-      verse += (verse.empty() ? "" : " ") + PlainWords(text.substr(start, end - start));
+      verse += (verse.empty() ? "" : " ") + VerseWords(text.substr(start, end - start));
     }
     at.reset();
   };

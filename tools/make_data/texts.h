@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tools/make_data/sword_module.h"
+
 namespace lectern::make_data {
 
 // The data cannot be made; the reason is a sentence for the person at the terminal.
@@ -21,22 +23,20 @@ using Book = std::map<int, Chapter>;         // chapter to verses
 
 // The text of every verse by book (its position in the canon, from 0), chapter and verse (from 1).
 struct Version {
-  std::vector<Book> books;     // one for each book of the canon
-  std::string chapter_remark;  // behind each chapter's number, "" for none
+  std::vector<Book> books;  // one for each book of the canon
+  // Of a text that stands in for another: what it is, and on what terms it may be used. "" for any other.
+  std::string name;
+  std::string terms;
 
   std::size_t VerseCount() const;
 };
 
-// The words of a verse without their markup: notes, headings and tags are dropped, character references
-// resolved and typographic quotes made plain, so that a typed word finds them.
-std::string PlainWords(std::string_view markup);
-
 // Each of these throws an Obstacle that says what to install or what is wrong with the file.
 
-// The King James text, read with the program `bible`.
+// The King James text, and the World English text, which stands in for the second version.
+Version KingJames(const std::vector<MarkedVerse>& module);
+Version WorldEnglish(const std::vector<MarkedVerse>& module);
 Version ReadKingJames();
-
-// The World English text, which stands in for the second version, read with `mod2imp`.
 Version ReadWorldEnglish();
 
 // A person's own second version: one verse a line ("Ge1:1 In the …"), or OSIS XML.

@@ -4,6 +4,7 @@
 #include "base/files/record_reader.h"
 #include "reader/reference.h"
 #include "tools/make_data/dictionary.h"
+#include "tools/make_data/markup.h"
 #include "tools/make_data/texts.h"
 
 namespace lectern::make_data {

@@ -6,34 +6,38 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <system_error>
 
 #include "base/files/text_encoding.h"
 #include "base/text/characters.h"
 #include "forms/text_controls.h"
 #include "reader/canon.h"
+#include "reader/word_blanks.h"
 #include "ui/headless/driver.h"
 
 namespace lectern::make_data {
 
 namespace fs = std::filesystem;
 
-std::string BookText(const Book& book, const std::string& chapter_remark) {
+std::string BookText(const Version& version, std::size_t index) {
   constexpr std::size_t kNumberWidth = 4;
   const std::string kBehind(7, ' ');
+  const std::string remark = version.name.empty() ? "" : " (" + version.name + ")";
   std::string text;
-  for (const auto& [number, chapter] : book) {
-    text +=
-        "Chapter " + std::to_string(number) + (chapter_remark.empty() ? "" : " " + chapter_remark) + "\r\n";
+  for (const auto& [number, chapter] : version.books[index]) {
+    text += "Chapter " + std::to_string(number) + remark + "\r\n";
     const int last = chapter.empty() ? 0 : chapter.rbegin()->first;
     for (int verse = 1; verse <= last; ++verse) {
       std::string line = std::to_string(verse);
       line.resize(std::max(line.size() + 1, kNumberWidth), ' ');
       const auto found = chapter.find(verse);
-      if (found != chapter.end()) line += found->second;
+      const bool is_there = found != chapter.end() && !found->second.empty();
+      line += reader::WithWordBlanks(is_there ? found->second : "[not in this version]");
       text += files::Encode(line + kBehind) + "\r\n";
     }
   }
+  if (!version.terms.empty()) text += version.name + ", " + version.terms + "\r\n";
   return text;
 }
 
@@ -51,29 +55,67 @@ void WriteFile(const std::string& path, const std::string& bytes) {
   if (failure) throw Obstacle("The file " + path + " could not be written: " + failure.message() + ".");
 }
 
+namespace {
+
+std::string ReadFile(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// Makes `copy` the same file as `path`, or its copy where the file system has no links.
+void Link(const fs::path& path, const fs::path& copy) {
+  std::error_code failure;
+  const fs::path fresh = copy.string() + ".new";
+  fs::remove(fresh, failure);
+  fs::create_hard_link(path, fresh, failure);
+  if (failure) return WriteFile(copy.string(), ReadFile(path));
+  // Renaming a file to another name of the same file would leave both.
+  fs::remove(copy, failure);
+  fs::rename(fresh, copy, failure);
+  if (failure)
+    throw Obstacle("The file " + copy.string() + " could not be written: " + failure.message() + ".");
+}
+
+// Writes a book under its name with the prefix and under its name alone, where the second pane reads it. A
+// copy there that differs from the book is a person's, and stays.
+void WriteBook(const fs::path& folder, const std::string& prefix, const std::string& name,
+               const std::optional<std::string>& text) {
+  const fs::path path = folder / (prefix + name + ".txt");
+  const fs::path copy = folder / (name + ".txt");
+  const bool shares = !prefix.empty() && (!fs::exists(copy) || ReadFile(copy) == ReadFile(path));
+  if (text) WriteFile(path.string(), *text);
+  if (shares && fs::exists(path)) Link(path, copy);
+}
+
+// Without a text the book that is there stays.
+void WriteBook(const fs::path& folder, const std::string& prefix, std::size_t book,
+               const std::optional<std::string>& text) {
+  const std::string name(reader::kCanon[book]);
+  WriteBook(folder, prefix, name, text);
+  if (name == "1 Samuel" || name == "2 Samuel") {
+    WriteBook(folder, prefix, name.substr(0, 1) + "-Samuel", text);
+  }
+}
+
+}  // namespace
+
 void WriteBooks(const Version& version, const std::string& folder, const std::string& prefix) {
   fs::create_directories(folder);
   for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
-    if (version.books[i].empty()) continue;
-    const std::string name(reader::kCanon[i]);
-    const std::string text = BookText(version.books[i], version.chapter_remark);
-    WriteFile(folder + "/" + prefix + name + ".txt", text);
-    if (name == "1 Samuel" || name == "2 Samuel") {
-      WriteFile(folder + "/" + prefix + name.substr(0, 1) + "-Samuel.txt", text);
-    }
+    if (!version.books[i].empty()) WriteBook(folder, prefix, i, BookText(version, i));
   }
 }
 
 void WriteStandIn(const Version& version, const std::string& folder, const std::string& prefix) {
-  Version wanted = version;
+  fs::create_directories(folder);
   for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
+    if (version.books[i].empty()) continue;
     std::ifstream book(folder + "/" + prefix + std::string(reader::kCanon[i]) + ".txt");
     std::string first_line;
-    if (std::getline(book, first_line) && first_line.find(version.chapter_remark) == std::string::npos) {
-      wanted.books[i].clear();
-    }
+    const bool is_persons =
+        std::getline(book, first_line) && first_line.find("(" + version.name + ")") == std::string::npos;
+    WriteBook(folder, prefix, i, is_persons ? std::nullopt : std::optional(BookText(version, i)));
   }
-  WriteBooks(wanted, folder, prefix);
 }
 
 void WriteChapterCounts(const Version& version, const std::string& data_folder) {
@@ -85,7 +127,7 @@ void WriteChapterCounts(const Version& version, const std::string& data_folder) 
   for (std::size_t i = 0; i < reader::kCanon.size(); ++i) {
     constexpr std::size_t kShortName = 8;
     const std::string short_name(reader::kCanon[i].substr(0, kShortName));
-    WriteFile((bench / (short_name + ".txt")).string(), BookText(version.books[i], ""));
+    WriteFile((bench / (short_name + ".txt")).string(), BookText(version, i));
   }
   std::string complaint;
   headless::Driver driver(bench.string(),
@@ -104,8 +146,6 @@ void WriteChapterCounts(const Version& version, const std::string& data_folder) 
   }
   WriteFile(data_folder + "/bookschap.txt", records);
 }
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -137,11 +177,6 @@ std::vector<std::string> WordsOf(const std::string& verse) {
     behind_blank = c == ' ';
   }
   return words;
-}
-
-std::string ReadFile(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 // Removes the second copy of the last word's records at the end.

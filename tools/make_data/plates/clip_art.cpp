@@ -7,6 +7,7 @@
 #include <librsvg/rsvg.h>
 #include <string_view>
 
+#include "tools/make_data/markup.h"
 #include "tools/make_data/plates/canvas.h"
 #include "tools/make_data/plates/lettering.h"
 #include "tools/make_data/plates/ornament.h"
