@@ -3,15 +3,10 @@
 #pragma once
 
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace lectern {
 
-// The files by their names in the folder, with what they hold.
-std::vector<std::pair<std::string, std::string>> SmallWorld();
-
-// Makes the folder hold just that.
+// Makes the folder hold just that, which is tests/data/world.
 void LaySmallWorld(const std::string& folder);
 
 // Puts all 66 books beside it, where the older builder of the concordance looks for them and gives up at the

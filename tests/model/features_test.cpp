@@ -3,13 +3,11 @@
 #include <cstdlib>
 #include <ctime>
 #include <gtest/gtest.h>
-#include <random>
 #include <set>
 
 #include "base/text/characters.h"
 #include "forms/figures.h"
 #include "forms/rich_text_box.h"
-#include "gallery/picture_catalogue.h"
 #include "reader/word_blanks.h"
 #include "tests/kit/session.h"
 #include "tests/kit/small_world.h"
@@ -109,19 +107,11 @@ TEST(Trivia, ForgetsTheOldestOfAHundredQuestions) {
   EXPECT_EQ(asked[98] + " " + asked[99], "299 319");
 }
 
-// ODDITY(concordance-missing): a missing file of any name is reported as the concordance.
-TEST(Trivia, ReportsAMissingFileAndANumberOutOfSixteenBits) {
+TEST(Trivia, ReportsANumberOutOfSixteenBits) {
   const TemporaryFolder folder;
-  Session session(folder.Path());
-  session.Do("set Form1.List1.Visible = False");
-  EXPECT_EQ(session.Do("click! Form1.Command29", "get Form1.List1.Visible"),
-            (Steps{"message \"CONCORD.DAT missing from " + folder.Path() + "\" \"Lectern 2\"", "beep",
-                   "Form1.List1.Visible = True"}));
   WriteQuestions(folder, 40000);
-  EXPECT_EQ(session.Do("random 0.99", "click! Form1.Command29"),
-            (Steps{"message \"An error (6 ) has occured during proccessing your request. Click HELP, for "
-                   "information on possible sources causing the error. \" \"Lectern 2\"",
-                   "beep"}));
+  const Steps printed = Session(folder.Path()).Do("random 0.99", "click! Form1.Command29");
+  EXPECT_TRUE(printed.front().starts_with("message \"An error (6 ) has occured")) << printed.front();
 }
 
 // Opens a chapter of Genesis; what the pane then shows.
@@ -154,61 +144,6 @@ TEST(ChapterLoad, CountsNoFurtherThan32767) {
   Session session(folder.Path());
   EXPECT_EQ(Show(session, "32767"), "32767   text\r\nChapter 32768\r\n");
   EXPECT_EQ(Show(session, "32769"), "Chapter 32768\r\n");
-}
-
-// The chapter in a place, by a walk from character to character.
-int PlainChapter(const std::string& place, std::size_t book_length) {
-  const std::string tail(text::Mid(place, book_length + 1));
-  std::size_t i = 1;
-  while (i <= text::Length(tail) && text::Mid(tail, i, 1) != ":") ++i;
-  const std::string chapter(i < 2 ? "" : text::Mid(tail, 2, i - 2));
-  int number = 0;
-  for (std::size_t at = 0; at < chapter.size() && chapter[at] >= '0' && chapter[at] <= '9'; ++at) {
-    number = number * 10 + (chapter[at] - '0');
-  }
-  return number;
-}
-
-// A place as a person might write it into the file.
-std::string RandomPlace(std::mt19937& random) {
-  const auto pick = [&](int count) { return std::uniform_int_distribution(0, count - 1)(random); };
-  const char* const pieces[] = {"Genesis", " ", " ", ":", ": ", "1", "2", "3", "12", "0", "a", "ä", "", "-"};
-  std::string place = pick(8) == 0 ? "Exodus" : "Genesis";
-  if (pick(3) != 0) return place + " " + std::to_string(pick(6)) + ": " + std::to_string(pick(30));
-  for (int left = pick(5); left > 0; --left) place += pieces[pick(std::size(pieces))];
-  return place;
-}
-
-// As if the records were gone through once for each chapter.
-TEST(PictureLists, AreInTheOrderOfTheChapters) {
-  std::mt19937 random(2);
-  for (int round = 0; round < 30; ++round) {
-    std::string catalogue;
-    Steps places;
-    std::set<int> chapters;
-    for (int i = 0; i < 40; ++i) {
-      places.push_back(RandomPlace(random));
-      for (const std::size_t book_length : {0U, 6U, 7U, 40U}) {
-        ASSERT_EQ(gallery::ChapterOf(places.back(), book_length), PlainChapter(places.back(), book_length))
-            << places.back();
-      }
-      chapters.insert(PlainChapter(places.back(), 7));
-      catalogue += "\"p" + std::to_string(i) + "\",\"" + places.back() + "\",\"A\"\r\n";
-    }
-    chapters.erase(0);
-    Steps expected;
-    for (const int chapter : chapters) {
-      for (std::size_t i = 0; i < places.size(); ++i) {
-        const bool is_there = places[i].starts_with("Genesis") && PlainChapter(places[i], 7) == chapter;
-        if (is_there) expected.push_back("p" + std::to_string(i));
-      }
-    }
-    const TemporaryFolder folder;
-    folder.Write("pics2.dat", catalogue);
-    Session session(folder.Path());
-    session.Do("start");
-    ASSERT_EQ(session.Items("Form1.lstmc(0)"), expected) << catalogue;
-  }
 }
 
 TEST(Today, IsTheDayWhereTheReaderIs) {

@@ -32,20 +32,6 @@ TEST(Property, RunsItsChangeInsideTheWriteAndOnlyForANewValue) {
   EXPECT_EQ(seen, "[a>a][>]");
 }
 
-TEST(HScrollBar, RefusesWhatLiesOutsideAndKeepsWhatANewMaximumLeavesOutside) {
-  TestWindow test;
-  HScrollBar bar(test.form, "scr", {.value = 1, .min = 1, .max = 50});
-  int changes = 0;
-  bar.Change = [&] { ++changes; };
-  bar.Value = 40;
-  EXPECT_EQ(ErrorOf([&] { bar.Value = 51; }), 380);
-  EXPECT_EQ(ErrorOf([&] { bar.Value = 0; }), 380);
-  bar.Max = 4;
-  EXPECT_EQ(bar.Value, 40);
-  EXPECT_EQ(ErrorOf([&] { bar.Value = 40; }), 0);  // no write at all
-  EXPECT_EQ(changes, 1);
-}
-
 TEST(ListBox, SortsByCharacterCodeOrKeepsTheOrderAndForgetsTheSelectionWithItsItems) {
   TestWindow test;
   ListBox sorted(test.form, "lstc", {.sorted = true});
@@ -109,28 +95,6 @@ TEST(Keys, PressTheDefaultAndTheCancelButtonOfThePanelAroundOrOfTheFrontOne) {
   below.PersonKeys(kEscapeKey);
   test.form.PressCancelOfFrontPanel();
   EXPECT_EQ(pressed, "close_back leave leave ");
-}
-
-TEST(FolderLists, LookIntoTheFileSystem) {
-  TestWindow test;
-  test.folder.Write("pics/b.jpg", "");
-  test.folder.Write("pics/A.JPG", "");
-  test.folder.Write("pics/readme.txt", "");
-  DirListBox folders(test.form, "Dir1");
-  FileListBox list(test.form, "File1", {.pattern = "*.jpg"});
-  EXPECT_EQ(folders.Path, test.folder.Path());
-  EXPECT_EQ(ErrorOf([&] { folders.Path = folders.Path + "\\none"; }), 76);
-  folders.Change = [&] { list.Path = folders.Path; };
-  folders.Path = folders.Path + "/Pics";
-  ASSERT_EQ(list.ListCount(), 2);
-  EXPECT_EQ(list.List(0), "A.JPG");
-  list.PersonPicks(1);
-  test.folder.Write("pics/c.jpg", "");
-  EXPECT_EQ(list.ListCount(), 2);
-  list.Refresh();
-  EXPECT_EQ(list.ListCount(), 3);
-  EXPECT_EQ(list.SelectedIndex(), -1);
-  EXPECT_EQ(folders.Entries().back().name, "pics");
 }
 
 }  // namespace

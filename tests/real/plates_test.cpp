@@ -1,10 +1,7 @@
 // The gallery's plates against the text: every name on a map, in a tree or in a table stands in the passage
-// that the plate's title gives, every map's names stand free of each other, and the folder holds what the
-// tool draws.
+// that the plate's title gives, and every map's names stand free of each other.
 #include <cctype>
-#include <filesystem>
 #include <gtest/gtest.h>
-#include <set>
 
 #include "tests/real/real_data.h"
 #include "tools/make_data/plates/map_plate.h"
@@ -100,23 +97,6 @@ TEST(Plates, TreesAndTablesNameWhatTheirPassageNames) {
 TEST(Plates, PlansAndThingsNamePassagesThatThereAre) {
   for (const Section& section : ReadSections(WrittenTable("drawings.txt"))) {
     EXPECT_NO_THROW(WordsOf(section.Value("passage"), Text())) << section.title;
-  }
-}
-
-TEST(Plates, FillTheGallery) {
-  std::set<std::string> pictures;
-  std::map<std::string, int> places_of_book;
-  const std::string catalogue = RealFile("pics2.dat");
-  for (const std::string& record : Parts(catalogue, '\n')) {
-    pictures.insert(record.substr(0, record.find("\",")));
-    const std::size_t place = record.find(",\"") + 2;
-    ++places_of_book[record.substr(place, record.rfind(' ', record.find(": ", place) - 1) - place)];
-  }
-  EXPECT_GE(pictures.size(), 150U);
-  EXPECT_EQ(places_of_book.size(), 66U);
-  for (const auto& [book, places] : places_of_book) EXPECT_GE(places, 3) << book;
-  for (const std::string& picture : pictures) {
-    EXPECT_TRUE(std::filesystem::exists(RealData() + "/pics/" + picture.substr(1) + ".jpg")) << picture;
   }
 }
 

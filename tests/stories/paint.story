@@ -5,7 +5,7 @@
 click Form1.imgp(0)
   pick picture 2x1
 click Form1.Command32
-  Form4 shown, Caption "paint", picbox picture 2x1, picbox.Left 4192.5, IMGSPB(0) picture 2x1
+  Form4 shown, Caption "paint", picbox picture 2x1, picbox.Left 4192.5, picbox.Top 4200, IMGSPB(0) picture 2x1
 # The first pen is a near black under the first swatch's colour. ODDITY(first-pen) ODDITY(pointer-of-another-brush)
   Form4.clr1.BackColor 3, clr2.BackColor 255, mde(0) "15", picbox.MouseIcon picture 1x1
 # Swatches as the file has them; those it does not name stay as they are.
@@ -151,3 +151,9 @@ mousedown Form4.picbox 1 0 0 0
 # Without a picture: a white page of the design size.
 @data gallery; @delete pics2.dat; @copy picend.jpg cdx2.ico; click! Form1.Command32
   Form4.picbox.Width 7995, picbox.Height 5445, picbox.Point(5,5) 16777215, IMGSPB(0) picture 533x363
+
+# A canvas that no memory holds is refused, and none is zoomed that far.
+set Form4.picbox.Height = 120; set Form4.picbox.Width = 1e9; set Form4.picbox.Height = 1e9 | error: run-time error 7 "Out of memory"
+set Form4.picbox.Height = 120; set Form4.picbox.Width = 150000; set Form4.picbox.Height = 105000
+click! Form4.cmdm(0) | message "The picture is too large to be shown any larger." "Lectern 2"
+  Form4.picbox.Width 150000, txt5 "0"

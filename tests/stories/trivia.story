@@ -60,8 +60,9 @@ click Form1.Command29 | message "An error (62 ) has occured…" "Lectern 2" | be
 click Form1.lst "Ruth"
 @write codex.trv ""
 click Form1.Command29 | message "An error (62 ) has occured…" "Lectern 2" | beep
-@delete codex.trv; click Form1.lst "Ruth"
+@delete codex.trv; set Form1.List1.Visible = False; click Form1.lst "Ruth"
 click Form1.Command29 | message "CONCORD.DAT missing from DATA" "Lectern 2" | beep
+  List1 shown
 
 # One question only: it comes up as number 0, or not at all.
 @write codex.trv | "Who gathered grain?","Ruth (Ruth 1:1)"

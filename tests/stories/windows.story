@@ -47,6 +47,6 @@ start
   Form3.Command2 "Create New File", Command3 "Close"
   Form4.cmdm(0) "      +", cmdm(1) "      -", txt5 "0", Frame7 "   Original               Saves  ", clrboxs(0) "x"
   Form4.clrboxs(1) " x", clrboxs(23) "X", Command4 "More Colors", Command3 "Save Pallette", Label2(0) "Red"
-  Form4.Label2(1) "Blue", Label2(2) "Green", Clear "Hide Color Bars", Frame5 "Paint Brush Size", Command5 "New"
+  Form4.picbox picture 533x363, Label2(1) "Blue", Label2(2) "Green", Clear "Hide Color Bars", Frame5 "Paint Brush Size", Command5 "New"
   Form4.Command2 "Save Picture", Command1 "Close Paint"
   Form5.Command1 "Print"
