@@ -15,7 +15,6 @@ struct HScrollBarDesign {
   bool visible = true;
   bool enabled = true;
   std::string_view name{};
-  int large_step = 1;           // how far a click into the trough goes
   std::string_view key_back{};  // steps back, wherever the focus is, such as "Ctrl+PgUp"
   std::string_view key_on{};    // the same for a step on
   bool follows_thumb = false;   // while a person drags it
@@ -39,14 +38,12 @@ class HScrollBar : public PlacedControl {
                      if (!InRange(value)) throw base::RunTimeError(base::ErrorNumber::kInvalidProperty);
                    },
                .change = [this] { Change(); }}),
-        large_step_(design.large_step),
         key_back_(design.key_back),
         key_on_(design.key_on),
         follows_thumb_(design.follows_thumb),
         counts_from_1_(design.counts_from_1) {}
 
   bool InRange(int value) const { return value >= Min && value <= Max; }
-  int LargeStep() const { return large_step_; }
   const std::string& KeyBack() const { return key_back_; }
   const std::string& KeyOn() const { return key_on_; }
   bool FollowsThumb() const { return follows_thumb_; }
@@ -64,32 +61,22 @@ class HScrollBar : public PlacedControl {
   Event<> Change;
 
  private:
-  int large_step_;
   std::string key_back_;
   std::string key_on_;
   bool follows_thumb_;
   bool counts_from_1_;
 };
 
-struct ProgressBarDesign {
-  int value = 0;
-  int min = 0;
-  int max = 100;
-  bool visible = true;
-  bool enabled = true;
-  std::string_view name{};
-};
-
 // How far something has come. A Value past Max is kept and shows full; nothing fails.
 class ProgressBar : public PlacedControl {
  public:
-  using Design = ProgressBarDesign;
+  using Design = PlainDesign;
 
   ProgressBar(Container& parent, std::string name, const Design& design = {})
       : PlacedControl(parent, Kind::kProgressBar, std::move(name), design),
-        Min(*this, "Min", design.min),
-        Max(*this, "Max", design.max),
-        Value(*this, "Value", design.value) {}
+        Min(*this, "Min"),
+        Max(*this, "Max", 100),
+        Value(*this, "Value") {}
 
   Property<int> Min;
   Property<int> Max;

@@ -14,23 +14,15 @@ inline constexpr int kShapeSquare = 1;
 inline constexpr int kShapeOval = 2;
 inline constexpr int kShapeCircle = 3;
 
-struct ShapeDesign {
-  int figure = 0;  // one of those above
-  bool visible = true;
-  bool enabled = true;
-  std::string_view name{};
-  Colour back_color = kButtonFace;
-};
-
 class Shape : public PlacedControl {
  public:
-  using Design = ShapeDesign;
+  using Design = PlainDesign;
 
   Shape(Container& parent, std::string name, const Design& design = {})
       : PlacedControl(parent, Kind::kShape, std::move(name), design),
-        FigureKind(*this, "Shape", design.figure) {}
+        FigureKind(*this, "Shape", kShapeRectangle) {}
 
-  Property<int> FigureKind;  // read and written by name as "Shape"
+  Property<int> FigureKind;  // one of those above; read and written by name as "Shape"
 };
 
 // A line is a shape of no height or no width.

@@ -15,8 +15,6 @@
 
 namespace lectern::forms {
 
-inline constexpr int kFindWholeWord = 2;
-inline constexpr int kFindMatchCase = 4;
 inline constexpr int kFindNoHighlight = 8;
 
 // The size in points that a pane is shown in until it is given one.

@@ -44,7 +44,6 @@ struct TextBoxDesign {
   bool enabled = true;
   std::string_view name{};
   bool multi_line = false;
-  bool read_only = false;  // a person may select and copy, not edit
 };
 
 // A box of one line or several.
@@ -55,42 +54,30 @@ class TextBox : public TextControl {
   TextBox(Container& parent, std::string name, const Design& design = {})
       : TextControl(parent, Kind::kTextBox, std::move(name), design),
         Text(*this, "Text", std::string(design.text), {.change = [this] { Change(); }}),
-        multi_line_(design.multi_line),
-        read_only_(design.read_only) {
+        multi_line_(design.multi_line) {
     BackColor = kWindowBackground;
     ForeColor = kWindowText;
   }
 
   bool MultiLine() const { return multi_line_; }
-  bool ReadOnly() const { return read_only_; }
 
-  void PersonTypes(const std::string& text) override {
-    if (!read_only_) Text = text;
-  }
+  void PersonTypes(const std::string& text) override { Text = text; }
 
   RuledProperty<std::string> Text;
   Event<> Change;
 
  private:
   bool multi_line_;
-  bool read_only_;
 };
 
-struct ComboBoxDesign {
-  std::string_view text{};
-  bool visible = true;
-  bool enabled = true;
-  std::string_view name{};
-};
-
-// A box of text with a list. The text can be typed or picked; picking runs Click.
+// A box of text with a list. The text can be typed or picked; picking runs Click. 
 class ComboBox : public TextControl {
  public:
-  using Design = ComboBoxDesign;
+  using Design = PlainDesign;
 
   ComboBox(Container& parent, std::string name, const Design& design = {})
       : TextControl(parent, Kind::kComboBox, std::move(name), design),
-        Text(*this, "Text", std::string(design.text)) {
+        Text(*this, "Text", {}) {
     BackColor = kWindowBackground;
     ForeColor = kWindowText;
   }

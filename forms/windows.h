@@ -73,8 +73,6 @@ class OnTouch {
     return *window_;
   }
 
-  Kind* IfMade() { return window_.get(); }
-
   void LetGo() {
     if (!window_) return;
     if (windows_.let_go) windows_.let_go(*window_);

@@ -95,21 +95,21 @@ class SampleWindow : public forms::Window {
   forms::OptionButton option{*this, "option", {.caption = "Option"}};
   forms::OptionButton bare_option{*this, "bare_option", {.name = "Bare"}};
   forms::Label option_text{*this, "option_text", {.caption = "its text"}};
-  forms::ComboBox combo{*this, "combo", {.text = "10", .name = "Size"}};
+  forms::ComboBox combo{*this, "combo", {.name = "Size"}};
   forms::HScrollBar bar{
       *this,
       "bar",
       {.value = 1, .min = 1, .max = 50, .name = "Chapter", .key_back = "Ctrl+PgUp", .key_on = "Ctrl+PgDown"}};
   forms::HScrollBar follower{
       *this, "follower", {.max = 9, .name = "Picture", .follows_thumb = true, .counts_from_1 = true}};
-  forms::ProgressBar progress{*this, "progress", {.value = 40, .name = "Progress"}};
+  forms::ProgressBar progress{*this, "progress", {.name = "Progress"}};
   forms::ListBox list{*this, "list", {.name = "Books"}};
   forms::FileListBox files{*this, "files", {.name = "Files", .pattern = "*.txt"}};
   forms::DirListBox folders{*this, "folders", {.name = "Folders"}};
   forms::DriveListBox drives{*this, "drives", {.name = "Drives"}};
   forms::Image image{*this, "image", {.stretch = true}};
   forms::Image clickable_image{*this, "clickable_image", {.name = "Picture to press", .stretch = true}};
-  forms::Shape shape{*this, "shape", {.figure = forms::kShapeCircle, .back_color = forms::Rgb(255, 128, 0)}};
+  forms::Shape shape{*this, "shape"};
   forms::Label swatch_label{*this, "swatch_label", {.caption = "x", .name = "Orange"}};
   forms::Line line{*this, "line"};
   forms::Frame frame{*this, "frame", {.caption = "Frame"}};
@@ -139,6 +139,10 @@ class SampleWindow : public forms::Window {
     bar.Change = [this] { log.push_back("bar " + std::to_string(bar.Value)); };
     follower.Change = [this] { log.push_back("follower " + std::to_string(follower.Value)); };
     sheet.Change = [this] { log.push_back("sheet change"); };
+    combo.Text = "10";
+    progress.Value = 40;
+    shape.FigureKind = forms::kShapeCircle;
+    shape.BackColor = forms::Rgb(255, 128, 0);
     canvas.Click = nullptr;
     canvas.ForeColor = forms::kBlack;
     canvas.ScaleMode = forms::kScalePixels;

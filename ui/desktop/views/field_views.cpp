@@ -23,7 +23,6 @@ class TextBoxView : public ViewOf<forms::TextBox> {
 
   QWidget* Make(QWidget* parent) override {
     edit_ = new Edit(parent);
-    edit_->setReadOnly(Control().ReadOnly());
     if constexpr (kHasSeveralLines) {
       edit_->setTabChangesFocus(true);
       connect(edit_, &QPlainTextEdit::textChanged, [this] {
@@ -49,7 +48,7 @@ class TextBoxView : public ViewOf<forms::TextBox> {
 
   Ground GetGround() const override { return Ground::kField; }
   bool Needs(const QKeyEvent& key) const override {
-    return kHasSeveralLines && KeyCode(key) == forms::kEnterKey && !Control().ReadOnly();
+    return kHasSeveralLines && KeyCode(key) == forms::kEnterKey;
   }
 
   static constexpr bool kHasSeveralLines = std::is_same_v<Edit, QPlainTextEdit>;

@@ -63,7 +63,7 @@ class ScrollBarView : public ViewOf<forms::HScrollBar> {
     widget_ = new SteppedBar(parent);
     widget_->setTracking(Control().FollowsThumb());
     widget_->setSingleStep(1);
-    widget_->setPageStep(Control().LargeStep());
+    widget_->setPageStep(1);
     connect(widget_, &QScrollBar::valueChanged, [this](int value) {
       if (Control().InRange(value)) Act([this, value] { Control().PersonScrolls(value); });
     });
