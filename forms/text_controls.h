@@ -70,14 +70,15 @@ class TextBox : public TextControl {
   bool multi_line_;
 };
 
-// A box of text with a list. The text can be typed or picked; picking runs Click. 
+// A box of text with a list. The text can be typed or picked; picking runs Click. Picking the entry that
+// stands in the box runs nothing, unless its text was typed.
 class ComboBox : public TextControl {
  public:
   using Design = PlainDesign;
 
   ComboBox(Container& parent, std::string name, const Design& design = {})
       : TextControl(parent, Kind::kComboBox, std::move(name), design),
-        Text(*this, "Text", {}) {
+        Text(*this, "Text", {}, {.change = [this] { is_typed_ = false; }}) {
     BackColor = kWindowBackground;
     ForeColor = kWindowText;
   }
@@ -88,16 +89,22 @@ class ComboBox : public TextControl {
   }
   const std::vector<std::string>& Items() const { return items_; }
 
-  void PersonTypes(const std::string& text) override { Text = text; }
+  void PersonTypes(const std::string& text) override {
+    Text = text;
+    is_typed_ = true;
+  }
   void PersonChooses(const std::string& item) {
+    if (Text == item && !is_typed_) return;
     Text = item;
+    is_typed_ = false;
     Click();
   }
 
-  Property<std::string> Text;
+  RuledProperty<std::string> Text;
 
  private:
   std::vector<std::string> items_;
+  bool is_typed_ = false;  // what stands in the box
 };
 
 }  // namespace lectern::forms

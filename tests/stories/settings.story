@@ -19,6 +19,12 @@ type Form1.Combo2 "13.5"
   rtxt.FontSize 18
 choose Form1.Combo3 "Regular"
   rtxt.FontSize 13.5, rtxt.FontBold False, RTXT2.FontSize 13.5
+# The entry that stands in a box is no change, unless its text was typed.
+type Form1.Combo2 "14"; choose Form1.Combo3 "Regular"
+  rtxt.FontSize 13.5
+choose Form1.Combo2 "14"
+  rtxt.FontSize 14
+type Form1.Combo2 "13.5"; choose Form1.Combo3 "Bold"; choose Form1.Combo3 "Regular"
 
 # Only Save writes the file; Close takes nothing back.
 @changes codex.cfg | unchanged
