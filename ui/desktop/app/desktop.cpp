@@ -16,12 +16,12 @@ namespace lectern::desktop {
 
 namespace {
 
-// How the two programs answer one that is started on their folder.
+// The names with which the two programs answer another that is started on their folder.
 constexpr const char* kReaderProgram = "reader";
 constexpr const char* kKeeperProgram = "keeper";
 
-// Places are measured for fonts at 96 dots an inch. Where a person has set more dots for fonts, the whole
-// window grows with them.
+// The places are designed for fonts at 96 dots an inch. If the person has set a higher resolution for fonts,
+// the whole window is scaled.
 void ScaleWithFonts() {
   constexpr double kDotsPerInch = 96;
   const double dots = qEnvironmentVariable("QT_FONT_DPI").toDouble();
@@ -113,7 +113,7 @@ void Desktop::LetGo(const forms::Window& window) {
   const auto found = std::find_if(windows_.begin(), windows_.end(),
                                   [&window](const auto& view) { return view->IsOf(window); });
   assert(found != windows_.end());
-  // Destroying widgets moves the focus, and then the list must be whole.
+  // Destroying widgets moves the focus, for which the list must be valid.
   const std::unique_ptr<WindowView> closed = std::move(*found);
   windows_.erase(found);
 }
@@ -158,8 +158,12 @@ void Desktop::ComeToFront() {
 
 bool Desktop::Start() {
   events_.Run([this] { program_.Start(); });
-  if (!program_.HasEnded() && !bench_controls_.empty()) ShowBench();
-  return !program_.HasEnded();
+  if (program_.HasEnded()) return false;
+  // The main window is the first that the program makes, and stays until the program ends.
+  forms::Window& main_window = *program_.windows.All().front();
+  if (!bench_controls_.empty())
+    bench_ = std::make_unique<BenchView>(main_window, *windows_.front(), bench_controls_);
+  return true;
 }
 
 int Desktop::Run() {
@@ -170,14 +174,9 @@ int Desktop::Run() {
   return QApplication::exec();
 }
 
-// The main window is the first that the program makes, and stays until the program ends.
-void Desktop::ShowBench() {
-  bench_ = std::make_unique<BenchView>(*program_.windows.All().front(), *windows_.front(), bench_controls_);
-}
-
 void Desktop::Settle() {
   if (program_.HasEnded()) return End();
-  // Settling a window may deliver an event that makes another one.
+  // Settling a window may deliver an event that creates another window.
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->Settle();
   if (bench_) bench_->Settle();
   timers_.Update();

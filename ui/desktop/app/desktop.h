@@ -1,4 +1,4 @@
-// The desktop program: owns the windows of `ui::Program` on the screen, brings in what a person does, and
+// The desktop program: owns the windows of `ui::Program` on the screen, delivers what a person does, and
 // ticks the timers until the program ends.
 #pragma once
 
@@ -18,12 +18,12 @@
 
 namespace lectern::desktop {
 
-// Settings of every program with a window.
+// Prepares Qt for a program with a window.
 // Requires: there is no QApplication yet.
 void PrepareApplication();
 
-// Runs the program in the current folder and returns its exit status. Where a program is already open on that
-// folder, that one comes to the front and this one ends. `bench` names controls off the main window that are
+// Runs the program in the current folder and returns its exit status. If a program is already open on that
+// folder, it comes to the front and this one ends. `bench` names controls outside the main window that are
 // shown in a window of their own.
 int RunApplication(char** arguments, const std::vector<std::string>& bench);
 
@@ -36,10 +36,10 @@ class Desktop {
   // Starts the program, waits until it ends, and returns its exit status.
   int Run();
 
-  // The first half of Run. Returns false where the program has ended at once.
+  // The first half of Run. Returns false if the program has already ended.
   bool Start();
 
-  // Raises the window that was used last, or the box that waits for an answer.
+  // Raises the window that was used last, or the box that is open.
   void ComeToFront();
 
   ui::Program& Program() { return program_; }
@@ -50,7 +50,6 @@ class Desktop {
   void JoinPlatform();
   void LetGo(const forms::Window& window);
   void PrintFace(const forms::Window& window, const std::function<void(QWidget&)>& print);
-  void ShowBench();
   void Settle();
   void End();
   QWidget* FrontFrame() const;
@@ -64,7 +63,7 @@ class Desktop {
   std::vector<std::string> bench_controls_;
   std::unique_ptr<BenchView> bench_;
   QPointer<QWidget> used_last_;
-  QObject receiver_;  // of signals; goes first, so that none arrives while the rest is destroyed
+  QObject receiver_;  // of signals; destroyed first, so that none arrives while the rest is destroyed
 };
 
 }  // namespace lectern::desktop

@@ -68,7 +68,7 @@ void Events::DeliverTicks(const std::function<Ticking()>& ticks) {
 
 void Events::ShowAll() {
   const bool was_at_work = std::exchange(at_work_, true);
-  // Refreshing a panel may make more views, which join at the end.
+  // Refreshing a panel may create more views, which are added at the end.
   for (std::size_t i = 0; i < stale_.size(); ++i) {
     LayerView* const view = std::exchange(stale_[i], nullptr);
     if (view == nullptr) continue;

@@ -17,7 +17,7 @@ namespace lectern::desktop {
 
 class Events;
 
-// Something on the screen that shows a control or a window, and is updated between events.
+// Shows a control or a window on the screen, and is updated between events.
 class LayerView : public forms::View {
  public:
   explicit LayerView(Events& events) : events_(events) {}
@@ -39,7 +39,7 @@ class LayerView : public forms::View {
 
 class Events {
  public:
-  // Runs an event of a window. A failure in it has been dealt with when this returns.
+  // Runs an event of a window and deals with its failures.
   using Carry = std::function<void(forms::Window&, const std::function<void()>&)>;
 
   explicit Events(Carry carry);
@@ -54,12 +54,12 @@ class Events {
   // destroy a window: until then its widgets are still in use.
   void RunLater(const std::function<void()>& work);
 
-  // Ticks of timers, which deal with failures themselves. While they follow one another at once, their
-  // results are shown only as often as a screen can.
+  // Runs ticks of timers, which deal with failures themselves. While ticks follow one another without a
+  // pause, their results are shown only as often as the screen refreshes.
   enum class Ticking { kGoesOnAtOnce, kPauses };
   void DeliverTicks(const std::function<Ticking()>& ticks);
 
-  // Whether an event runs, a box that it opened is up, or its results are being shown.
+  // Whether an event runs, a box that it opened is open, or its results are being shown.
   bool AtWork() const { return at_work_; }
 
   // Updates all views whose controls have changed: at the end of an event, and before a box opens.

@@ -28,7 +28,7 @@ QString CannotMake(const fs::path& folder, const std::error_code& failure) {
          ".";
 }
 
-// Leaves the folder itself, as a lock is on it.
+// Keeps the folder itself, because it is locked.
 void RemoveContents(const fs::path& folder) {
   std::error_code failure;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure)) {
@@ -60,10 +60,10 @@ FirstStart::FirstStart(std::string folder, std::string tool)
   connect(&maker_, &QProcess::finished, this,
           [this](int status, QProcess::ExitStatus end) { End(status, end); });
   connect(&maker_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-    if (error != QProcess::FailedToStart) return;  // any other one ends in `finished`
+    if (error != QProcess::FailedToStart) return;  // after any other error, `finished` follows
     Fail("The program lectern-make-data does not start. Install Lectern again.");
   });
-  // A tool that outlived this program would write into what a later start makes.
+  // A tool that outlives this program would write into the folder that a later start makes.
   maker_.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
 }
 
@@ -74,8 +74,7 @@ void FirstStart::BuildWindow() {
   setMinimumWidth(kWidth);
   auto* const what = new QLabel(
       "<b>Welcome to Lectern.</b><br>Texts, pictures and word lists are being copied into a folder of your "
-      "own. "
-      "This happens once and takes less than a minute.");
+      "own. This happens once and takes less than a minute.");
   what->setWordWrap(true);
   auto* const where = new QLabel(PathText(folder_));
   where->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -118,19 +117,19 @@ FirstStart::Outcome FirstStart::Run(const QByteArray& token) {
     maker_.waitForFinished();
     if (!is_ready && (obstacle_.isEmpty() || !OffersRetry())) break;
   }
-  // It is not there any more where it was renamed.
+  // If the folder was renamed, this finds nothing.
   RemoveContents(unfinished_);
   fs::remove(unfinished_, failure);
   return is_ready ? Outcome::kReady : Outcome::kFailed;
 }
 
-// Returns false where the folder cannot be made.
+// Starts the tool. Returns false if the folder cannot be made.
 bool FirstStart::Begin() {
   obstacle_.clear();
   std::error_code failure;
   if (fs::exists(folder_, failure) && !fs::is_empty(folder_, failure)) {
     obstacle_ = "The folder " + PathText(folder_) +
-                " holds other files, and no texts. Move it away, or fill it with lectern-make-data.";
+                " contains other files but no texts. Move it away, or fill it with lectern-make-data.";
     return false;
   }
   RemoveContents(unfinished_);
@@ -170,7 +169,7 @@ void FirstStart::Fail(const QString& obstacle) {
   done(Rejected);
 }
 
-// Reports the obstacle; whether the person wants another try.
+// Reports the obstacle. Returns whether the person wants to try again.
 bool FirstStart::OffersRetry() {
   QMessageBox box(QMessageBox::Critical, "Lectern 2", "Cannot prepare the texts.",
                   QMessageBox::Retry | QMessageBox::Close);

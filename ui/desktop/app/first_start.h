@@ -1,9 +1,9 @@
 // The first start from the menu: makes the person's own data folder with `lectern-make-data`, shows its
-// progress, and says what is wrong where it fails.
+// progress, and reports what went wrong if it fails.
 //
-// The folder is made under another name beside its own and renamed when it is complete, so that a folder that
-// exists is a good one, whatever happened meanwhile. Of several starts at the same time one makes it, and the
-// others bring its window to the front.
+// The folder is made under another name beside its own and renamed when it is complete, so that an existing
+// folder is always complete. If the program is started several times at once, one start makes the folder and
+// the others bring its window to the front.
 #pragma once
 
 #include <QByteArray>
@@ -25,8 +25,8 @@ std::string OwnFolder();
 // Whether the program's texts are in the folder.
 bool HoldsTexts(const std::string& folder);
 
-// The path of a program of this installation: in this program's folder where it is there, else searched as
-// usual.
+// The path of a program of this installation. If it is not in this program's folder, the path is only its
+// name, which the system searches for.
 std::string ProgramPath(const std::string& name);
 
 class FirstStart : public QDialog {
@@ -37,11 +37,11 @@ class FirstStart : public QDialog {
 
   enum class Outcome {
     kReady,
-    kElsewhere,  // another start is making it, and came to the front
+    kElsewhere,  // another start is making it; its window came to the front
     kFailed,     // it cannot be made, or the person gave up
   };
 
-  // Returns when that is settled.
+  // Makes the folder. `token` is the activation token of this start.
   Outcome Run(const QByteArray& token);
 
  private:

@@ -21,8 +21,8 @@ namespace {
 
 constexpr const char* kActivationToken = "XDG_ACTIVATION_TOKEN";
 
-// A name made from the folder's path, in the person's own run-time folder, so that neither folders nor
-// persons get in each other's way.
+// The socket of a data folder. Its name depends on the folder's path, and it is in the person's own run-time
+// folder, so that neither folders nor users share one.
 QString SocketOf(const std::string& folder) {
   std::error_code failure;
   const std::filesystem::path canonical = std::filesystem::weakly_canonical(folder, failure);
@@ -67,7 +67,7 @@ OneProgram::Outcome OneProgram::Claim(const std::string& locked, const QByteArra
     const Lock lock = TryLock(locked);
     if (lock == Lock::kTaken) return Outcome::kOurs;
     if (Call(token, patience)) return Outcome::kAnswered;
-    // Some file systems have no locks; nobody answers, so nobody is there.
+    // Some file systems have no locks. As no program answered, none is running.
     if (lock == Lock::kUnknown) return Outcome::kOurs;
     if (patience.hasExpired()) break;
     QThread::msleep(kPause);
@@ -86,7 +86,7 @@ OneProgram::Lock OneProgram::TryLock(const std::string& locked) {
   return Lock::kTaken;
 }
 
-// One try; whether another program answered.
+// Tries once. Returns whether another program answered.
 bool OneProgram::Call(const QByteArray& token, const QDeadlineTimer& patience) {
   const auto remaining = [&patience] { return static_cast<int>(patience.remainingTime()); };
   QLocalSocket line;
@@ -115,7 +115,7 @@ void OneProgram::AnswerCallers() {
     QObject::connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
     const auto answer = [this, caller] {
       if (!caller->canReadLine()) return;
-      // The windowing system's layer reads it there when a window asks to come to the front.
+      // Qt reads it there when a window asks to come to the front.
       const QByteArray token = caller->readLine().trimmed();
       if (!token.isEmpty()) qputenv(kActivationToken, token);
       come_forward_();

@@ -1,9 +1,9 @@
-// Keeps a data folder for one program at a time, as two would overwrite each other's files.
+// Reserves a data folder for one program at a time, as two programs would overwrite each other's files.
 //
-// The lock is the operating system's, on the folder itself: no file appears in the folder, the lock stays
-// with the folder when it is renamed, and it ends with the process, so that a crash leaves none behind. A
-// program that finds the folder locked calls the one that holds it, over a socket in the person's run-time
-// folder; that one comes to the front and answers with its name.
+// The lock is a lock of the operating system on the folder itself: it needs no file, stays with the folder
+// when it is renamed, and ends with the process, even after a crash. A program that finds the folder locked
+// calls the program that holds the lock, through a socket in the person's run-time folder. That program comes
+// to the front and answers with its name.
 #pragma once
 
 #include <QByteArray>
@@ -18,12 +18,12 @@
 
 namespace lectern::desktop {
 
-// The activation token with which the desktop lets a program that a person started come to the front; empty
-// where there is none. The windowing system's layer removes it when the application is made. Requires: there
-// is no QApplication yet.
+// The activation token, with which the desktop lets a program that a person started come to the front; empty
+// if there is none. Qt removes it from the environment when the application is created. Requires: there is no
+// QApplication yet.
 QByteArray TakeActivationToken();
 
-// Brings a window to the front, also one that is minimised.
+// Brings a window to the front, even if it is minimised.
 void BringToFront(QWidget& window);
 
 class OneProgram {
@@ -34,12 +34,12 @@ class OneProgram {
 
   enum class Outcome {
     kOurs,
-    kAnswered,  // another program has it, and came to the front
+    kAnswered,  // another program has it, and has come to the front
     kSilent,    // another program has it and does not answer; the person has been told
   };
 
-  // Tries to take the folder. The lock goes on the folder `locked`, which differs while the folder is being
-  // made. Waits a few seconds at most for a program that is just starting or ending.
+  // Tries to take the folder by locking `locked`, which is a different folder while the data folder is being
+  // made. Waits at most a few seconds for a program that is just starting or ending.
   Outcome Claim(const std::string& locked, const QByteArray& token);
 
   // The name of the program that answered.

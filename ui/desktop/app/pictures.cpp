@@ -19,8 +19,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-// The decoder for a file that begins with these bytes; nullptr for none. Qt would load every decoder of the
-// desktop to find out.
+// The decoder for a file that begins with these bytes; nullptr if there is none. Qt would load all installed
+// decoders to find out.
 const char* FormatOf(std::string_view bytes) {
   constexpr std::pair<std::string_view, const char*> kBeginnings[] = {
       {"\xFF\xD8\xFF"sv, "jpeg"}, {"\x89PNG\r\n\x1A\n"sv, "png"}, {"GIF8"sv, "gif"}, {"BM"sv, "bmp"},
@@ -32,7 +32,7 @@ const char* FormatOf(std::string_view bytes) {
   return nullptr;
 }
 
-// Copies the pixels of a JPEG, which Qt holds as red, green, blue from the top bits down.
+// Copies the pixels of a JPEG, which Qt stores in the order of a QRgb.
 void CopyOpaque(const QImage& image, forms::Bitmap& bitmap) {
   for (int y = 0; y < image.height(); ++y) {
     const auto* const from = reinterpret_cast<const QRgb*>(image.constScanLine(y));
@@ -57,7 +57,7 @@ forms::Bitmap BitmapOf(QImage image) {
   return bitmap;
 }
 
-// Reads a picture from bytes that stay where they are. Refuses one with more than a gigabyte of pixels.
+// Reads a picture without copying its bytes. Refuses a picture with more than a gigabyte of pixels.
 class PictureReader {
  public:
   PictureReader(std::string_view bytes, const char* format)
@@ -86,8 +86,8 @@ class PictureReader {
 // A JPEG. Decoding it at a small size takes a fraction of the time and memory of all its pixels.
 class JpegSource : public forms::PictureSource {
  public:
-  // Returns null where the bytes are no picture. Reading the first row is enough to know: a picture of one
-  // scan has at most gaps after it, and of any other all scans are read for it.
+  // Returns null if the bytes are not a picture. Reading the first row is enough to tell. If the file has a
+  // single scan, damage after that row only leaves gaps; if it has several, all of them are read for it.
   static std::unique_ptr<const JpegSource> From(std::string_view bytes) {
     const QSize size = PictureReader(bytes, kFormat)->size();
     if (!PictureReader::Allows(size) || FirstRows(bytes, {size.width(), 1}).isNull()) return nullptr;
@@ -101,12 +101,12 @@ class JpegSource : public forms::PictureSource {
 
   forms::Bitmap Pixels() const override {
     QImage image = PictureReader(bytes_, kFormat)->read();
-    // After the last row the decoder looks at what follows the picture; damage there must not lose the rows.
+    // After the last row the decoder looks at what follows the picture. Damage there must not cost the rows.
     if (image.isNull()) image = FirstRows(bytes_, {size_.width(), size_.height() - 1}).copy({{}, size_});
     return BitmapOf(std::move(image));
   }
 
-  // Returns null where it has to be scaled from the pixels.
+  // Returns null if the picture has to be scaled from its pixels.
   QImage ScaledTo(const QSize& size) const {
     PictureReader reader(bytes_, kFormat);
     reader->setScaledSize(size);
@@ -165,7 +165,7 @@ QPixmap Scaled(const forms::Picture& picture, const QSize& size) {
   }
   if (picture->Empty()) return {};
   QImage image = ImageOf(*picture);
-  // Without opacity, Qt scales four times as fast.
+  // Qt scales four times as fast without opacity.
   if (IsOpaque(*picture)) image.reinterpretAsFormat(QImage::Format_RGBX8888);
   return QPixmap::fromImage(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }

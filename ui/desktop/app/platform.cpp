@@ -98,7 +98,7 @@ base::ScreenSize DesktopPlatform::Screen() {
 
 forms::Picture DesktopPlatform::DecodePicture(std::string_view bytes) { return Decode(bytes); }
 
-// In the size that it has on the screen, or reduced to the paper's.
+// Prints the window in its size on the screen, reduced if the paper is smaller.
 void DesktopPlatform::PrintForm(forms::Window& window) {
   constexpr double kDotsPerInch = 96;  // of the screen
   const base::RunTimeError no_answer(base::ErrorNumber::kPrinter);

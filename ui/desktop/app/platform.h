@@ -1,4 +1,5 @@
-// What the program needs of the desktop: boxes, clock, random numbers, printer, screen, pictures and browser.
+// What the program needs from the desktop: boxes, clock, random numbers, printer, screen, pictures and
+// browser.
 #pragma once
 
 #include <QWidget>
@@ -30,10 +31,10 @@ class DesktopPlatform : public base::Platform {
   // Reports a failure that nothing trapped.
   void Report(const base::RunTimeError& error);
 
-  // Called ahead of a box: shows the results so far, and returns the window that the box belongs to.
+  // Called before a box opens: shows the results so far and returns the window that the box belongs to.
   std::function<QWidget*()> before_box;
 
-  // Calls `print` with the face of a window, without its menu bar, as it is to be printed.
+  // Calls `print` with the face of a window, without its menu bar, ready to be printed.
   std::function<void(forms::Window&, const std::function<void(QWidget&)>& print)> with_face;
 
  private:

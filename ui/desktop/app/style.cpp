@@ -42,17 +42,13 @@ class Style : public QProxyStyle {
                      const QWidget* widget) const override {
     switch (element) {
       case PE_PanelButtonCommand:
-        DrawButton(*option, *painter);
-        break;
+        return DrawButton(*option, *painter);
       case PE_IndicatorRadioButton:
-        DrawRadio(*option, *painter);
-        break;
+        return DrawRadio(*option, *painter);
       case PE_Frame:
-        DrawFrame(*option, *painter);
-        break;
+        return DrawFrame(*option, *painter);
       case PE_FrameFocusRect:
-        DrawFocusRing(*painter, option->rect, option->palette);
-        break;
+        return DrawFocusRing(*painter, option->rect, option->palette);
       default:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -91,7 +87,7 @@ class Style : public QProxyStyle {
       case SH_DialogButtonBox_ButtonsHaveIcons:
       case SH_Widget_Animate:
       case SH_Widget_Animation_Duration:
-        return 0;  // plain, and at once
+        return 0;  // no decoration
       default:
         return QProxyStyle::styleHint(hint, option, widget, returned);
     }

@@ -1,5 +1,5 @@
-// The look of the program: colours, typefaces, and what is drawn in the same way everywhere. Colours of the
-// desktop's theme come from Qt's palette; where the desktop brings none of its own, the program has a calm
+// The look of the program: colours, fonts, and what is drawn in the same way everywhere. Colours of the
+// desktop's theme come from Qt's palette. If the desktop has no palette of its own, the program uses a calm,
 // light one. A colour that a handler chose is kept, except for text that would be illegible on a dark ground.
 #pragma once
 
@@ -18,35 +18,35 @@ namespace lectern::desktop {
 // Requires: there is a QApplication.
 void ApplyTheme();
 
-// Flat, with fine lines, and a clear ring around what has the focus; what it does not draw itself is drawn as
-// in Qt's Fusion style. The application owns it once it is set.
+// A flat style with fine lines and a clear ring around the widget that has the focus, based on Qt's Fusion
+// style. The application owns it once it is set.
 QStyle* MakeStyle();
 
-// Dark ink on a light ground: the program's own colours, and those of paper whatever the screen looks like.
+// The program's own colours, dark ink on a light ground, which are also those of a printed page.
 QPalette OwnPalette();
 
 // An open book on its stand, in the sizes that desktops ask for.
 QIcon ProgramIcon();
 
-// The program's own font: the desktop's, in a size for which every text fits its place.
+// The program's own font: that of the desktop, in a size in which every text fits its place.
 QFont OwnFont();
 
-// The font of a control; what the control leaves open is the program's own.
+// The font of a control. What the control does not set is taken from the program's own font.
 QFont FontOf(const forms::TextControl& control);
 
-// The font in a size that is large enough for writing.
+// The font, made larger if it is too small for writing.
 QFont ForWriting(QFont font);
 
-// The colour that a number of the forms stands for.
+// The colour for a colour number of the forms.
 QColor ToColor(forms::Colour colour, const QPalette& palette);
 
 bool IsDark(const QColor& colour);
 
-// The text's colour, lightened until it is legible where the ground is dark. Text in the very colour of its
-// ground is hidden on purpose and stays so.
+// The text's colour, lightened until it is legible if the ground is dark. Text in exactly the colour of its
+// ground is hidden on purpose and stays hidden.
 QColor Legible(const QColor& text, const QColor& ground);
 
-// What a shadow on that ground looks like.
+// The colour of a shadow on that ground.
 QColor ShadowOn(const QColor& ground);
 
 // Black or white, whichever is easier to read on the ground.
@@ -60,7 +60,7 @@ QColor LineColor(const QPalette& palette);
 // A rectangle whose outline falls on whole pixels.
 QRectF OutlineOf(const QRect& rect);
 
-// The ring that shows where the keyboard's input goes.
+// The ring around the widget that has the focus.
 void DrawFocusRing(QPainter& painter, const QRectF& around, const QPalette& palette);
 
 }  // namespace lectern::desktop

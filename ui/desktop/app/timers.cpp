@@ -22,7 +22,7 @@ class Timers::Watched : public forms::View {
   void Update(qint64 now) {
     if (std::exchange(starts_anew_, false)) due_ = now + Interval();
   }
-  // Ticks that fell due meanwhile are skipped.
+  // Ticks that became due meanwhile are skipped.
   void HasTicked(qint64 now) { due_ = TicksAtOnce() ? now : now + Interval() - (now - due_) % Interval(); }
 
  private:
@@ -69,7 +69,7 @@ void Timers::Update() {
 }
 
 void Timers::WakeUp() {
-  if (events_.AtWork()) return;  // the event's end updates the alarm
+  if (events_.AtWork()) return;  // the alarm is updated when the event ends
   const qint64 now = clock_.elapsed();
   events_.DeliverTicks([&] {
     std::vector<const forms::Timer*> due;

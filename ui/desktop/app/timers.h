@@ -1,6 +1,6 @@
 // Ticks the timers of the windows. A timer with an interval of 1 ticks as soon as pending events have been
-// served, one with a longer interval keeps its time. None ticks while an event or a box is at work; ticks
-// that fall due meanwhile are delivered as one.
+// handled; longer intervals are measured by the clock. No timer ticks while an event runs or a box is open;
+// ticks that become due meanwhile are delivered as one.
 #pragma once
 
 #include <QElapsedTimer>
