@@ -46,7 +46,11 @@ Bookmarks::Bookmarks(reader::Reader& the_reader, forms::PictureBox& Picture1, fo
   Label19_3.PutInArray(3);
   C_4.PutInArray(4);
   Picture2_.Picture = Arrows();
-  tools_.Command3.Click = [this] { Command3_Click(); };
+  tools_.Command3.Click = [this] {
+    picp_.Visible = false;
+    xb_Click();
+    tools_.Disable();
+  };
   xb.Click = [this] { xb_Click(); };
   File1.Click = [this] { File1_Click(); };
   Command5.Click = [this] {
@@ -60,12 +64,6 @@ Bookmarks::Bookmarks(reader::Reader& the_reader, forms::PictureBox& Picture1, fo
   // ODDITY(sweeping-chapters): every movement of the pointer over the box opens the next chapter, even past
   // the last one.
   Picture2_.MouseMove = [this](const forms::MouseEvent&) { reader_.StepToNextChapter(); };
-}
-
-void Bookmarks::Command3_Click() {
-  picp_.Visible = false;
-  xb_Click();
-  tools_.Disable();
 }
 
 // ODDITY(bookmark-doors): the menu entry leaves the picture open and the tool buttons enabled; the tool

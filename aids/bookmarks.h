@@ -35,7 +35,6 @@ class Bookmarks {
   forms::CommandButton Command7{Picture1_, "Command7", {.caption = "Close", .is_cancel = true}};
 
  private:
-  void Command3_Click();
   void xb_Click();
   void File1_Click();
   void Command6_Click();

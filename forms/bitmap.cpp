@@ -18,62 +18,49 @@ std::size_t CountOf(int width, int height) {
   return count;
 }
 
+// The bits that an operation leaves; those of the opacity do not count.
+Pixel Combined(RasterOperation operation, Pixel d, Pixel p) {
+  switch (operation) {
+    case RasterOperation::kBlackness:
+      return 0;
+    case RasterOperation::kNotMergePen:
+      return ~(d | p);
+    case RasterOperation::kMaskNotPen:
+      return d & ~p;
+    case RasterOperation::kNotCopyPen:
+      return ~p;
+    case RasterOperation::kMaskPenNot:
+      return p & ~d;
+    case RasterOperation::kInvert:
+      return ~d;
+    case RasterOperation::kXorPen:
+      return d ^ p;
+    case RasterOperation::kNotMaskPen:
+      return ~(d & p);
+    case RasterOperation::kMaskPen:
+      return d & p;
+    case RasterOperation::kNotXorPen:
+      return ~(d ^ p);
+    case RasterOperation::kNop:
+      return d;
+    case RasterOperation::kMergeNotPen:
+      return d | ~p;
+    case RasterOperation::kCopyPen:
+      return p;
+    case RasterOperation::kMergePenNot:
+      return p | ~d;
+    case RasterOperation::kMergePen:
+      return d | p;
+    case RasterOperation::kWhiteness:
+      return kWhitePixel;
+  }
+  return d;
+}
+
 }  // namespace
 
 Pixel Combine(RasterOperation operation, Pixel destination, Pixel pen) {
-  const Pixel d = destination;
-  const Pixel p = pen;
-  Pixel result = d;
-  switch (operation) {
-    case RasterOperation::kBlackness:
-      result = 0;
-      break;
-    case RasterOperation::kNotMergePen:
-      result = ~(d | p);
-      break;
-    case RasterOperation::kMaskNotPen:
-      result = d & ~p;
-      break;
-    case RasterOperation::kNotCopyPen:
-      result = ~p;
-      break;
-    case RasterOperation::kMaskPenNot:
-      result = p & ~d;
-      break;
-    case RasterOperation::kInvert:
-      result = ~d;
-      break;
-    case RasterOperation::kXorPen:
-      result = d ^ p;
-      break;
-    case RasterOperation::kNotMaskPen:
-      result = ~(d & p);
-      break;
-    case RasterOperation::kMaskPen:
-      result = d & p;
-      break;
-    case RasterOperation::kNotXorPen:
-      result = ~(d ^ p);
-      break;
-    case RasterOperation::kNop:
-      break;
-    case RasterOperation::kMergeNotPen:
-      result = d | ~p;
-      break;
-    case RasterOperation::kCopyPen:
-      result = p;
-      break;
-    case RasterOperation::kMergePenNot:
-      result = p | ~d;
-      break;
-    case RasterOperation::kMergePen:
-      result = d | p;
-      break;
-    case RasterOperation::kWhiteness:
-      result = kWhitePixel;
-      break;
-  }
-  return (result & ~kOpaque) | kOpaque;
+  return Combined(operation, destination, pen) | kOpaque;
 }
 
 void Area::Include(const Area& other) {

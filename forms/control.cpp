@@ -1,7 +1,6 @@
 #include "forms/control.h"
 
 #include <algorithm>
-#include <cassert>
 #include <utility>
 
 #include "forms/window.h"

@@ -263,6 +263,10 @@ class ControlArray {
   ControlArray(Container& parent, const char* name, std::initializer_list<Design> designs) {
     for (const Design& design : designs) Add(parent, name, design);
   }
+  // One control for each caption, in order.
+  ControlArray(Container& parent, const char* name, std::initializer_list<const char*> captions) {
+    for (const char* caption : captions) Add(parent, name, {.caption = caption});
+  }
 
   Kind& operator()(int index) {
     if (index < 0 || index >= Count()) throw base::RunTimeError(base::ErrorNumber::kSubscript);

@@ -133,14 +133,12 @@ const Bitmap& PictureBox::Shown() const { return screen_ ? *screen_ : persistent
 
 Area PictureBox::TakeChangedArea() { return std::exchange(changed_, {}); }
 
-void PictureBox::ForgetScreen() {
+void PictureBox::WindowWasHidden() {
   if (!screen_) return;
   screen_.reset();
   changed_.Include({0, 0, PixelWidth(), PixelHeight()});
   TellView();
 }
-
-void PictureBox::WindowWasHidden() { ForgetScreen(); }
 
 bool PictureBox::ReadIndexed(std::string_view property, const std::vector<int>& arguments,
                              Value& value) const {

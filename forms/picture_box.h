@@ -73,7 +73,6 @@ class PictureBox : public Holding<TextControl> {
   Bitmap Blank() const;
   Bitmap& Persistent();
   void SizeWritten() override;
-  void ForgetScreen();
   double ToPixels(double coordinate) const;
   template <class Draw>
   void DrawOn(Draw draw);

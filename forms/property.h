@@ -7,7 +7,6 @@
 #pragma once
 
 #include <algorithm>
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>

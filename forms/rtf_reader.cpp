@@ -38,6 +38,8 @@ constexpr std::array kSigns = {
     Sign{"rdblquote", "”"},
 };
 
+constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+
 enum class Destination { kPage, kFonts, kColours, kNowhere };
 
 struct Group {
@@ -98,35 +100,27 @@ class RtfReader {
   void Control() {
     if (at_ >= bytes_.size()) return;
     const char c = bytes_[at_];
-    if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')) {
-      ControlWord();
-      return;
-    }
+    if (IsLetter(c)) return ControlWord();
     ++at_;
     switch (c) {
       case '\'':
-        HexByte();
-        break;
+        return HexByte();
       case '*':
         starred_ = true;
-        break;
+        return;
       case '~':
-        Text("\u00A0");
-        break;
+        return Text("\u00A0");
       case '_':
-        Text("-");
-        break;
+        return Text("-");
       case '\r':
       case '\n':
-        Text("\r\n");
-        break;
+        return Text("\r\n");
       case '\\':
       case '{':
       case '}':
-        Byte(static_cast<unsigned char>(c));
-        break;
+        return Byte(static_cast<unsigned char>(c));
       default:
-        break;
+        return;
     }
   }
 
@@ -141,8 +135,7 @@ class RtfReader {
 
   void ControlWord() {
     const std::size_t start = at_;
-    const auto letter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-    while (at_ < bytes_.size() && letter(bytes_[at_])) ++at_;
+    while (at_ < bytes_.size() && IsLetter(bytes_[at_])) ++at_;
     const std::string_view word = bytes_.substr(start, at_ - start);
     int number = 0;
     const auto [end, failure] = std::from_chars(bytes_.data() + at_, bytes_.data() + bytes_.size(), number);

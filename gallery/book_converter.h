@@ -27,7 +27,6 @@ class BookConverter {
  public:
   explicit BookConverter(forms::Frame& Frame5);
 
-  // The folder for the book file.
   forms::DirListBox Dir2{Frame5_, "Dir2", {.name = "Folder for the book file"}};
   forms::FileListBox File2{Frame5_, "File2", {.name = "Files of that folder"}};  // the files there
   forms::RichTextBox RTB1{Frame5_, "RTB1", {.name = "Source of the book"}};      // the source

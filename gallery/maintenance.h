@@ -33,12 +33,10 @@ class Maintenance {
   forms::CommandButton Command26{Frame5_, "Command26", {.caption = "pictures"}};  // shows the panel
   forms::Label Label2{Frame5_, "Label2", {.caption = "pictures"}};  // shows the help on changing books
   // The labels of the boxes of the selected record.
-  forms::ControlArray<forms::Label> Label3{
-      Frame5_, "Label3", {{.caption = "Name"}, {.caption = "Book Chapter: Verce"}, {.caption = "Author"}}};
+  forms::ControlArray<forms::Label> Label3{Frame5_, "Label3", {"Name", "Book Chapter: Verce", "Author"}};
   forms::FileListBox File3{Frame6_, "File3", {.name = "Files of the pictures"}};  // the picture files
-  // Moves the selected picture towards the start.
+  // These move the selected picture.
   forms::SSCommand SSCommand1{Frame5_, "SSCommand1", {.caption = "‹", .name = "Move towards the start"}};
-  // Moves it towards the end.
   forms::SSCommand SSCommand2{Frame5_, "SSCommand2", {.caption = "›", .name = "Move towards the end"}};
   forms::CommandButton Command49{Frame5_, "Command49", {.caption = "Add 2 Picture File"}};  // adds a record
   // These remove one record of a picture, and all of them.

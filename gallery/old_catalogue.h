@@ -26,11 +26,8 @@ class OldCatalogue {
   PictureCatalogue& catalogue_;
   Viewer& viewer_;
   reader::Reader& reader_;
-  // Shows the chapter's picture of the old catalogue.
-  forms::CommandButton Command38{
-      reader_.form,
-      "Command38",
-      {.caption = "Command38", .name = "Show the chapter's picture of the old catalogue"}};
+  static constexpr std::string_view kPurpose = "Show the chapter's picture of the old catalogue";
+  forms::CommandButton Command38{reader_.form, "Command38", {.caption = "Command38", .name = kPurpose}};
 };
 
 // An older way to list the pictures: one list for the book and one for the chapter.

@@ -93,7 +93,6 @@ class PictureCatalogue {
   // The record selected last: name, place, author.
   forms::ControlArray<forms::TextBox> selfile{
       Frame5_, "selfile", {{.name = "Name"}, {.name = "Place"}, {.name = "Author"}}};
-  // The folder of the pictures.
   forms::DirListBox Dirpics{Frame6_, "Dirpics", {.name = "Folder of the pictures"}};
   forms::Label lblendpic{Frame5_, "lblendpic", {.caption = "lblendpic"}};
   forms::HScrollBar picnm{

@@ -17,7 +17,10 @@ Viewer::Viewer(PictureCatalogue& the_catalogue, forms::PictureBox& picp)
     : catalogue_(the_catalogue), reader_(catalogue_.reader), picp_(picp) {
   pick.BorderStyle = 1;
   catalogue_.picnm.Change = [this] { picnm_Change(); };
-  reader_.tmrpic.Tick = [this] { tmrpic_Timer(); };
+  // The slide show starts again after the last picture.
+  reader_.tmrpic.Tick = [&picnm = catalogue_.picnm] {
+    picnm.Value = picnm.Value == picnm.Max() ? 0 : picnm.Value + 1;
+  };
   // The text to show is always empty.
   tmrpb.Tick = [this] {
     reader_.form.Platform().Message("");
@@ -41,12 +44,6 @@ void Viewer::picnm_Change() {
   ignore([&] { pick.Picture = reader_.form.LoadPicture(catalogue_.PictureFile(name)); });
   LBLPICP.Caption = name;
   lblvs.Caption = catalogue_.lstmc(1).List(index);
-}
-
-// One step of the slide show, which starts again after the last picture.
-void Viewer::tmrpic_Timer() {
-  forms::HScrollBar& picnm = catalogue_.picnm;
-  picnm.Value = picnm.Value == picnm.Max() ? 0 : picnm.Value + 1;
 }
 
 Browser::Browser(PictureCatalogue& the_catalogue, Viewer& the_viewer, forms::PictureBox& Picture5,

@@ -32,7 +32,6 @@ class Viewer {
 
  private:
   void picnm_Change();
-  void tmrpic_Timer();
 };
 
 // The strip along the bottom of the window: the book's pictures, five to a page, each with its number above
@@ -58,7 +57,6 @@ class Browser {
   // Removes the mark of the selected picture.
   void ResetPictureLabels();
 
-  // To the previous page.
   forms::SSCommand SSCommand4{Picture5_, "SSCommand4", {.caption = "‹", .name = "Pictures before these"}};
   // The slots, left to right.
   forms::ControlArray<forms::Image> imgp{Picture5_,
@@ -70,7 +68,6 @@ class Browser {
                                           {.name = "Fifth picture on the strip", .stretch = true}}};
   // 0 to 4 below the slots, 5 to 9 above them.
   forms::ControlArray<forms::Label> lblp{Picture5_, "lblp", 2 * kSlotsOnPage};
-  // To the next page.
   forms::SSCommand SSCommand3{Picture5_, "SSCommand3", {.caption = "›", .name = "Pictures after these"}};
 
  private:

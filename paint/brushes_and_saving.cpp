@@ -53,13 +53,11 @@ void Brushes::picpbs_Click(int index) {
 PictureSaving::PictureSaving(forms::Window& the_form, gallery::PictureCatalogue& the_gallery,
                              gallery::Viewer& the_viewer, Canvas& the_canvas, Palette& palette)
     : palette_(palette), form_(the_form), gallery_(the_gallery), viewer_(the_viewer), canvas_(the_canvas) {
-  Command5.Click = [this] { Command5_Click(); };
+  // The canvas keeps its size and place, and the saves keep the original.
+  Command5.Click = [this] {
+    canvas_.picbox.Picture = form_.LoadPicture(gallery_.reader.DataFile("newpic.jpg"));
+  };
   Command2.Click = [this] { Command2_Click(); };
-}
-
-// The canvas keeps its size and place, and the saves keep the original.
-void PictureSaving::Command5_Click() {
-  canvas_.picbox.Picture = form_.LoadPicture(gallery_.reader.DataFile("newpic.jpg"));
 }
 
 void PictureSaving::Command2_Click() {

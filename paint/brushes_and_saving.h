@@ -54,7 +54,6 @@ class PictureSaving {
   forms::CommandButton Command2{form_, "Command2", {.caption = "Save Picture"}};     // saves the picture
 
  private:
-  void Command5_Click();
   void Command2_Click();
   bool IsInCatalogue(const std::string& name);
 };

@@ -8,9 +8,7 @@ namespace lectern::paint {
 
 namespace {
 
-constexpr double kStep = 2000;   // twips
-constexpr int kPageWidth = 533;  // pixels
-constexpr int kPageHeight = 363;
+constexpr double kStep = 2000;  // twips
 
 }  // namespace
 
@@ -18,9 +16,10 @@ Canvas::Canvas(forms::Window& the_form, PenSettings& the_pen) : form_(the_form),
   picbox.ScaleMode = forms::kScalePixels;
   picbox.MousePointer = forms::kPointerCustom;
   picbox.BorderStyle = 0;
-  picbox.Width = kPageWidth * forms::kTwipsPerPixel;
-  picbox.Height = kPageHeight * forms::kTwipsPerPixel;
-  picbox.Picture = WhitePage(kPageWidth, kPageHeight);
+  const forms::Picture page = WhitePage();
+  picbox.Width = page.Width() * forms::kTwipsPerPixel;
+  picbox.Height = page.Height() * forms::kTwipsPerPixel;
+  picbox.Picture = page;
   constexpr Direction kDirections[] = {Direction::kLeft, Direction::kUp, Direction::kRight, Direction::kDown};
   imgs.ForEach([&](int index, forms::Image& image) {
     image.Picture = ArrowPicture(kDirections[index]);

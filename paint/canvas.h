@@ -39,14 +39,8 @@ class PenSettings {
   // The labels of the boxes.
   forms::ControlArray<forms::Label> Label1{Frame1,
                                            "Label1",
-                                           {{.caption = "DrawWidth = "},
-                                            {.caption = "DrawStyle ="},
-                                            {.caption = "FillStyle ="},
-                                            {.caption = "X Position"},
-                                            {.caption = "Y Position"},
-                                            {.caption = "DrawMode ="},
-                                            {.caption = "Fill Color  = "},
-                                            {.caption = "DrawWidth = "}}};
+                                           {"DrawWidth = ", "DrawStyle =", "FillStyle =", "X Position",
+                                            "Y Position", "DrawMode =", "Fill Color  = ", "DrawWidth = "}};
   forms::Label Label3{Frame2, "Label3", {.caption = "Label3"}};          // nothing uses it
   forms::PictureBox clr1{Frame2, "clr1", {.back_color = forms::kBlue}};  // its background is the pen value
 };

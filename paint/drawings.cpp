@@ -56,6 +56,6 @@ forms::Picture StrokePicture(int width, int thickness) {
   return forms::Picture(std::move(stroke));
 }
 
-forms::Picture WhitePage(int width, int height) { return forms::Picture(forms::Bitmap(width, height)); }
+forms::Picture WhitePage() { return forms::Picture(forms::Bitmap(533, 363)); }
 
 }  // namespace lectern::paint

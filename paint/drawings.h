@@ -10,6 +10,6 @@ enum class Direction { kLeft, kUp, kRight, kDown };
 forms::Picture ArrowPicture(Direction direction);
 forms::Picture GlassPicture();                           // a magnifying glass
 forms::Picture StrokePicture(int width, int thickness);  // of a brush, from top to bottom; in pixels
-forms::Picture WhitePage(int width, int height);
+forms::Picture WhitePage();
 
 }  // namespace lectern::paint

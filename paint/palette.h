@@ -53,11 +53,8 @@ class Palette {
       Frame3,
       "scr1",
       {{.max = 25, .name = "Red"}, {.max = 25, .name = "Green"}, {.max = 25, .name = "Blue"}}};
-  // The labels of the bars.
-  forms::ControlArray<forms::Label> Label2{
-      Frame3, "Label2", {{.caption = "Red"}, {.caption = "Blue"}, {.caption = "Green"}}};
-  forms::TextBox Text3{Frame3, "Text3", {.text = "Text3", .name = "Pen value"}};  // the pen value
-  // Hides the colour bars.
+  forms::ControlArray<forms::Label> Label2{Frame3, "Label2", {"Red", "Blue", "Green"}};  // of the bars
+  forms::TextBox Text3{Frame3, "Text3", {.text = "Text3", .name = "Pen value"}};         // the pen value
   forms::CommandButton Clear{Frame3, "Clear", {.caption = "Hide Color Bars", .is_cancel = true}};
 
  private:

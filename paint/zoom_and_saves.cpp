@@ -63,7 +63,9 @@ SaveSlots::SaveSlots(forms::Window& the_form, Canvas& the_canvas, Zoom& the_zoom
     : form_(the_form), canvas_(the_canvas), zoom_(the_zoom) {
   IMGSPB.ForEach([this](int index, forms::Image& slot) {
     slot.BorderStyle = 1;
-    slot.Click = [this, index] { IMGSPB_Click(index); };
+    // ODDITY(level-outlives-going-back): going back from a zoomed state shows the picture in its own size,
+    // but the zoom level stays.
+    slot.Click = [this, index] { canvas_.ShowInItsSize(IMGSPB(index).Picture); };
   });
 }
 
@@ -81,9 +83,5 @@ void SaveSlots::TakeSnapshot(const std::string& scratch_file) {
   for (int slot = 1; slot < 4; ++slot) IMGSPB(slot).Picture = IMGSPB(slot + 1).Picture;
   IMGSPB(4).Picture = picbox.Image();
 }
-
-// ODDITY(level-outlives-going-back): going back from a zoomed state shows the picture in its own size, but
-// the zoom level stays.
-void SaveSlots::IMGSPB_Click(int index) { canvas_.ShowInItsSize(IMGSPB(index).Picture); }
 
 }  // namespace lectern::paint

@@ -53,9 +53,6 @@ class SaveSlots {
                                             {.name = "Save 3", .stretch = true},
                                             {.name = "Save 4, the newest", .stretch = true}}};
   forms::Line Line2{Frame7, "Line2"};  // between the original and the states
-
- private:
-  void IMGSPB_Click(int index);
 };
 
 }  // namespace lectern::paint

@@ -14,7 +14,7 @@ Reader::Reader(forms::Window& window, forms::Frame& frms, forms::PictureBox& Pic
   lblc.Change = [this] { lblc_Change(); };
   lblbk.Change = [this] { lblbk_Change(); };
   lst.Click = [this] { lst_Click(); };
-  scr.Change = [this] { scr_Change(); };
+  scr.Change = [this] { GoToChapter(std::to_string(scr.Value)); };
   for (std::size_t i = 0; i < kVersions.size(); ++i) {
     versions_.options[i].Click = [this, i] { ChangeVersion(kVersions[i]); };
   }
@@ -98,8 +98,6 @@ void Reader::LoadChapterRange() {
   const base::Ignoring ignore;
   ignore([&] { scr.Value = text::IntegerValue(Chapter()); });
 }
-
-void Reader::scr_Change() { GoToChapter(std::to_string(scr.Value)); }
 
 void Reader::lst_Click() {
   form.MousePointer = forms::kPointerHourglass;

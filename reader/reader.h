@@ -13,7 +13,6 @@
 // below. Only this class writes the three labels.
 #pragma once
 
-#include <deque>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -130,8 +129,7 @@ class Reader {
   forms::ListBox List1{form, "List1"};  // storage: nothing fills it
 
   // The current bookmark: name, book, chapter. The chapter follows the position.
-  forms::ControlArray<forms::Label> LBLMRK{
-      Picture1_, "LBLMRK", {{.caption = "NAME"}, {.caption = "BOOK"}, {.caption = "CHAPTER"}}};
+  forms::ControlArray<forms::Label> LBLMRK{Picture1_, "LBLMRK", {"NAME", "BOOK", "CHAPTER"}};
   // The slide show of the book's pictures. A change of the chapter stops it.
   forms::Timer tmrpic{form, "tmrpic", {.enabled = false, .interval = 5000}};
 
@@ -144,7 +142,6 @@ class Reader {
   void lblc_Change();
   void lblbk_Change();
   void lst_Click();
-  void scr_Change();
   void List1_DblClick();
 
   void LoadChapterRange();

@@ -65,7 +65,7 @@ Exits::Exits(Reader& the_reader, Settings& the_settings, ToolButtons& tools, for
     : reader_(the_reader), settings_(the_settings), oo12_(oo12) {
   tools.Command1.Click = [this] { Command1_Click(); };
   xx.Click = [this] { xx_Click(); };
-  oo12.Click = [this] { oo12_Click(); };
+  oo12.Click = [this] { oo12_.Checked = !oo12_.Checked; };
 }
 
 void Exits::Command1_Click() {
@@ -87,8 +87,6 @@ void Exits::xx_Click() {
   }
   throw base::ProgramEnd{};
 }
-
-void Exits::oo12_Click() { oo12_.Checked = !oo12_.Checked; }
 
 void Exits::Form_Unload() { throw base::ProgramEnd{}; }
 

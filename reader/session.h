@@ -48,7 +48,6 @@ class Exits {
  private:
   void Command1_Click();
   void xx_Click();
-  void oo12_Click();
 
   Reader& reader_;
   Settings& settings_;

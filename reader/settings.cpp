@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string>
 #include <string_view>
 #include <utility>
 
@@ -28,6 +27,26 @@ constexpr Style kStyles[] = {
     {"Bold Italic", true, true},
 };
 
+struct Swatch {
+  const char* control;
+  forms::Colour colour;
+  const char* name;
+};
+
+constexpr Swatch kSwatches[] = {
+    {"Picture25", 0x00C0C0C0, "Light grey"},
+    {"Picture26", 0x00FF00FF, "Magenta"},
+    {"Picture27", 0x00FF0000, "Blue"},
+    {"Picture28", 0x00FFFF00, "Cyan"},
+    {"Picture29", 0x0000FF00, "Green"},
+    {"Picture30", 0x0000FFFF, "Yellow"},
+    {"Picture31", 0x000080FF, "Orange"},
+    {"Picture32", 0x000000FF, "Red"},
+    {"Picture33", 0x00000000, "Black"},
+    {"Picture34", 0x00808080, "Grey"},
+    {"Picture35", forms::kWindowBackground, "Window colour"},
+};
+
 // An unknown style changes nothing.
 void SetStyle(forms::TextControl& control, std::string_view style) {
   for (const Style& known : kStyles) {
@@ -47,12 +66,17 @@ Settings::Settings(Reader& the_reader, forms::PictureBox& Picture23,
       coloured_(std::move(coloured)),
       tools_(the_tools),
       RTXT2(second_pane.RTXT2) {
-  oo11.Click = [this] { oo11_Click(); };
+  oo11.Click = [this] { Picture23_.Visible = true; };
   Combo1.Click = [this] { Combo1_Click(); };
   Combo2.Click = [this] { Combo_Click(); };
   Combo3.Click = [this] { Combo_Click(); };
   Command36.Click = [this] { Command36_Click(); };
-  Command24.Click = [this] { Command24_Click(); };
+  // ODDITY(close-unlocks): closing the panel enables the tool buttons although opening it does not disable
+  // them, even if another panel keeps them disabled.
+  Command24.Click = [this] {
+    Picture23_.Visible = false;
+    tools_.Enable();
+  };
 }
 
 void Settings::PrepareFile() {
@@ -144,44 +168,11 @@ void Settings::Combo_Click() {
   ApplyFontToPanes();
 }
 
-void Settings::oo11_Click() { Picture23_.Visible = true; }
-
 void Settings::Command36_Click() {
   reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("codex.cfg"));
   AppendRecord();
   ReadSettings();
 }
-
-// ODDITY(close-unlocks): closing the panel enables the tool buttons although opening it does not disable
-// them, even if another panel keeps them disabled.
-void Settings::Command24_Click() {
-  Picture23_.Visible = false;
-  tools_.Enable();
-}
-
-namespace {
-
-struct Swatch {
-  const char* control;
-  forms::Colour colour;
-  const char* name;
-};
-
-constexpr Swatch kSwatches[] = {
-    {"Picture25", 0x00C0C0C0, "Light grey"},
-    {"Picture26", 0x00FF00FF, "Magenta"},
-    {"Picture27", 0x00FF0000, "Blue"},
-    {"Picture28", 0x00FFFF00, "Cyan"},
-    {"Picture29", 0x0000FF00, "Green"},
-    {"Picture30", 0x0000FFFF, "Yellow"},
-    {"Picture31", 0x000080FF, "Orange"},
-    {"Picture32", 0x000000FF, "Red"},
-    {"Picture33", 0x00000000, "Black"},
-    {"Picture34", 0x00808080, "Grey"},
-    {"Picture35", forms::kWindowBackground, "Window colour"},
-};
-
-}  // namespace
 
 DesktopColour::DesktopColour(forms::PictureBox& Picture23, std::vector<forms::PlacedControl*> coloured)
     : Picture23_(Picture23), coloured_(std::move(coloured)) {

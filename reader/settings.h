@@ -83,26 +83,18 @@ class Settings {
   forms::ComboBox Combo3{Picture23_, "Combo3", {.name = "Style"}};  // style
 
  private:
-  void oo11_Click();
   void Combo1_Click();
   void Combo_Click();
   void Command36_Click();
-  void Command24_Click();
 
   void ApplyFontSamples();
   void ApplyFontToPanes();
 
   // The heading, and the labels of the boxes.
-  forms::ControlArray<forms::Label> lblsetting{Picture23_,
-                                               "lblsetting",
-                                               {{.caption = "Fonts and desktop"},
-                                                {.caption = "Font"},
-                                                {.caption = "Size"},
-                                                {.caption = "Style"},
-                                                {.caption = "Colors"}}};
+  forms::ControlArray<forms::Label> lblsetting{
+      Picture23_, "lblsetting", {"Fonts and desktop", "Font", "Size", "Style", "Colors"}};
   // Samples of the font.
-  forms::ControlArray<forms::Label> lblf{
-      Picture23_, "lblf", {{.caption = "A B C D E F G"}, {.caption = "a b c d e f g"}}};
+  forms::ControlArray<forms::Label> lblf{Picture23_, "lblf", {"A B C D E F G", "a b c d e f g"}};
   DesktopColour colours_{Picture23_, coloured_};
   forms::CommandButton Command36{Picture23_, "Command36", {.caption = "Save", .is_default = true}};
   forms::CommandButton Command24{

@@ -2,7 +2,6 @@
 
 #include "base/text/characters.h"
 #include "reader/reference.h"
-#include "search/results.h"
 
 namespace lectern::search {
 

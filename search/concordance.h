@@ -3,7 +3,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "forms/buttons.h"
 #include "forms/containers.h"
@@ -70,7 +69,7 @@ class ConcordanceEditing {
                      TextSearch& the_search, ResultNavigation& the_results, ConcordanceViewer& the_viewer);
 
   forms::CommandButton Command21{frmc_, "Command21", {.caption = "Delete Word/Phrase"}};
-  // On the builder's panel: cuts the concordance at its true end.
+  // On the builder's panel.
   forms::CommandButton Command18{
       Frame2_, "Command18", {.caption = "Command18", .name = "Cut the file back to its true end"}};
 

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "base/files/text_encoding.h"
-#include "base/text/characters.h"
 #include "reader/reference.h"
 #include "search/term_finder.h"
 

@@ -30,9 +30,7 @@ void Form4::Form_Load() {
 }
 
 void Form4::Open(const forms::Picture& picture) {
-  constexpr int kPageWidth = 533;  // pixels
-  constexpr int kPageHeight = 363;
-  canvas_.picbox.Picture = picture ? picture : paint::WhitePage(kPageWidth, kPageHeight);
+  canvas_.picbox.Picture = picture ? picture : paint::WhitePage();
   Visible = true;
   BringToFront();
   canvas_.TakePictureSize();

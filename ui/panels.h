@@ -15,10 +15,14 @@ class Panels {
   forms::Window& form_;
 
  public:
-  explicit Panels(forms::Window& form);
+  explicit Panels(forms::Window& form) : form_(form) {
+    Picture6.BorderStyle = 0;  // no border between the tools and the text above
+  }
 
   // The panels that take a colour chosen in the settings, in this order.
-  std::vector<forms::PlacedControl*> Coloured();
+  std::vector<forms::PlacedControl*> Coloured() {
+    return {&Picture23, &frmc, &frmd, &Picture17, &frmhelp, &frms, &frmscale, &FRMMARK};
+  }
 
   forms::PictureBox Picture6{form_, "Picture6"};  // the row of tool buttons
   forms::PictureBox Picture5{form_, "Picture5"};  // the strip of pictures

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <new>
 
-#include "base/errors.h"
 #include "base/text/characters.h"
 #include "forms/bars_and_timer.h"
 
@@ -65,10 +64,6 @@ void Program::Guard(forms::AfterFailure after, const std::function<void()>& even
   } catch (const base::ProgramEnd& end) {
     End(end.status);
   }
-}
-
-bool Program::Tick() {
-  return Tick([](const forms::Timer&) { return true; });
 }
 
 bool Program::Tick(const std::function<bool(const forms::Timer&)>& due) {

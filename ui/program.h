@@ -4,7 +4,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -27,10 +26,8 @@ class Program {
   // unless the window goes on after failures.
   void Deliver(forms::Window& window, const std::function<void()>& event);
 
-  // Ticks every timer that is on at the start of the call, or only those that are due. Returns whether any
-  // did.
-  bool Tick();
-  bool Tick(const std::function<bool(const forms::Timer&)>& due);
+  // Ticks every timer that is on at the start of the call and due. Returns whether there was any.
+  bool Tick(const std::function<bool(const forms::Timer&)>& due = [](const forms::Timer&) { return true; });
 
   // Acts as the close box of a window: runs Form_Unload, and then deletes or hides the window.
   void Close(forms::Window& window);

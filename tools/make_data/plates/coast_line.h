@@ -2,7 +2,6 @@
 // squares, each with the pieces of the shores that cross it. Read once, then used by all maps.
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "tools/make_data/plates/projection.h"

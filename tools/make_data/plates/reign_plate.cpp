@@ -1,8 +1,6 @@
 #include "tools/make_data/plates/reign_plate.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 #include <sstream>
 
 #include "tools/make_data/plates/canvas.h"

@@ -1,7 +1,6 @@
 #include "tools/make_data/plates/tree_plate.h"
 
 #include <algorithm>
-#include <array>
 #include <functional>
 
 #include "tools/make_data/plates/canvas.h"
