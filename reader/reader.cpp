@@ -44,9 +44,12 @@ FoundReference Reader::Find(std::string_view typed) const {
   const auto chapter = static_cast<std::size_t>(at.chapter);
   // In a range of verses, the first one counts.
   const bool is_readable =
-      read->rest.find_first_not_of(" .:,") == std::string_view::npos || read->rest[0] == '-';
-  if (chapter > verses.size() || (chapter == 0 && !is_readable)) return {at, Missing::kChapter};
-  if (!is_readable || (chapter > 0 && at.verse > verses[chapter - 1])) return {at, Missing::kVerse};
+      read->rest.find_first_not_of(" .:,v") == std::string_view::npos || read->rest[0] == '-';
+  if (chapter > verses.size() || (chapter == 0 && !is_readable)) {
+    return {at, Missing::kChapter, static_cast<int>(verses.size())};
+  }
+  const int last = chapter > 0 ? verses[chapter - 1] : 0;
+  if (!is_readable || at.verse > last) return {at, Missing::kVerse, last};
   return {at, Missing::kNothing};
 }
 

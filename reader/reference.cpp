@@ -24,16 +24,16 @@ struct Abbreviation {
 constexpr Abbreviation kAbbreviations[] = {
     {"gn", "genesis"}, {"lv", "leviticus"}, {"nm", "numbers"}, {"nb", "numbers"}, {"dt", "deuteronomy"},
     {"jsh", "joshua"}, {"jdgs", "judges"}, {"jdg", "judges"}, {"jg", "judges"}, {"rth", "ruth"},
-    {"sm", "samuel"}, {"kgs", "kings"}, {"jb", "job"}, {"pss", "psalms"}, {"prv", "proverbs"},
-    {"qoh", "ecclesiastes"}, {"ssol", "songofsolomon"}, {"sos", "songofsolomon"},
-    {"canticles", "songofsolomon"}, {"jr", "jeremiah"}, {"ezk", "ezekiel"}, {"dn", "daniel"},
+    {"sm", "samuel"}, {"kgs", "kings"}, {"jb", "job"}, {"pss", "psalms"}, {"psm", "psalms"},
+    {"prv", "proverbs"}, {"qoh", "ecclesiastes"}, {"ssol", "songofsolomon"}, {"sos", "songofsolomon"},
+    {"sg", "songofsolomon"}, {"songofsongs", "songofsolomon"}, {"canticles", "songofsolomon"}, {"jr", "jeremiah"}, {"ezk", "ezekiel"}, {"dn", "daniel"},
     {"jl", "joel"}, {"jnh", "jonah"}, {"hb", "habakkuk"}, {"zp", "zephaniah"}, {"hg", "haggai"},
     {"zc", "zechariah"}, {"zch", "zechariah"}, {"ml", "malachi"}, {"mt", "matthew"}, {"mk", "mark"},
     {"mr", "mark"}, {"mrk", "mark"}, {"lk", "luke"}, {"jn", "john"}, {"jhn", "john"}, {"rm", "romans"},
-    {"php", "philippians"}, {"phi", "philippians"}, {"phil", "philippians"}, {"tm", "timothy"},
+    {"actsoftheapostles", "acts"}, {"ths", "thessalonians"}, {"php", "philippians"}, {"phi", "philippians"}, {"phil", "philippians"}, {"tm", "timothy"},
     {"phm", "philemon"}, {"phlm", "philemon"}, {"phmn", "philemon"}, {"jas", "james"}, {"jm", "james"},
     {"pt", "peter"}, {"jd", "jude"}, {"rv", "revelation"}, {"revelationofjohn", "revelation"},
-    {"apocalypse", "revelation"},
+    {"apocalypse", "revelation"}, {"apoc", "revelation"},
 };
 // clang-format on
 
@@ -52,7 +52,7 @@ bool IsAbbreviation(std::string_view letters, std::string_view name) {
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsBetweenLetters(char c) { return c == ' ' || c == '.' || c == '-' || c == '\t'; }
-bool IsBetweenNumbers(char c) { return c == ' ' || c == '.' || c == ':' || c == ','; }
+bool IsBetweenNumbers(char c) { return c == ' ' || c == '.' || c == ':' || c == ',' || c == 'v' || c == 'V'; }
 
 template <class Test>
 void Skip(std::string_view& text, Test test) {
@@ -60,11 +60,14 @@ void Skip(std::string_view& text, Test test) {
       static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), test) - text.begin()));
 }
 
-// The number before a name, such as "1" or "I".
+// The number before a name, such as "1", "1st" or "I".
 int TakeBookNumber(std::string_view& text) {
   if (text.size() > 1 && text[0] >= '1' && text[0] <= '3' && !IsDigit(text[1])) {
     const int number = text[0] - '0';
     text.remove_prefix(1);
+    for (const std::string_view ending : {"st ", "nd ", "rd "}) {
+      if (text.starts_with(ending)) text.remove_prefix(ending.size());
+    }
     return number;
   }
   const std::size_t end = text.find_first_not_of("iI");
@@ -129,16 +132,33 @@ std::optional<int> FindBook(std::string_view name) {
   return name.empty() ? FindName(taken) : std::nullopt;
 }
 
+std::vector<int> BooksBeginningWith(std::string_view typed) {
+  const Name wanted = TakeName(typed);
+  std::vector<int> books;
+  if (wanted.letters.empty()) return books;
+  for (std::size_t i = 0; i < kCanon.size(); ++i) {
+    const Name& name = CanonNames()[i];
+    if (name.number == wanted.number && name.letters.starts_with(wanted.letters)) {
+      books.push_back(static_cast<int>(i));
+    }
+  }
+  return books;
+}
+
 std::optional<ReadReferenceResult> ReadReference(std::string_view text) {
   const std::optional<int> book = FindName(TakeName(text));
   if (!book) return std::nullopt;
   ReadReferenceResult result{{*book}, text};
   if (text.empty() || !IsDigit(text[0])) return result;
-  result.reference.chapter = TakeNumber(text);
+  const int chapter = TakeNumber(text);
+  if (chapter == 0) return result;
+  result.reference.chapter = chapter;
   result.rest = text;
   Skip(text, IsBetweenNumbers);
   if (text.empty() || !IsDigit(text[0])) return result;
-  result.reference.verse = TakeNumber(text);
+  const int verse = TakeNumber(text);
+  if (verse == 0) return result;
+  result.reference.verse = verse;
   result.rest = text;
   return result;
 }

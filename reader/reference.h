@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lectern::reader {
 
@@ -18,13 +19,17 @@ struct Reference {
 // the canon. Ignores case, blanks and stops. The first letters, at least two, are enough if unambiguous.
 std::optional<int> FindBook(std::string_view name);
 
+// The books whose names begin with the name in a typed reference, in canonical order: "jo" begins Joshua,
+// Job, Joel, Jonah and John.
+std::vector<int> BooksBeginningWith(std::string_view typed);
+
 struct ReadReferenceResult {
   Reference reference;
   std::string_view rest;  // of the text
 };
 
 // Reads the reference at the start of a text: "Jn 3 16", "ps119:105", "Gen.1.1 and so on". Blanks, a colon, a
-// stop or a comma separate chapter and verse. Returns nothing if no book is named.
+// stop, a comma or a "v" separate chapter and verse; a zero is none. Returns nothing if no book is named.
 std::optional<ReadReferenceResult> ReadReference(std::string_view text);
 
 // "1 Peter 2:6", or with another separator.
@@ -39,6 +44,7 @@ struct FoundReference {
 
   Reference reference;
   Missing missing = Missing::kNothing;  // the first part that cannot be read or is not in the text
+  int available = 0;                    // how many chapters or verses there are, where one is missing
 };
 
 }  // namespace lectern::reader

@@ -21,6 +21,7 @@
 #include "search/trivia.h"
 #include "ui/menus.h"
 #include "ui/panels.h"
+#include "ui/reading_desk.h"
 
 namespace lectern::ui {
 
@@ -43,6 +44,9 @@ class Form1 : public forms::Window {
   // For the paint window.
   gallery::PictureCatalogue& Pictures() { return pictures_; }
   gallery::Viewer& PictureViewer() { return viewer_; }
+
+  // For the desktop.
+  ReadingDesk& Desk() { return desk_; }
 
  private:
   Menus menus_{*this};
@@ -79,6 +83,7 @@ class Form1 : public forms::Window {
   gallery::BookConverter book_converter_{panels_.Frame5};
   reader::StartUp start_up_{
       reader_, settings_, {pictures_.Dirpics, bookmarks_.File1, concordance_builder_.Text2}};
+  ReadingDesk desk_{reader_, panels_};
   reader::Exits exits_{reader_, settings_, tools_, menus_.xx, menus_.oo12};
 };
 

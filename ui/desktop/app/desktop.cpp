@@ -161,6 +161,7 @@ bool Desktop::Start() {
   if (program_.HasEnded()) return false;
   // The main window is the first that the program makes, and stays until the program ends.
   forms::Window& main_window = *program_.windows.All().front();
+  desk_ = std::make_unique<DeskView>(dynamic_cast<ui::Form1&>(main_window), *windows_.front());
   if (!bench_controls_.empty())
     bench_ = std::make_unique<BenchView>(main_window, *windows_.front(), bench_controls_);
   return true;

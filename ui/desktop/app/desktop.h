@@ -12,6 +12,7 @@
 #include "ui/desktop/app/events.h"
 #include "ui/desktop/app/platform.h"
 #include "ui/desktop/app/timers.h"
+#include "ui/desktop/desk/desk_view.h"
 #include "ui/desktop/views/bench_view.h"
 #include "ui/desktop/views/window_view.h"
 #include "ui/program.h"
@@ -61,6 +62,7 @@ class Desktop {
   Timers timers_;
   std::vector<std::unique_ptr<WindowView>> windows_;
   std::vector<std::string> bench_controls_;
+  std::unique_ptr<DeskView> desk_;
   std::unique_ptr<BenchView> bench_;
   QPointer<QWidget> used_last_;
   QObject receiver_;  // of signals; destroyed first, so that none arrives while the rest is destroyed

@@ -42,6 +42,8 @@ QTextCharFormat FormatOf(const forms::TextStyle& style, const QPalette& palette,
 
 }  // namespace
 
+int VerseOf(const QString& paragraph) { return paragraph.left(VerseNumberOf(paragraph).digits).toInt(); }
+
 PageSetting::PageSetting(const QFont& font, const QString& text)
     : font_(font), number_width_(0), metrics_(font) {
   qsizetype digits = 2;

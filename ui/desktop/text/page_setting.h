@@ -33,6 +33,9 @@ class PageSetting {
   QFontMetricsF metrics_;
 };
 
+// The number at the start of a verse's paragraph; 0 for any other paragraph.
+int VerseOf(const QString& paragraph);
+
 // Applies the runs to the layout of the paragraphs, without editing the document: there is nothing to undo.
 // `setting` is that of a page, nullptr for an editor. Colours are made legible on the palette's base colour.
 // Sizes are multiplied by `enlargement`.

@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextEdit>
@@ -17,6 +18,7 @@
 #include "ui/desktop/app/theme.h"
 #include "ui/desktop/text/page_setting.h"
 #include "ui/desktop/text/rich_text_view.h"
+#include "ui/desktop/text/verse_page.h"
 #include "ui/desktop/views/keys.h"
 #include "ui/desktop/views/window_view.h"
 
@@ -41,6 +43,18 @@ class PageWidget : public QTextEdit {
   std::function<void()> quote;                  // copies it; empty if the text has no references
   std::function<void(int steps)> wants_larger;  // called when the wheel is turned with Ctrl
 
+  // The place of a paragraph in the viewport. Breaks the text into lines up to there.
+  QRect PlaceOf(const QTextBlock& block) const {
+    const QRectF place = document()->documentLayout()->blockBoundingRect(block);
+    return place.toAlignedRect().translated(0, -verticalScrollBar()->value());
+  }
+
+  // Draws a bar beside the paragraph, until there is another document.
+  void Mark(const QTextBlock& block) {
+    marked_ = QTextCursor(block);
+    viewport()->update();
+  }
+
   // What is at the top of the viewport.
   struct Place {
     int position = 0;  // in the document
@@ -59,6 +73,16 @@ class PageWidget : public QTextEdit {
   }
 
  protected:
+  void paintEvent(QPaintEvent* event) override {
+    QTextEdit::paintEvent(event);
+    if (marked_.isNull() || marked_.document() != document()) return;
+    constexpr int kWidth = 3;
+    const QRect place = PlaceOf(marked_.block());
+    const int left = (kPageMargin - kWidth) / 2;
+    QPainter painter(viewport());
+    painter.fillRect(QRect(left, place.top(), kWidth, place.height()), palette().color(QPalette::Highlight));
+  }
+
   void wheelEvent(QWheelEvent* event) override {
     if ((event->modifiers() & Qt::ControlModifier) == 0) return QTextEdit::wheelEvent(event);
     constexpr int kNotch = 120;
@@ -96,12 +120,26 @@ class PageWidget : public QTextEdit {
     setTextCursor(cursor);
   }
 
-  int turned_ = 0;  // part of a notch of the wheel
+  QTextCursor marked_;  // in the marked paragraph
+  int turned_ = 0;      // part of a notch of the wheel
 };
 
-class ReadingPage : public RichTextView {
+class ReadingPage : public RichTextView, public VersePage {
+ public:
   using RichTextView::RichTextView;
 
+  void ShowVerse(int verse) override {
+    wanted_verse_ = verse;
+    Changed();
+  }
+
+  void KeepInSight() override {
+    if (document_ == nullptr) return;
+    wanted_place_ = page_->TopPlace();
+    Changed();
+  }
+
+ private:
   QWidget* Make(QWidget* parent) override {
     page_ = new PageWidget(parent);
     page_->wants_larger = [this](int steps) { GetWindow().Enlarge(steps); };
@@ -141,6 +179,8 @@ class ReadingPage : public RichTextView {
     if (changes.text) bar->setValue(is_new ? 0 : scrolled);
     if (font_changed) page_->ScrollTo(place_);
     if (changes.marks) ScrollToFirstMark();
+    if (const auto place = std::exchange(wanted_place_, {})) page_->ScrollTo(*place);
+    if (const int verse = std::exchange(wanted_verse_, 0); verse > 0) BringVerseIntoSight(verse);
   }
 
   // The keys that move a caret in other texts scroll a page. With Shift they select, and show the caret.
@@ -200,16 +240,31 @@ class ReadingPage : public RichTextView {
     bar->setValue(bar->value() + more);
   }
 
-  // Scrolls the first mark into the upper third of the part that no panel covers. A mark in the first lines
-  // may need space above it for that.
   void ScrollToFirstMark() {
     BringMarkIntoSight(*page_, [this](const QTextCursor&, const QRect& place, const QRect& open) {
-      QScrollBar* const bar = page_->verticalScrollBar();
-      const int top = bar->value() + place.top();  // of the mark, in the whole text
-      const int wanted = top - open.top() - open.height() / 3;
-      if (top < open.top()) SetSpaceAbove(space_above_ - wanted);
-      bar->setValue(std::max(wanted, 0));
+      ScrollInto(open, place);
     });
+  }
+
+  // Scrolls a place into the upper third of the part that no panel covers, or to where it ends within that
+  // part. A place in the first lines may need space above it for that.
+  void ScrollInto(const QRect& open, const QRect& place) {
+    QScrollBar* const bar = page_->verticalScrollBar();
+    const int top = bar->value() + place.top();  // in the whole text
+    const int wanted = top - open.top() - std::clamp(open.height() - place.height(), 0, open.height() / 3);
+    if (top < open.top()) SetSpaceAbove(space_above_ - wanted);
+    bar->setValue(std::max(wanted, 0));
+  }
+
+  void BringVerseIntoSight(int verse) {
+    for (QTextBlock block = document_->begin(); block.isValid(); block = block.next()) {
+      if (VerseOf(block.text()) != verse) continue;
+      page_->Mark(block);
+      const QRect place = page_->PlaceOf(block);
+      const QRect open = OpenPart(*page_);
+      if (place.top() < open.top() || place.bottom() > open.bottom()) ScrollInto(open, place);
+      return;
+    }
   }
 
   bool CanQuote() {
@@ -224,10 +279,12 @@ class ReadingPage : public RichTextView {
   PageWidget* page_ = nullptr;
   QTextDocument* document_ = nullptr;  // owned by page_
   std::optional<PageSetting> setting_;
-  std::string text_;         // as loaded
-  QFont font_;               // as loaded
-  PageWidget::Place place_;  // before a change of the font
-  int space_above_ = 0;      // pixels
+  std::string text_;                               // as loaded
+  QFont font_;                                     // as loaded
+  PageWidget::Place place_;                        // before a change of the font
+  std::optional<PageWidget::Place> wanted_place_;  // at the next update
+  int wanted_verse_ = 0;                           // the same; 0 for none
+  int space_above_ = 0;                            // pixels
 };
 
 }  // namespace

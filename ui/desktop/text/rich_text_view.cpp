@@ -59,7 +59,6 @@ std::optional<int> RichTextView::FirstMark() const {
   return std::nullopt;
 }
 
-// The part above the panels or the part below them, whichever is larger.
 QRect RichTextView::OpenPart(const QAbstractScrollArea& pane) {
   const QWidget& viewport = *pane.viewport();
   QRect open = viewport.rect();

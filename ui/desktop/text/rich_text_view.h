@@ -53,6 +53,9 @@ class RichTextView : public ViewOf<forms::RichTextBox> {
     if (place.top() < open.top() || place.bottom() > open.bottom()) scroll(at, place, open);
   }
 
+  // The part of the viewport above the panels or the part below them, whichever is larger.
+  static QRect OpenPart(const QAbstractScrollArea& pane);
+
   Ground GetGround() const override { return Ground::kField; }
   bool Needs(const QKeyEvent& key) const override;
 
@@ -60,7 +63,6 @@ class RichTextView : public ViewOf<forms::RichTextBox> {
 
  private:
   std::optional<int> FirstMark() const;  // a position of Qt
-  static QRect OpenPart(const QAbstractScrollArea& pane);
 
   struct Shown {
     unsigned text = 0;  // generations of the control

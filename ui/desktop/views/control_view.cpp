@@ -199,7 +199,13 @@ bool ControlView::KeyPressed(const QKeyEvent& key) {
   const bool presses_buttons = code == forms::kEnterKey || code == forms::kEscapeKey;
   if (HandleKey(key)) return true;
   if (presses_buttons && !Needs(key)) {
-    if (!key.isAutoRepeat()) Act([this, code] { control_.PersonKeys(code); });
+    const auto press = [this, code] { control_.PersonKeys(code); };
+    if (key.isAutoRepeat()) return true;
+    if (code == forms::kEscapeKey) {
+      Act([this, press] { window_.escaping(press); });
+    } else {
+      Act(press);
+    }
     return true;
   }
   if (code != 0 && control_.KeyDown) Act([this, code] { control_.KeyDown(code); });

@@ -21,6 +21,7 @@ class MenuBarView {
   int Place(int width);
 
   void OpenFirst();
+  QMenuBar& Bar() const { return *bar_; }
 
  private:
   class Entry;

@@ -130,6 +130,8 @@ QWidget& WindowView::Face() {
   return *face_;
 }
 
+QMenuBar* WindowView::MenuBar() const { return menu_bar_ ? &menu_bar_->Bar() : nullptr; }
+
 // The window's size is that of its client area, below the menu bar.
 void WindowView::ApplySize() {
   const QSize client(ToPixels(window_.ClientWidth()), ToPixels(window_.ClientHeight()));
@@ -261,7 +263,7 @@ bool WindowView::KeyPressed(const QKeyEvent& event) {
   if (HandleKey(event)) return true;
   switch (event.key()) {
     case Qt::Key_Escape:
-      GetEvents().Deliver(window_, [this] { window_.PressCancelOfFrontPanel(); });
+      GetEvents().Deliver(window_, [this] { escaping([this] { window_.PressCancelOfFrontPanel(); }); });
       return true;
     case Qt::Key_F6:
       focus_->ChangeBetweenPanels();

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -41,6 +42,7 @@ class WindowView : public QObject, public LayerView {
 
   QWidget* Frame() const { return frame_.get(); }  // nullptr until the window is first shown
   QWidget& Face();                                 // the part of the frame with the controls
+  QMenuBar* MenuBar() const;                       // nullptr if the window has none
   bool IsOf(const forms::Window& window) const { return &window_ == &window; }
 
   // For the views of the controls.
@@ -53,6 +55,9 @@ class WindowView : public QObject, public LayerView {
   // button always comes before a menu.
   bool PressAccessKey(int letter);
   bool HasAccessKey(int letter) const { return ButtonWith(letter) != nullptr; }
+
+  // Runs within an event what Escape does. What is around the panels may do more.
+  std::function<void(const std::function<void()>& press)> escaping = [](const auto& press) { press(); };
 
   // Handles a key that works wherever the focus is. Returns whether it did.
   bool HandleKey(const QKeyEvent& key);
