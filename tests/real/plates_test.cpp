@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include "tests/real/real_data.h"
+#include "tools/make_data/plates/gallery.h"
+#include "tools/make_data/plates/map_ground.h"
 #include "tools/make_data/plates/map_plate.h"
-#include "tools/make_data/plates/maps.h"
-#include "tools/make_data/plates/passage.h"
-#include "tools/make_data/plates/pictures.h"
 #include "tools/make_data/plates/reign_plate.h"
+#include "tools/make_data/plates/sections.h"
 #include "tools/make_data/plates/table_plate.h"
 #include "tools/make_data/plates/tree_plate.h"
 #include "tools/make_data/texts.h"

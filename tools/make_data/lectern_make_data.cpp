@@ -17,7 +17,7 @@
 #include "reader/books.h"
 #include "tools/make_data/dictionary.h"
 #include "tools/make_data/paint_files.h"
-#include "tools/make_data/plates/pictures.h"
+#include "tools/make_data/plates/gallery.h"
 #include "tools/make_data/texts.h"
 #include "tools/make_data/version_files.h"
 #include "tools/make_data/written_texts.h"

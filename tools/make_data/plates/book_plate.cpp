@@ -4,9 +4,9 @@
 #include <cmath>
 
 #include "tools/make_data/plates/canvas.h"
+#include "tools/make_data/plates/lettering.h"
 #include "tools/make_data/plates/ornament.h"
 #include "tools/make_data/plates/sections.h"
-#include "tools/make_data/plates/typesetting.h"
 #include "tools/make_data/texts.h"
 
 namespace lectern::plates {

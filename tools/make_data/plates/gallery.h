@@ -1,11 +1,12 @@
-// All plates of the gallery, in the order in which the catalogue has those of one verse.
+// All plates of the gallery, in the order in which the catalogue has those of one verse, and their files in
+// the data folder.
 #pragma once
 
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "tools/make_data/plates/maps.h"
+#include "tools/make_data/plates/map_ground.h"
 #include "tools/make_data/texts.h"
 
 namespace lectern::plates {
@@ -39,5 +40,12 @@ class Gallery {
 
 // The page of a book, "Psalms", as the table books.txt has it: its name on the page and in the gallery.
 std::string BookPageName(const std::string& book);
+
+// The records of all pictures in the order of the canon, and beside one verse in the order of the plates.
+std::string PictureCatalogueText(const std::vector<Plate>& plates);
+
+// Draws what is not there yet, on as many processors as there are. What is there may have been painted on,
+// and is left alone.
+void MakePictures(const std::string& data_folder, const make_data::Version& text);
 
 }  // namespace lectern::plates

@@ -4,7 +4,7 @@
 #include <pango/pangocairo.h>
 #include <string_view>
 
-#include "tools/make_data/plates/typesetting.h"
+#include "tools/make_data/plates/canvas.h"
 #include "tools/make_data/texts.h"
 
 namespace lectern::plates {

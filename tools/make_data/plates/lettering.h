@@ -1,7 +1,9 @@
-// Lettering in EB Garamond.
+// Lettering in EB Garamond: single lines, and layouts of Pango for plates that set whole paragraphs.
 #pragma once
 
 #include <cairo.h>
+#include <memory>
+#include <pango/pangocairo.h>
 #include <string>
 
 #include "tools/make_data/plates/style.h"
@@ -36,5 +38,13 @@ void DrawTextWithRim(cairo_t* context, const std::string& text, const Letters& l
 
 // An Obstacle where the typeface is not installed.
 void RequireLettering();
+
+struct Unref {
+  void operator()(gpointer object) const { g_object_unref(object); }
+};
+using Layout = std::unique_ptr<PangoLayout, Unref>;
+
+Layout NewLayout();
+void SetLetters(PangoLayout* layout, const Letters& letters);
 
 }  // namespace lectern::plates

@@ -1,13 +1,53 @@
-// Draws a map whose content has its place.
+// What a map shows, with its place on the plate and how each kind of thing looks, and the drawing of it.
 #pragma once
 
 #include <string>
+#include <utility>
+#include <vector>
 
-#include "tools/make_data/plates/map_content.h"
+#include "tools/make_data/plates/labels.h"
+#include "tools/make_data/plates/map_ground.h"
+#include "tools/make_data/plates/places.h"
 
 namespace lectern::plates {
 
-// The picture's file.
+struct Sign {
+  Point at;
+  const NamedPlace* place;
+};
+
+using Route = std::vector<Point>;  // points a pixel or two apart
+
+struct Area {
+  std::vector<Point> outline;
+  Colour colour;
+};
+
+struct MapContent {
+  const MapGround& ground;
+  std::string title, passage;
+  Box title_box{};
+  std::vector<Sign> signs{};
+  std::vector<Route> routes{};
+  std::vector<Area> areas{};
+  std::vector<Label> labels{};
+};
+
+struct Manner {
+  Letters letters;
+  Colour colour;
+  double sign_radius;
+};
+
+Manner MannerOf(PlaceKind kind);
+
+constexpr Letters kTitleLetters{.size = 21};
+constexpr Letters kPassageLetters{.size = 13.5, .is_italic = true};
+
+// The round length of miles that fills a scale bar, and how many pixels it takes.
+std::pair<int, double> ScaleBar(const Projection& projection);
+
+// Draws the map; the picture's file.
 std::string DrawnMap(const MapContent& map);
 
 }  // namespace lectern::plates

@@ -1,7 +1,9 @@
-// What lies below a map's names: land, sea with engraved water lines, lakes and rivers of one region. Made
-// once for a region and shared by its maps.
+// What lies below a map's names: land, sea with engraved water lines, lakes and rivers of one region. Each
+// ground is made once and shared by the maps of its region.
 #pragma once
 
+#include <map>
+#include <string>
 #include <vector>
 
 #include "tools/make_data/plates/canvas.h"
@@ -45,5 +47,22 @@ class MapGround {
 
 // Degrees, as the tables have them: "32.5,29.9 33,30".
 Outline ReadOutline(std::string_view text);
+
+// The grounds of all regions, each made when it is first asked for. They may be asked for by several threads.
+class MapGrounds {
+ public:
+  MapGrounds();
+  ~MapGrounds();
+
+  const MapGround& Of(const std::string& region) const;
+
+ private:
+  struct Region;
+  CoastLine coast_;
+  WaterChanges changes_;
+  std::map<std::string, std::unique_ptr<Region>> regions_;
+};
+
+const std::vector<Section>& MapSections();
 
 }  // namespace lectern::plates

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "tools/make_data/plates/map_drawing.h"
-#include "tools/make_data/plates/passage.h"
+#include "tools/make_data/plates/sections.h"
 #include "tools/make_data/texts.h"
 
 namespace lectern::plates {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "tools/make_data/plates/map_content.h"
+#include "tools/make_data/plates/map_drawing.h"
 #include "tools/make_data/plates/sections.h"
 
 namespace lectern::plates {

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+#include "tools/make_data/texts.h"
+
 namespace lectern::plates {
 
 struct Section {
@@ -29,5 +31,11 @@ std::vector<std::string> Parts(std::string_view text, char separator);
 
 // The written table of a name ("maps.txt").
 std::string_view WrittenTable(std::string_view name);
+
+// "Exodus 12-19; 33:2-5; Jude" as it is shown: with dashes between the numbers.
+std::string ShownPassage(const std::string& passage);
+
+// All verses of a passage, one behind the other. An Obstacle where it names no verses.
+std::string WordsOf(const std::string& passage, const make_data::Version& text);
 
 }  // namespace lectern::plates

@@ -4,7 +4,7 @@
 #include <numeric>
 
 #include "tools/make_data/plates/canvas.h"
-#include "tools/make_data/plates/passage.h"
+#include "tools/make_data/plates/sections.h"
 
 namespace lectern::plates {
 
