@@ -1,10 +1,10 @@
-// Fills a folder with everything that the program reads, from packages of the distribution.
+// Fills a folder with all files that the program reads, made from packages of the distribution.
 //
 //   lectern-make-data FOLDER                 everything; safe to run again
 //   lectern-make-data --words N FOLDER       with concordances of N words, for a quick look
 //   lectern-make-data --second FILE FOLDER   a person's own text as the second version
 //
-// It replaces what it made before, and leaves alone what a person made.
+// It replaces the files that it made before, and keeps what a person made.
 #include <charconv>
 #include <exception>
 #include <fcntl.h>
@@ -66,7 +66,7 @@ void MakeSettings(const std::string& folder) {
   WriteFile(path, "\"" + SerifFont() + "\",\"12\",\"Regular\"\r\n");
 }
 
-// An existing concordance may hold what the person added, and stays.
+// An existing concordance stays, as the person may have added to it.
 void MakeConcordance(const std::string& folder, const Version& text, const reader::Version& version,
                      std::size_t most, Steps& steps) {
   if (std::filesystem::exists(folder + "/" + std::string(version.concordance))) return;
@@ -78,7 +78,7 @@ void MakeConcordance(const std::string& folder, const Version& text, const reade
   std::cout << "\r        \r";
 }
 
-// Without this a power cut could leave a folder of empty files that looks whole.
+// Otherwise a power cut could leave a folder of empty files that looks complete.
 void FlushToDisk(const std::string& folder) {
   const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   const bool is_done = descriptor >= 0 && ::syncfs(descriptor) == 0;

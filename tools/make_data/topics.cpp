@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kHeadingMark = "$$$";
 
-// The value behind `start` up to the next quote; empty if the tag begins otherwise.
+// The value after `start`, up to the next quote; empty if the tag does not begin with `start`.
 std::string_view ValueOf(std::string_view tag, std::string_view start) {
   if (!tag.starts_with(start)) return {};
   const std::string_view value = tag.substr(start.size());
@@ -49,7 +49,7 @@ class ItemReader {
       item_.see.emplace_back(target);
     } else if (tag == "/ref" && inside_passage_) {
       inside_passage_ = false;
-      // What follows is punctuation, and verses that the source forgot to mark.
+      // What follows is punctuation, and references that are not marked in the source.
       behind_passage_ = true;
     }
   }
@@ -67,7 +67,7 @@ class ItemReader {
     item_.words = PlainWords(words_);
     constexpr std::string_view kArrow = "→";
     if (item_.words.starts_with(kArrow)) item_.words.erase(0, kArrow.size() + 1);
-    // Now and then one item holds two, the second behind a dash.
+    // Some items are two, the second after a dash.
     constexpr std::string_view kDash = " -";
     for (std::size_t at = item_.words.find(kDash); at != std::string::npos; at = item_.words.find(kDash)) {
       items_.push_back({item_.nested, item_.words.substr(0, at), {}, {}});
@@ -121,8 +121,8 @@ std::vector<Topic> ReadTopics() {
   std::vector<Topic> topics =
       ParseTopics(OutputOf("mod2imp Nave </dev/null", "mod2imp", "libsword-utils sword-dict-naves"));
   if (topics.size() < kTopics) {
-    throw Obstacle("The dictionary's source gives " + std::to_string(topics.size()) + " topics, where " +
-                   std::to_string(kTopics) + " and more are wanted.");
+    throw Obstacle("The dictionary's source gives " + std::to_string(topics.size()) + " topics, but " +
+                   std::to_string(kTopics) + " or more are expected.");
   }
   return topics;
 }

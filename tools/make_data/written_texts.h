@@ -1,5 +1,5 @@
-// The texts written for the data folder: the questions of the game and the help topics. Their files lie
-// beside the tool's source and are built into it, so that it can install them by itself.
+// The texts written for the data folder: the questions of the game and the help topics. Their files are next
+// to the tool's sources and are built into the tool.
 #pragma once
 
 #include <span>
@@ -24,7 +24,7 @@ struct TriviaQuestion {
   std::string place;  // the verse to read, "1 Samuel 3:10"
 };
 
-// One question a line, "question | answer | place"; lines that are empty or begin with # are skipped.
+// Reads a question from each line, "question | answer | place". Skips lines that are empty or begin with #.
 std::vector<TriviaQuestion> ParseTrivia(std::string_view text);
 
 // All questions built into the tool, in order.

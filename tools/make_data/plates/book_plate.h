@@ -1,4 +1,4 @@
-// A book's page: its name, and the verse that people know it by, set with an initial as in a fine edition.
+// A book's page: its name and its best-known verse, set with an initial as in a fine edition.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@ namespace lectern::plates {
 
 class BookPlate {
  public:
-  // The passage's words are the text's own.
+  // `words` are the words of the passage in the text.
   BookPlate(std::string book, std::string passage, const std::string& words, Colour ground);
 
   std::string AsJpeg() const;
@@ -27,7 +27,7 @@ class BookPlate {
   void MeasureWords();
   std::vector<Line> Broken() const;
   double LineWidth(const Line& line) const;
-  // How far the page is from a full one with even blanks; 0 is best.
+  // How far the page is from a full page with even blanks; 0 is best.
   double Unevenness() const;
   bool Try(double size, int initial_lines);
   double IndentOf(std::size_t line) const;

@@ -1,4 +1,4 @@
-// A page to draw a plate on, and the plain shapes that plates are made of.
+// The page on which a plate is drawn, and the basic shapes of the plates.
 #pragma once
 
 #include <cairo.h>
@@ -42,14 +42,14 @@ void FillBox(cairo_t* context, const Box& box, Colour colour);
 void Line(cairo_t* context, Point from, Point to, double width, Colour colour);
 void FillLozenge(cairo_t* context, Point centre, double radius, Colour colour);
 
-// A path through all the points without a corner.
+// A path through all the points, without corners.
 void SmoothPath(cairo_t* context, std::span<const Point> points);
 
 // The two rules around every plate, with their corners.
 void DrawFrame(cairo_t* context);
 
-// A plate's heading in the middle of the top, with a rule below it, and its passage at the foot. What lies
-// between them is left to the plate.
+// Draws a plate's heading at the top, with a rule below it, and its passage at the foot. Returns the space
+// between them.
 Box DrawHeading(cairo_t* context, const std::string& title, const std::string& passage);
 
 }  // namespace lectern::plates

@@ -56,7 +56,7 @@ class DataFile {
   int file_ = 0;
 };
 
-// The points of the pieces, which are stored as shares of their square.
+// The points of the pieces, which are stored as fractions of their square.
 class PointColumns {
  public:
   explicit PointColumns(const DataFile& file)
@@ -171,7 +171,7 @@ std::vector<Outline> ClosedOutlines(const Square& square, Shore::Level level) {
       closed.push_back(shore.points);
     } else {
       open.push_back(shore);
-      // Land lies to the left of every shore; what is wanted of a lake lies to the right.
+      // Land is to the left of every shore, so that the water of a lake is to the right.
       const bool is_water = level == Shore::kLake || level == Shore::kPond;
       if (is_water) Reverse(open.back());
     }
@@ -182,7 +182,7 @@ std::vector<Outline> ClosedOutlines(const Square& square, Shore::Level level) {
       closed.push_back({Corner(square, 0), Corner(square, 1), Corner(square, 2), Corner(square, 3)});
     return closed;
   }
-  // From where a piece leaves the square, the edge is followed against the clock to where the next one
+  // Where a piece leaves the square, the outline follows the edge anticlockwise to where the next piece
   // enters.
   const auto start = [&](const Shore& shore) {
     return AlongEdge(square, shore.points.front(), shore.enters);

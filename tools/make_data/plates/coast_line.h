@@ -1,5 +1,5 @@
-// The shores and rivers of the GSHHG data set, as package gmt-gshhg-high brings them: the earth cut into
-// squares, each with the pieces of the shores that cross it. Read once, then used by all maps.
+// The shores and rivers of the GSHHG data set, from package gmt-gshhg-high: the earth divided into squares,
+// each with the pieces of the shores that cross it. They are read once and used by all maps.
 #pragma once
 
 #include <vector>
@@ -13,7 +13,7 @@ using Outline = std::vector<Place>;
 // Instead of a side: a shore that closes within its square.
 inline constexpr int kClosed = 4;
 
-// What one square holds, in the data's own order.
+// A piece of a shore. The levels have the numbers of the data set.
 struct Shore {
   enum Level { kCoast = 1, kLake = 2, kIsland = 3, kPond = 4 };
   int level;
@@ -37,7 +37,7 @@ inline constexpr double kSquareDegrees = 2;
 
 class CoastLine {
  public:
-  // Reads the part that the region touches. An Obstacle where the package is missing.
+  // Reads the squares that the region touches. Throws an Obstacle if the package is missing.
   CoastLine(Place south_west, Place north_east);
 
   const std::vector<Square>& Squares() const { return squares_; }

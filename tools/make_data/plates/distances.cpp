@@ -63,7 +63,7 @@ std::vector<float> DistancesToLand(cairo_surface_t* mask) {
   const auto stride = static_cast<std::size_t>(cairo_image_surface_get_stride(mask));
   const unsigned char* const land = cairo_image_surface_get_data(mask);
   std::vector<float> squared(width * height);
-  // Up and down first, where a pass each way is enough.
+  // First along the columns, where a pass in each direction is enough.
   constexpr unsigned char kHalf = 128;
   for (std::size_t x = 0; x < width; ++x) {
     float distance = 30000;

@@ -1,4 +1,4 @@
-// How far every point of a map lies from land.
+// The distance of every point of a map from land.
 #pragma once
 
 #include <cairo.h>
@@ -6,8 +6,8 @@
 
 namespace lectern::plates {
 
-// Of each pixel of a mask, a row behind the other, the distance in pixels to the nearest one that is at least
-// half opaque.
+// For each pixel of a mask, row by row, the distance in pixels to the nearest pixel that is at least half
+// opaque.
 std::vector<float> DistancesToLand(cairo_surface_t* mask);
 
 }  // namespace lectern::plates

@@ -18,7 +18,7 @@ namespace lectern::plates {
 
 namespace {
 
-// The palette, by the names that the drawings use: f- fills, the others draw.
+// The palette, as the classes that the drawings use.
 constexpr const char* kHead =
     "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' width='640' "
     "height='436' "
@@ -45,7 +45,7 @@ void Render(RsvgHandle* drawing, const Canvas& canvas, const RsvgRectangle& view
   }
 }
 
-// The part of a canvas that is not of the ground's colour; empty where nothing is drawn.
+// The part of a canvas that differs from the ground's colour; empty if nothing is drawn.
 Box DrawnPart(const Canvas& canvas) {
   const unsigned ground = canvas.At(0, 0);
   Box drawn{static_cast<double>(canvas.Width()), static_cast<double>(canvas.Height()), 0, 0};
@@ -61,8 +61,8 @@ Box DrawnPart(const Canvas& canvas) {
   return drawn;
 }
 
-// Quiets loud colours, and gives white the paper's tone and black the ink's, so that a drawing stands well
-// beside the plates.
+// Subdues bright colours, and gives white the tone of the paper and black that of the ink, so that a drawing
+// matches the plates.
 void PrintOnPaper(cairo_t* context) {
   cairo_save(context);
   const auto lay = [&](cairo_operator_t how, Colour colour, double alpha) {
@@ -112,7 +112,7 @@ std::string DrawnAsJpeg(const std::string& path) {
   const std::unique_ptr<RsvgHandle, Unref> drawing(rsvg_handle_new_from_file(path.c_str(), nullptr));
   if (!drawing) throw make_data::Obstacle("The drawing " + path + " cannot be read.");
 
-  // Drawn once to see how far it reaches, also beyond its own page, on a ground that no drawing has.
+  // The first drawing finds the extent, which may exceed the drawing's page. No drawing uses this ground.
   const Canvas trial(FromHex(0x01FE02), 2 * kWidth, 2 * kHeight);
   Render(drawing.get(), trial, {kWidth / 2.0, kHeight / 2.0, kWidth, kHeight}, path);
   const Box drawn = DrawnPart(trial);
@@ -141,7 +141,7 @@ std::string ArtistOf(const std::string& path) {
   if (start == std::string_view::npos) return {};
   creator.remove_prefix(start + opening.size());
   std::string artist = make_data::PlainWords(creator.substr(0, creator.find('<')));
-  // An address behind the name is nobody's business, and a field cannot hold a quote.
+  // An address after the name stays private, and a field cannot contain a quote.
   if (const std::size_t address = artist.find(" ("); address != std::string::npos) artist.resize(address);
   std::replace(artist.begin(), artist.end(), '"', '\'');
   return artist == "Anonymous" ? "" : artist;

@@ -22,17 +22,17 @@ class DrawingPlate {
   std::string title_, passage_, document_;
 };
 
-// A vector drawing as a plate: the drawn part of it as large as fits, on the plates' ground and in their
-// frame. An Obstacle where the file cannot be drawn.
+// A vector drawing as a plate: its drawn part, as large as fits, on the plates' ground and in their frame.
+// Throws an Obstacle if the file cannot be drawn.
 std::string DrawnAsJpeg(const std::string& path);
 
-// Who made a vector drawing, by its own metadata; "" where that names nobody.
+// The artist that a vector drawing's metadata names; "" if it names none.
 std::string ArtistOf(const std::string& path);
 
-// The drawings of clip_art.txt. An Obstacle where the package is missing.
+// The drawings of clip_art.txt. Throws an Obstacle if the package is missing.
 std::vector<Plate> ClipArt();
 
-std::string EndCard();    // stands in the strip behind the last picture
+std::string EndCard();    // is shown on the strip after the last picture
 std::string BlankPage();  // to paint on
 
 }  // namespace lectern::plates

@@ -44,7 +44,7 @@ void WriteIfMissing(const fs::path& path, const std::string& bytes) {
   if (!fs::exists(path)) make_data::WriteFile(path.string(), bytes);
 }
 
-// A picture of the name, its ending in whichever case.
+// Whether there is a picture of that name, with its ending in either case.
 bool HasPicture(const fs::path& folder, const std::string& name) {
   return fs::exists(folder / (name + ".jpg")) || fs::exists(folder / (name + ".JPG"));
 }
@@ -63,7 +63,7 @@ Record RecordOf(const Plate& plate, std::string_view place) {
   return {read->reference.book, read->reference.chapter, read->reference.verse, files::Encode(line) + "\r\n"};
 }
 
-// Does the work of each in several threads; the first failure is thrown again when all have stopped.
+// Works on all items in several threads. The first failure is thrown again when all threads have stopped.
 void DoEach(std::size_t count, const std::function<void(std::size_t)>& work) {
   std::atomic<std::size_t> next = 0;
   std::exception_ptr failure;
@@ -141,7 +141,8 @@ void Gallery::AddBooks(const make_data::Version& text) {
       if (book == "colour") continue;
       const std::string passage = book + " " + verses;
       const std::string place = PlaceOf(passage);
-      // The page opens its book. In Genesis the days of creation do, and the page closes their chapter.
+      // The page comes first in its book. In Genesis it comes after the days of creation, at the chapter's
+      // end.
       const std::string opening = book == "Genesis" ? "Genesis 1: 31" : book + " 1: 1";
       const bool is_at_opening = place == book + " 1: 1";
       plates_.push_back({BookPageName(book), is_at_opening ? opening : opening + "; " + place, kCredit,

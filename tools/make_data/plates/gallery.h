@@ -1,5 +1,5 @@
-// All plates of the gallery, in the order in which the catalogue has those of one verse, and their files in
-// the data folder.
+// All plates of the gallery, and their files in the data folder. Plates of the same verse are in the order of
+// the catalogue.
 #pragma once
 
 #include <functional>
@@ -13,17 +13,18 @@ namespace lectern::plates {
 
 struct Plate {
   std::string name;
-  std::string shown;  // the verses that it stands beside: "Genesis 3: 6; Revelation 22: 2"
+  std::string shown;  // the verses that it illustrates: "Genesis 3: 6; Revelation 22: 2"
   std::string credit;
   std::function<std::string()> draw;  // the picture's file; may be called in any thread
 };
 
 class Gallery {
  public:
-  // The text lends the books' pages their verses. It is not kept. An Obstacle where a package is missing.
+  // The verses on the books' pages are taken from the text, which is not kept. Throws an Obstacle if a
+  // package is missing.
   explicit Gallery(const make_data::Version& text);
 
-  // They draw with what the gallery holds.
+  // The plates use data of the gallery, which must outlive them.
   const std::vector<Plate>& Plates() const { return plates_; }
 
  private:
@@ -38,14 +39,15 @@ class Gallery {
   std::vector<Plate> plates_;
 };
 
-// The page of a book, "Psalms", as the table books.txt has it: its name on the page and in the gallery.
+// The name of a book's page in books.txt, on the page and in the gallery.
 std::string BookPageName(const std::string& book);
 
-// The records of all pictures in the order of the canon, and beside one verse in the order of the plates.
+// The records of all pictures in the order of the canon. Pictures of the same verse are in the order of the
+// plates.
 std::string PictureCatalogueText(const std::vector<Plate>& plates);
 
-// Draws what is not there yet, on as many processors as there are. What is there may have been painted on,
-// and is left alone.
+// Draws the missing pictures, on all processors. An existing picture stays, as a person may have painted on
+// it.
 void MakePictures(const std::string& data_folder, const make_data::Version& text);
 
 }  // namespace lectern::plates

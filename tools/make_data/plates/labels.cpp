@@ -22,7 +22,7 @@ Box Around(Point middle, double width, double height) {
   return {middle.x - width / 2, middle.y - height / 2, middle.x + width / 2, middle.y + height / 2};
 }
 
-// Beside a sign: to the right by preference, then above and below it on that side, then the others.
+// Places beside a sign: preferably to the right, then above and below it on that side, then the others.
 std::vector<Candidate> BesideSign(const Label& label, const Extent& extent) {
   struct Direction {
     double right, down, cost;
@@ -49,7 +49,7 @@ std::vector<Candidate> BesideSign(const Label& label, const Extent& extent) {
     for (const Direction& to : kDirections) {
       const bool is_corner = std::abs(to.right) == 1 && std::abs(to.down) == 1;
       const double beside = label.sign_radius + (is_corner ? gap - 2 : gap);
-      // The descenders hang below the line; by the eye a name's middle is that of its small letters.
+      // A name looks centred if its small letters are; descenders do not count.
       const Point middle{label.anchor.x + to.right * (beside + extent.width / 2),
                          label.anchor.y +
                              to.down * (label.sign_radius + (is_corner ? gap - 3 : gap - 1.5) + height / 2) +
@@ -74,7 +74,7 @@ std::vector<Candidate> UponArea(const Label& label, const Extent& extent) {
   return candidates;
 }
 
-// What a candidate costs by itself, whatever the other names do.
+// The cost of a candidate by itself, regardless of the other names.
 double CostAlone(const Label& label, const Box& box, const Surroundings& surroundings) {
   double cost = 0;
   const Box page = kInside.Grown(-3);
@@ -138,7 +138,7 @@ class Search {
   }
 
  private:
-  // Each name in turn goes where it stands best among the others, until none moves.
+  // Moves each name in turn to its best place among the others, until none moves.
   void Settle(std::vector<std::size_t>& chosen) const {
     constexpr int kMostTurns = 12;
     bool has_moved = true;
@@ -148,7 +148,7 @@ class Search {
         std::size_t best = chosen[i];
         double least = CostOf(i, best, chosen);
         for (std::size_t choice = 0; choice < candidates_[i].size(); ++choice) {
-          if (candidates_[i][choice].cost >= least) break;  // they are sorted: none behind it is better
+          if (candidates_[i][choice].cost >= least) break;  // sorted: no later one is better
           const double cost = CostOf(i, choice, chosen);
           if (cost < least) {
             least = cost;

@@ -1,5 +1,5 @@
-// Where the names on a map stand: each beside its sign or upon its land, and none over another, over a sign,
-// the title or the frame.
+// Places the names on a map: each beside its sign or on its land, and none over another name, a sign, the
+// title or the frame.
 #pragma once
 
 #include <functional>
@@ -10,24 +10,24 @@
 
 namespace lectern::plates {
 
-// What a name that spreads over what it names had better stand on.
+// The ground that a name of an area should be placed on.
 enum class Ground { kLand, kWater, kEither };
 
 struct Label {
   std::string text;
   Letters letters;
   Colour colour;
-  Point anchor;        // the sign's middle, or the middle of what is named
-  double sign_radius;  // 0 for a name that spreads over what it names
+  Point anchor;        // the middle of the sign or of the area
+  double sign_radius;  // 0 for the name of an area
   Ground upon = Ground::kEither;
 
   Box box{};             // where it was placed
-  bool is_clear = true;  // whether it stands free of everything
+  bool is_clear = true;  // whether it overlaps nothing
 };
 
 struct Surroundings {
   std::vector<Box> obstacles;  // signs, the title
-  std::vector<Point> lines;    // points along the routes, which names had better not cover
+  std::vector<Point> lines;    // points along the routes, which names should not cover
   std::function<double(const Box&)> share_of_water;
 };
 

@@ -28,15 +28,15 @@ struct Extent {
 // Requires: EB Garamond is installed (RequireLettering).
 Extent Measure(const std::string& text, const Letters& letters);
 
-// One line, its base line at the point.
+// Draws one line of text with its base line at the point.
 void DrawText(cairo_t* context, const std::string& text, const Letters& letters, Point at, Align align,
               Colour colour);
 
-// The same with a rim in the colour of the ground, so that lines below it do not touch the letters.
+// The same with a rim in the colour of the ground, which keeps lines away from the letters.
 void DrawTextWithRim(cairo_t* context, const std::string& text, const Letters& letters, Point at, Align align,
                      Colour colour, Colour rim, double rim_width = 3);
 
-// An Obstacle where the typeface is not installed.
+// Throws an Obstacle if the typeface is not installed.
 void RequireLettering();
 
 struct Unref {

@@ -83,7 +83,7 @@ void DrawSigns(cairo_t* context, const MapContent& map) {
     } else {
       cairo_arc(context, sign.at.x, sign.at.y, radius, 0, kTurn);
     }
-    // What is not sure is drawn hollow.
+    // An uncertain place has a hollow sign.
     SetColour(context, sign.place->certainty == Certainty::kUnsure ? kPaper : kInk);
     cairo_fill_preserve(context);
     SetColour(context, sign.place->certainty == Certainty::kUnsure ? kInk : kPaper);
@@ -130,7 +130,7 @@ void DrawTitle(cairo_t* context, const MapContent& map) {
 
 void DrawDegrees(cairo_t* context, const MapContent& map) {
   const Box outer{kFrameOuter, kFrameOuter, kWidth - kFrameOuter, kHeight - kFrameOuter};
-  // Beyond the frame there is no map.
+  // The map ends at the frame.
   SetColour(context, kPaper);
   cairo_set_fill_rule(context, CAIRO_FILL_RULE_EVEN_ODD);
   cairo_rectangle(context, 0, 0, kWidth, kHeight);

@@ -1,4 +1,4 @@
-// What a map shows, with its place on the plate and how each kind of thing looks, and the drawing of it.
+// The content of a map, with places on the plate, and how it is drawn.
 #pragma once
 
 #include <string>
@@ -44,10 +44,10 @@ Manner MannerOf(PlaceKind kind);
 constexpr Letters kTitleLetters{.size = 21};
 constexpr Letters kPassageLetters{.size = 13.5, .is_italic = true};
 
-// The round length of miles that fills a scale bar, and how many pixels it takes.
+// The length of the scale bar: a round number of miles, and the same in pixels.
 std::pair<int, double> ScaleBar(const Projection& projection);
 
-// Draws the map; the picture's file.
+// The bytes of the picture's file.
 std::string DrawnMap(const MapContent& map);
 
 }  // namespace lectern::plates

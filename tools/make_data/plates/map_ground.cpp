@@ -55,7 +55,7 @@ bool Holds(const Outline& outline, Place place) {
   return holds;
 }
 
-// Whether a pond or rock would only be a blot.
+// Whether a pond or rock is too small to be recognised.
 bool IsTiny(const Outline& outline, int level, const Projection& projection) {
   const auto [west, east] =
       std::minmax_element(outline.begin(), outline.end(),
@@ -114,7 +114,7 @@ Owned<cairo_surface_t> Reduced(cairo_surface_t* mask) {
   return reduced;
 }
 
-// How dark an engraver's water line is so far from the shore, from 0 to 1.
+// How dark an engraver's water line is at a distance from the shore, from 0 to 1.
 double WaterLineAt(double distance) {
   double line = 2.6;
   double step = 2.6;
@@ -137,7 +137,7 @@ unsigned Mixed(Colour ground, Colour over, double share) {
          channel(ground.blue, over.blue);
 }
 
-// Sea, land and water lines, a pixel at a time.
+// Draws sea, land and water lines pixel by pixel.
 void PaintLandAndSea(const Canvas& picture, cairo_surface_t* mask) {
   const std::vector<float> distances = DistancesToLand(mask);
   constexpr int kFineWidth = kFiner * kWidth;
@@ -175,7 +175,7 @@ bool IsCovered(const WaterChanges& changes, Place place) {
                      [&](const Outline& outline) { return Holds(outline, place); });
 }
 
-// A shore, with gaps where the changes put land over it.
+// Draws a shore, with gaps where the changes put land.
 void TraceShore(cairo_t* context, const Projection& projection, const WaterChanges& changes,
                 const Outline& points) {
   bool is_drawing = false;
@@ -238,7 +238,7 @@ MapGround::MapGround(const CoastLine& coast, const WaterChanges& changes, const 
   SetColour(context, kCoast);
   draw_shores(false);
   cairo_stroke(context);
-  // Lakes, and rivers so broad that they have two shores.
+  // Lakes, and rivers that are wide enough to have two shores.
   SetColour(context, kLakeShore);
   draw_shores(true);
   for (const Outline& lake : changes.Lakes()) {
@@ -294,7 +294,7 @@ struct MapGrounds::Region {
   std::unique_ptr<const MapGround> ground{};
 };
 
-// The corners of all that the maps show.
+// The numbers are the corners of the area that all maps together show.
 MapGrounds::MapGrounds() : coast_({-12, 8}, {74, 50}), changes_(ReadSections(WrittenTable("waters.txt"))) {
   for (const Section& section : ReadSections(WrittenTable("regions.txt"))) {
     Place middle{};

@@ -1,5 +1,5 @@
-// What lies below a map's names: land, sea with engraved water lines, lakes and rivers of one region. Each
-// ground is made once and shared by the maps of its region.
+// The ground of a map, on which its names are drawn: land, sea with engraved water lines, lakes and rivers of
+// one region. Each ground is made once and shared by the maps of its region.
 #pragma once
 
 #include <map>
@@ -13,7 +13,7 @@
 
 namespace lectern::plates {
 
-// What the data set has otherwise than scripture's time had it: waters.txt.
+// The differences between the data set and the time of scripture: waters.txt.
 class WaterChanges {
  public:
   explicit WaterChanges(const std::vector<Section>& sections);
@@ -45,10 +45,10 @@ class MapGround {
   Owned<cairo_surface_t> land_;
 };
 
-// Degrees, as the tables have them: "32.5,29.9 33,30".
+// Reads an outline in degrees: "32.5,29.9 33,30".
 Outline ReadOutline(std::string_view text);
 
-// The grounds of all regions, each made when it is first asked for. They may be asked for by several threads.
+// The grounds of all regions, each made on first use. Several threads may use it.
 class MapGrounds {
  public:
   MapGrounds();

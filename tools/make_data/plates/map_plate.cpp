@@ -87,7 +87,7 @@ void MapPlate::AddPlace(const std::string& name) {
   map_.labels.push_back({place.name, manner.letters, manner.colour, at, manner.sign_radius, upon});
 }
 
-// Names, and points in degrees between them where the way makes a bend: "Joppa, 34.5,32.5, Tarshish".
+// Names, with points in degrees between them where the route bends: "Joppa, 34.5,32.5, Tarshish".
 void MapPlate::AddRoute(const std::string& value) {
   std::vector<Point> stations;
   for (const std::string& station : Parts(value, ';')) {
@@ -110,7 +110,7 @@ void MapPlate::AddArea(const std::string& value) {
   }
 }
 
-// In the corner where it covers the least.
+// Puts the title into the corner where it covers the least.
 void MapPlate::AddTitle() {
   constexpr double kAside = 14, kPadding = 14, kTall = 68;
   const double wide =

@@ -1,4 +1,4 @@
-// A map: a region's ground with places, names, routes and tinted lands upon it, and a title.
+// A map: the ground of a region with places, names, routes, tinted lands and a title.
 #pragma once
 
 #include <string>
@@ -11,12 +11,12 @@ namespace lectern::plates {
 
 class MapPlate {
  public:
-  // A section of maps.txt upon its region's ground, with all names placed. The ground outlives the map.
+  // Makes the map of a section of maps.txt and places all names. The ground must outlive the map.
   MapPlate(const Section& section, const MapGround& ground);
 
   std::string AsJpeg() const;
 
-  // For checks: every name with its place.
+  // Every name with its place, for checks.
   const std::vector<Label>& Labels() const { return map_.labels; }
 
  private:

@@ -28,9 +28,8 @@ void FillLeaf(cairo_t* context, Point from, double direction, double length, dou
   cairo_fill(context);
 }
 
-// A tendril that rolls up: from its outer end inwards to its eye, with leaves on its outer side. The middle
-// is the eye; the radius reaches to the outer end, which lies in the direction of the angle. Handed is 1 or
-// -1.
+// A tendril that rolls up around `middle`, with leaves on its outer side. It begins at `radius` in the
+// direction of the angle. `handed` is 1 or -1, the direction in which it turns.
 void DrawScroll(cairo_t* context, Point eye, double radius, double angle, double handed, double thickness) {
   constexpr double kTurns = 1.65;
   constexpr int kSteps = 60;
@@ -83,7 +82,7 @@ void DrawInitial(cairo_t* context, const std::string& letter, const Box& square,
   const double size = side * 1.06;
   const Letters letters{.size = size};
   const Point base{middle.x, middle.y + Measure(letter, letters).ascent / 2};
-  // A rim of the ground keeps the scrolls off the letter.
+  // A rim in the colour of the ground separates the scrolls from the letter.
   DrawTextWithRim(context, letter, letters, base, Align::kMiddle, kPaper, ground, side * 0.07);
 }
 

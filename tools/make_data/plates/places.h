@@ -28,7 +28,7 @@ using Gazetteer = std::map<std::string, NamedPlace>;
 
 const Gazetteer& AllPlaces();
 
-// The place of a name; an Obstacle where the table lacks it.
+// The place of a name. Throws an Obstacle if the table does not have it.
 const NamedPlace& PlaceNamed(const std::string& name);
 
 }  // namespace lectern::plates

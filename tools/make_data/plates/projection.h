@@ -1,5 +1,5 @@
-// Where a place of the earth stands on a plate. Degrees of longitude are as long as they are in the middle of
-// the region, so that towns and coasts keep their shape.
+// Converts places of the earth to points of a plate. A degree of longitude has the length that it has in the
+// middle of the region, so that coasts keep their shape.
 #pragma once
 
 #include <cmath>

@@ -50,7 +50,7 @@ double ReignPlate::HeightOf(double year) const {
   return room_.top + (from_ - year) / (from_ - to_) * room_.Height();
 }
 
-// Each name beside the middle of its bar, as nearly as the names let each other.
+// Puts each name as near to the middle of its bar as the other names allow.
 void ReignPlate::SpreadNames(Lane& lane) {
   double least = room_.top + 4;
   for (Reign& reign : lane.reigns) {
@@ -96,7 +96,7 @@ void ReignPlate::DrawLane(cairo_t* context, const Lane& lane) const {
   bool is_dark = true;
   double last_end = 0;
   for (const Reign& reign : lane.reigns) {
-    // Who was prophet while another was stands a little aside.
+    // A prophet whose time overlaps with another's is drawn a little to the side.
     const double aside = reign.from < last_end - 0.5 && lane.colour.red == kGold.red ? -toward * 18 : 0;
     if (aside == 0) last_end = reign.to;
     const Box bar{lane.bar_left + aside, reign.from, lane.bar_right + aside,

@@ -94,7 +94,7 @@ std::vector<Section> ReadSections(std::string_view text) {
     if (line.starts_with('[')) {
       sections.emplace_back().title = line.substr(1, line.find(']') - 1);
     } else if (sections.empty()) {
-      throw make_data::Obstacle("A line stands before the first section: " + std::string(line));
+      throw make_data::Obstacle("A line comes before the first section: " + std::string(line));
     } else if (line.starts_with(' ')) {
       sections.back().body.emplace_back(line);
     } else {
@@ -147,7 +147,7 @@ std::string WordsOf(const std::string& passage, const make_data::Version& text) 
     for (const std::string& each : Parts(range.empty() ? "1-999" : range, ',')) {
       Append(words, text.books[static_cast<std::size_t>(book)], ReadRange(each));
     }
-    if (words.size() == before) throw make_data::Obstacle("No verse stands in " + part + ".");
+    if (words.size() == before) throw make_data::Obstacle("There is no verse in " + part + ".");
   }
   return words;
 }

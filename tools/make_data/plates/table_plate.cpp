@@ -58,7 +58,7 @@ bool TablePlate::Try(double size) {
   const auto blocks = static_cast<double>(blocks_);
   const double spare = room_.Width() - 20 - width * blocks - kBlockGap * (blocks - 1);
   if (spare < 0) return false;
-  // Some of what is left over goes between the columns.
+  // Part of the remaining width goes between the columns.
   const double gaps = std::max(1.0, static_cast<double>(heads_.size() - 1)) * blocks;
   for (std::size_t column = 0; column + 1 < heads_.size(); ++column) {
     widths_[column] += std::min(size * 1.6, spare / gaps);

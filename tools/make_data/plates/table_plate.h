@@ -1,4 +1,4 @@
-// A table: rows of a name and what is to be known of it, in as many blocks side by side as the section says.
+// A table: rows with a name and facts about it, in one or more blocks side by side.
 //
 //   columns: Month | Feast     the heads
 //   blocks: 2

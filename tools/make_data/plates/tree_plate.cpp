@@ -36,7 +36,7 @@ void SeeRows(const TreeNode& node, std::size_t level, std::vector<bool>& has_bes
   }
 }
 
-// Rows of names below the node, a stack counting with all of its lines.
+// The number of rows of names below the node. Each line of a stack counts.
 std::size_t TallestStack(const TreeNode& node) {
   std::size_t most = node.is_stacked ? node.children.size() : 0;
   for (const auto& child : node.children) most = std::max(most, TallestStack(*child));
@@ -55,7 +55,7 @@ TreePlate::TreePlate(const Section& section)
   ReadBody(root_, section.body);
   const Canvas trial;
   const Box room = DrawHeading(trial.Context(), title_, passage_);
-  // The largest letters with which the tree fits, in rows if it can be.
+  // The largest letters with which the tree fits, without stacks if possible.
   for (const double size : {19.0, 17.5, 16.0, 15.0, 14.0, 13.0, 12.0, 11.0}) {
     for (const bool may_stack : {false, true}) {
       fits_ = Try(room, size, may_stack);
@@ -129,13 +129,13 @@ void TreePlate::Place(TreeNode& node, double left, double top, std::size_t level
       from += child->width;
     }
   }
-  // A parent stands over the middle of the children, not of the room they take.
+  // A parent is above the middle of its children, not of the space that they take.
   if (!node.is_stacked && !node.children.empty()) {
     node.at.x = (node.children.front()->at.x + node.children.back()->at.x) / 2;
   }
 }
 
-// A narrow tree spreads over more of the page.
+// Spreads a narrow tree over more of the page.
 void TreePlate::Widen(TreeNode& node, double share) const {
   constexpr double kMiddle = kWidth / 2.0;
   for (const auto& child : node.children) {

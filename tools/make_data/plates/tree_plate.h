@@ -1,5 +1,5 @@
-// A family's tree: parents above their children, joined by lines. Children without children of their own
-// stand below one another where a row of them would be too wide.
+// A family tree: parents above their children, joined by lines. Children without children of their own are
+// stacked if a row of them would be too wide.
 #pragma once
 
 #include <memory>
@@ -11,11 +11,10 @@
 
 namespace lectern::plates {
 
-// A name of a tree, with the names that descend from it. In the table, who stands further in descends from
-// the line above:
+// A name of a tree with its descendants. In the table, an indented line is a child of the line above:
 //
-//   Abraham | Sarah      a partner, or a word of what he is, stands below in smaller letters
-//     *Isaac             a name that the tree is about, in red
+//   Abraham | Sarah      a partner or a description is shown below in smaller letters
+//     *Isaac             a main person of the tree is shown in red
 struct TreeNode {
   std::string name, beside;
   bool is_chief = false;
