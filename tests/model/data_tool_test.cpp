@@ -7,6 +7,7 @@
 #include "reader/canon.h"
 #include "tests/kit/temporary_folder.h"
 #include "tools/make_data/dictionary.h"
+#include "tools/make_data/plates/canvas.h"
 #include "tools/make_data/plates/drawings.h"
 #include "tools/make_data/plates/gallery.h"
 #include "tools/make_data/texts.h"
@@ -142,6 +143,15 @@ TEST(Pictures, AreDrawnAsLargeAsFits) {
   folder.Write("none.svg", "no drawing");
   EXPECT_THROW(plates::DrawnAsJpeg(folder.Path() + "/empty.svg"), Obstacle);
   EXPECT_THROW(plates::DrawnAsJpeg(folder.Path() + "/none.svg"), Obstacle);
+}
+
+TEST(SmoothPath, BendsNowhereOnAStraightLine) {
+  const plates::Canvas canvas;
+  const plates::Point points[] = {{10, 50}, {20, 50}, {40, 50}, {500, 400}};
+  plates::SmoothPath(canvas.Context(), std::span(points).first(3));
+  double left = 0, top = 0, right = 0, bottom = 0;
+  cairo_path_extents(canvas.Context(), &left, &top, &right, &bottom);
+  EXPECT_EQ((std::vector{left, top, right, bottom}), (std::vector{10.0, 50.0, 40.0, 50.0}));
 }
 
 TEST(Pictures, CreditTheArtistWhomTheDrawingNames) {

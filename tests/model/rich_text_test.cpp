@@ -79,6 +79,11 @@ TEST(RichTextBox, KeepsTheSelectionInsideTheText) {
   EXPECT_EQ(pane.Text, "ab\ré");
   pane.SelStart = 50;
   EXPECT_EQ(pane.SelStart, 4);
+  pane.Text = std::string(20, 'x');
+  pane.SelStart = 10;
+  pane.SelLength = 8;
+  pane.Text = std::string(12, 'y');
+  EXPECT_EQ(pane.SelLength, 2);
   EXPECT_EQ(ErrorOf([&] { pane.SelStart = -1; }), 380);
 }
 
