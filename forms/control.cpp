@@ -55,6 +55,12 @@ Control::~Control() {
   std::erase(HostWindow().controls_, this);
 }
 
+void Control::CallIt(std::string name) {
+  accessible_name_ = std::move(name);
+  has_name_of_its_own_ = true;
+  TellView();
+}
+
 std::string Control::FullName() const {
   return index_ < 0 ? name_ : name_ + "(" + std::to_string(index_) + ")";
 }

@@ -158,6 +158,7 @@ class Control : public PropertyOwner {
   Container& Parent() const { return parent_; }
   Window& HostWindow() const { return parent_.HostWindow(); }
   const std::string& AccessibleName() const { return accessible_name_; }
+  void CallIt(std::string name);  // what a screen reader says from now on; changes nothing else
   bool HasNameOfItsOwn() const { return has_name_of_its_own_; }  // beside its caption
 
   // Whether it and everything that contains it is visible.

@@ -55,6 +55,7 @@ class Window : public PropertyOwner, public Container {
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
   virtual CloseBox OnCloseBox() const { return CloseBox::kLetsGo; }
+  virtual bool StaysInFront() const { return false; }  // of the main window, to be used beside it
   virtual AfterFailure AfterUntrappedFailure() const { return AfterFailure::kEndProgram; }
 
   // Of the client area, in twips.

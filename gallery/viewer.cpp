@@ -73,6 +73,7 @@ void Browser::ShowSlot(int slot, int index) {
     imgp(slot).Picture = form.LoadPicture(catalogue_.reader.DataFile("picend.jpg"));
     Below(slot).Caption = kPastTheList;
     Above(slot).Caption = kPastTheList;
+    imgp(slot).CallIt("No more pictures");
     return;
   }
   const std::string& name = catalogue_.lstmc(0).List(index);
@@ -82,6 +83,7 @@ void Browser::ShowSlot(int slot, int index) {
   imgp(slot).Picture = form.LoadPicture(catalogue_.PictureFile(name));
   Below(slot).Caption = std::string(ChapterAndVerse(catalogue_.lstmc(1).List(index), book_length));
   Above(slot).Caption = std::to_string(index + 1);
+  imgp(slot).CallIt(name + ", " + catalogue_.lstmc(1).List(index));
 }
 
 void Browser::ResetPictureLabels() {

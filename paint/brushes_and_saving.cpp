@@ -90,6 +90,7 @@ void PictureSaving::Command2_Click() {
   viewer_.LBLPICP.Caption = old_name;
   viewer_.lblvs.Caption = place;
   form_.MousePointer = forms::kPointerArrow;
+  saved("pics/" + name + ".JPG");
 }
 
 // The comparison includes case and blanks at the end.

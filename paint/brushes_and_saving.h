@@ -1,6 +1,9 @@
 // The five brushes, and the buttons that begin and save a picture.
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "gallery/viewer.h"
 #include "paint/palette.h"
 #include "paint/zoom_and_saves.h"
@@ -49,6 +52,9 @@ class PictureSaving {
  public:
   PictureSaving(forms::Window& the_form, gallery::PictureCatalogue& the_gallery, gallery::Viewer& the_viewer,
                 Canvas& the_canvas, Palette& palette);
+
+  // Called when the picture has been saved, with the path of its file in the data folder.
+  std::function<void(const std::string& file)> saved = [](const std::string&) {};
 
   forms::CommandButton Command5{palette_.Picture1, "Command5", {.caption = "New"}};  // begins a blank page
   forms::CommandButton Command2{form_, "Command2", {.caption = "Save Picture"}};     // saves the picture

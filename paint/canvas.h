@@ -1,6 +1,6 @@
 // The canvas, in a viewport that clips it, and its only drawing tool, a round brush. A stroke is a row of
-// dots, one for each movement of the mouse; a fast stroke has gaps by design. Until the first click on a
-// swatch or a brush, drawing appears on the screen only and is not part of the picture.
+// dots, one for each movement of the mouse. Until the first click on a swatch or a brush, drawing appears on
+// the screen only and is not part of the picture.
 #pragma once
 
 #include "forms/containers.h"

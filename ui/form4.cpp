@@ -7,16 +7,17 @@
 namespace lectern::ui {
 
 Form4::Form4(forms::Services services, gallery::PictureCatalogue& gallery, gallery::Viewer& viewer,
-             const std::function<void(const forms::Picture&)>& print_picture)
+             const Hooks& hooks)
     : Window(services, "Form4", "paint"), gallery_(gallery), viewer_(viewer) {
   constexpr double kClientWidth = 15675;  // twips
   constexpr double kClientHeight = 10485;
   Width = kClientWidth + forms::kFrameWidth;
   Height = kClientHeight + forms::kFrameHeight;
   Command1.Click = [this] { Visible = false; };
-  routines["PrintPaintPicture"] = [this, print_picture](const std::string&) {
+  routines["PrintPaintPicture"] = [this, print_picture = hooks.print_picture](const std::string&) {
     print_picture(canvas_.picbox.Picture);
   };
+  saving_.saved = hooks.saved;
   Apply(kForm4Places, *this);
 }
 

@@ -12,9 +12,14 @@ class Form4 : public forms::Window {
   gallery::Viewer& viewer_;
 
  public:
-  // `print_picture` opens the print window with a picture.
+  // What reaches beyond the window: the print window opens with a picture; a picture has been saved in a
+  // file.
+  struct Hooks {
+    std::function<void(const forms::Picture&)> print_picture;
+    std::function<void(const std::string& file)> saved;
+  };
   Form4(forms::Services services, gallery::PictureCatalogue& gallery, gallery::Viewer& viewer,
-        const std::function<void(const forms::Picture&)>& print_picture);
+        const Hooks& hooks);
 
   void Form_Load() override;
 

@@ -23,7 +23,11 @@ Program::Program(forms::Services services)
              [this, services] {
                return std::make_unique<Form4>(
                    services, Form1_().Pictures(), Form1_().PictureViewer(),
-                   [this](const forms::Picture& picture) { Form5_().picture.PrintPaintPicture(picture); });
+                   Form4::Hooks{.print_picture =
+                                    [this](const forms::Picture& picture) {
+                                      Form5_().picture.PrintPaintPicture(picture);
+                                    },
+                                .saved = [this](const std::string& file) { picture_saved(file); }});
              }),
       Form2_(windows, [services] { return std::make_unique<Form2>(services); }),
       Form3_(windows, [services] { return std::make_unique<Form3>(services); }),

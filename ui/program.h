@@ -4,6 +4,8 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -47,6 +49,7 @@ class Program {
 
   forms::Windows windows;
   std::function<void(const base::RunTimeError&)> report_failure;
+  std::function<void(const std::string& file)> picture_saved = [](const std::string&) {};  // a painting
 
  private:
   struct Known {

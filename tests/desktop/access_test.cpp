@@ -104,6 +104,7 @@ TEST_F(Access, ThePaletteIsOneStopWhoseColoursTheArrowsGoThrough) {
   SeenViewOf(window.Find("clrboxs", 0))->Widget()->setFocus();
   key(Qt::Key_Space);
   EXPECT_EQ(colour(window.Find("clr2")), first);
+  EXPECT_EQ(Read(*window.Find("clrboxs", 0))->text(QAccessible::Name), "black, Colour 1");
   key(Qt::Key_Right);
   key(Qt::Key_Down);
   EXPECT_EQ(window.Focus()->FullName(), "clrboxs(7)");

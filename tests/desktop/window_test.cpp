@@ -47,6 +47,13 @@ TEST_F(Stage, AScreenReaderHearsNamesAndCanPressAPicture) {
   EXPECT_EQ(read("clickable_image")->role(), QAccessible::Button);
   read("clickable_image")->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   EXPECT_EQ(Log(), "clickable_image click");
+  // What it does at other controls counts as a click or as typing too.
+  read("bare_option")->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_TRUE(window->bare_option.Value);
+  read("list")->child(1)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  EXPECT_EQ(window->list.SelectedIndex(), 1);
+  read("line_box")->setText(QAccessible::Value, "spoken");
+  EXPECT_EQ(window->line_box.Text, "spoken");
   EXPECT_EQ(QAccessible::queryAccessibleInterface(view->Frame())->role(), QAccessible::Window);
 }
 

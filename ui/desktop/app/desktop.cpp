@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "ui/desktop/app/notice.h"
 #include "ui/desktop/app/one_program.h"
 #include "ui/desktop/app/theme.h"
 #include "ui/desktop/views/painted_widget.h"
@@ -103,6 +104,7 @@ void Desktop::JoinWindows() {
   program_.windows.made = [this](forms::Window& window) {
     windows_.push_back(std::make_unique<WindowView>(
         window, events_, [this](forms::Window& closed) { program_.Close(closed); }));
+    if (window.StaysInFront()) windows_.back()->StayInFrontOf(*windows_.front());
     timers_.Watch(window);
   };
   program_.windows.let_go = [this](forms::Window& window) { LetGo(window); };
@@ -120,6 +122,9 @@ void Desktop::LetGo(const forms::Window& window) {
 
 void Desktop::JoinPlatform() {
   program_.report_failure = [this](const base::RunTimeError& error) { platform_.Report(error); };
+  program_.picture_saved = [this](const std::string& file) {
+    if (QWidget* const frame = FrontFrame()) ShowNotice(*frame, "Saved as " + QString::fromStdString(file));
+  };
   platform_.before_box = [this] {
     events_.ShowAll();
     return FrontFrame();
@@ -179,6 +184,7 @@ void Desktop::Settle() {
   if (program_.HasEnded()) return End();
   // Settling a window may deliver an event that creates another window.
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->Settle();
+  paint_start_.Settle();
   if (bench_) bench_->Settle();
   timers_.Update();
 }

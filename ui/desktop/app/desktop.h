@@ -10,6 +10,7 @@
 
 #include "base/files/file_system.h"
 #include "ui/desktop/app/events.h"
+#include "ui/desktop/app/paint_start.h"
 #include "ui/desktop/app/platform.h"
 #include "ui/desktop/app/timers.h"
 #include "ui/desktop/desk/desk_view.h"
@@ -60,6 +61,7 @@ class Desktop {
   ui::Program program_;
   Events events_;
   Timers timers_;
+  PaintStart paint_start_{program_, events_};
   std::vector<std::unique_ptr<WindowView>> windows_;
   std::vector<std::string> bench_controls_;
   std::unique_ptr<DeskView> desk_;

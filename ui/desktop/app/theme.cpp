@@ -118,6 +118,26 @@ QColor Legible(const QColor& text, const QColor& ground) {
   return lightened;
 }
 
+QString NameOf(const QColor& colour) {
+  constexpr int kGrey = 40;  // of 255
+  constexpr int kBlack = 30;
+  constexpr int kWhite = 235;
+  const int light = colour.lightness();
+  if (light < kBlack) return "black";
+  if (light > kWhite) return "white";
+  const QString shade = light < 90 ? "dark " : light > 190 ? "light " : "";
+  if (colour.hslSaturation() < kGrey) return shade + "grey";
+  constexpr std::pair<int, const char*> kHues[] = {{15, "red"},     {45, "orange"}, {70, "yellow"},
+                                                   {165, "green"},  {195, "cyan"},  {255, "blue"},
+                                                   {285, "violet"}, {340, "pink"}};
+  for (const auto& [end, name] : kHues) {
+    if (colour.hslHue() >= end) continue;
+    const bool is_brown = name == std::string_view("orange") && light < 110;
+    return is_brown ? "brown" : shade + name;
+  }
+  return shade + "red";
+}
+
 QColor ShadowOn(const QColor& ground) { return Mixed(ground, Qt::black, IsDark(ground) ? 0.5 : 0.2); }
 
 QColor TextOn(const QColor& ground) {

@@ -46,6 +46,9 @@ bool IsDark(const QColor& colour);
 // ground is hidden on purpose and stays hidden.
 QColor Legible(const QColor& text, const QColor& ground);
 
+// A plain name of the colour, such as "dark green".
+QString NameOf(const QColor& colour);
+
 // The colour of a shadow on that ground.
 QColor ShadowOn(const QColor& ground);
 

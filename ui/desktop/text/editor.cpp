@@ -77,6 +77,15 @@ class Editor : public RichTextView {
     LayStyles(*document_, Control().Runs(), positions_, nullptr, editor_->palette(), 1);
   }
 
+  // The text that a note begins with is selected, so that typing replaces it.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == editor_ && event->type() == QEvent::FocusIn) {
+      const std::string_view text = Control().Text();
+      if (IsDesignText(std::string(text.substr(0, text.find('\r'))))) editor_->selectAll();
+    }
+    return RichTextView::eventFilter(watched, event);
+  }
+
   int Length() const { return document_->characterCount() - 1; }
 
   void NoteEdit(int at, int removed, int added) {

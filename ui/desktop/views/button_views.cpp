@@ -85,6 +85,12 @@ class OptionView : public ViewOf<forms::Option> {
   QWidget* Make(QWidget* parent) override {
     widget_ = new QRadioButton(parent);
     connect(widget_, &QRadioButton::clicked, [this] { Act([this] { Control().PersonClicks(); }); });
+    connect(widget_, &QRadioButton::pressed, [this] { being_clicked_ = true; });
+    connect(widget_, &QRadioButton::released, [this] { being_clicked_ = false; });
+    // Assistive technology sets the option without a click.
+    connect(widget_, &QRadioButton::toggled, [this](bool on) {
+      if (on && !being_clicked_ && !GetEvents().AtWork()) Act([this] { Control().PersonClicks(); });
+    });
     return widget_;
   }
 
@@ -127,6 +133,7 @@ class OptionView : public ViewOf<forms::Option> {
   }
 
   QRadioButton* widget_ = nullptr;
+  bool being_clicked_ = false;
 };
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "ui/desktop/views/clickable_view.h"
 
 #include <QCoreApplication>
+#include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "ui/desktop/layout/window_focus.h"
@@ -13,6 +15,7 @@ namespace {
 
 constexpr int kLeftButton = 1;
 constexpr int kRightButton = 2;
+constexpr int kEasyToHit = 24;  // pixels across
 
 // A stroke needs every movement of the mouse. Otherwise only the latest place counts, and movements must not
 // pile up. Qt may merge movements before it delivers the press, so this is set before the press.
@@ -31,6 +34,7 @@ void ClickableView::PrepareForInput(QWidget& widget) {
   // Drawing with the mouse does not take the focus.
   if (IsSurface()) widget.setFocusPolicy(Qt::TabFocus);
   widget.setMouseTracking(static_cast<bool>(Control().MouseMove));
+  if (IsButton() && Place().width() < kEasyToHit) widget.parentWidget()->installEventFilter(this);
 }
 
 void ClickableView::PressByKey(int button) {
@@ -87,12 +91,14 @@ bool ClickableView::MoveInRow(int key) {
 bool ClickableView::Pressed(const QMouseEvent& event) {
   if (!Control().Click && !Control().MouseDown) return false;
   pressed_ = event.button() == Qt::LeftButton;
+  if (IsSurface()) stroke_ = event.position().toPoint();
   const forms::MouseEvent mouse = InScale(ToMouseEvent(event, event.button()));
   Act([this, mouse] { Control().PersonPresses(mouse); });
   return true;
 }
 
 bool ClickableView::Released(const QMouseEvent& event) {
+  stroke_.reset();
   if (!std::exchange(pressed_, false) || event.button() != Qt::LeftButton) return false;
   if (Control().Click && Widget()->rect().contains(event.position().toPoint())) {
     Act([this] { Control().Click(); });
@@ -102,12 +108,44 @@ bool ClickableView::Released(const QMouseEvent& event) {
 
 bool ClickableView::Moved(const QMouseEvent& event) {
   if (!Control().MouseMove) return false;
-  const forms::MouseEvent mouse = InScale(ToMouseEvent(event, event.buttons()));
-  Act([this, mouse] { Control().PersonMoves(mouse); });
+  Act([this, &event] { MovesTo(event); });
   return true;
 }
 
+// The windowing system reports a fast mouse in leaps. A stroke is moved pixel by pixel along them, so that it
+// is a line and not a row of dots.
+void ClickableView::MovesTo(const QMouseEvent& event) {
+  forms::MouseEvent mouse = ToMouseEvent(event, event.buttons());
+  const QPoint end(static_cast<int>(mouse.x / forms::kTwipsPerPixel),
+                   static_cast<int>(mouse.y / forms::kTwipsPerPixel));
+  const QPoint start = stroke_.value_or(end);
+  if (stroke_) stroke_ = end;
+  const QPoint way = end - start;
+  const int steps = std::max({std::abs(way.x()), std::abs(way.y()), 1});
+  for (int step = 1; step <= steps; ++step) {
+    const QPoint place = start + way * (static_cast<double>(step) / steps);
+    mouse.x = place.x() * forms::kTwipsPerPixel;
+    mouse.y = place.y() * forms::kTwipsPerPixel;
+    Control().PersonMoves(InScale(mouse));
+  }
+}
+
+// Whether the place in the parent is the widget's own, widened to both sides until it is easy to hit.
+bool ClickableView::IsBeside(const QPoint& place) const {
+  if (!IsSeen()) return false;
+  const QRect own = Widget()->geometry();
+  const int wider = (kEasyToHit - own.width() + 1) / 2;
+  return own.adjusted(-wider, 0, wider, 0).contains(place) &&
+         Widget()->parentWidget()->childAt(place) == nullptr;
+}
+
 bool ClickableView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != Widget() && event->type() == QEvent::MouseButtonPress) {
+    const auto& press = static_cast<const QMouseEvent&>(*event);
+    if (press.button() != Qt::LeftButton || !IsBeside(press.position().toPoint())) return false;
+    PressByKey(kLeftButton);
+    return true;
+  }
   if (watched == Widget()) {
     switch (event->type()) {
       case QEvent::MouseButtonPress:

@@ -4,6 +4,7 @@
 // palette, are a single stop of the Tab key, and the arrow keys move between them.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "ui/desktop/views/control_view.h"
@@ -38,8 +39,11 @@ class ClickableView : public ControlView {
   bool Pressed(const QMouseEvent& event);
   bool Released(const QMouseEvent& event);
   bool Moved(const QMouseEvent& event);
+  void MovesTo(const QMouseEvent& event);
+  bool IsBeside(const QPoint& place) const;
 
   bool pressed_ = false;
+  std::optional<QPoint> stroke_;  // where a stroke is, in pixels
 };
 
 }  // namespace lectern::desktop

@@ -18,7 +18,7 @@ namespace lectern::desktop {
 QString ToQString(const std::string& text) { return QString::fromStdString(text); }
 
 bool IsDesignText(const std::string& text) {
-  for (const std::string_view kind : {"Label", "Text"}) {
+  for (const std::string_view kind : {"Label", "Text", "RichTextBox"}) {
     if (!text.starts_with(kind) || text.size() == kind.size()) continue;
     return text.find_first_not_of("0123456789", kind.size()) == std::string::npos;
   }
@@ -87,15 +87,22 @@ void ControlView::Refresh() {
   ApplyColours();
   ApplyPointer();
   Apply();
+  if (!control_.HasNameOfItsOwn() && ShowsReadableText()) return;
+  if (const QString name = SpokenName(); widget_->accessibleName() != name) widget_->setAccessibleName(name);
+}
+
+// With the colour, where that is what the control is for.
+QString ControlView::SpokenName() const {
+  const QString name = ToQString(control_.AccessibleName());
+  const bool is_colour = GetGround() == Ground::kPanel && control_.HasNameOfItsOwn() &&
+                         !forms::IsSystemColour(control_.BackColor) && !PictureColor();
+  return is_colour ? name + ": " + NameOf(ToColor(control_.BackColor, QApplication::palette())) : name;
 }
 
 void ControlView::MakeWidget() {
   widget_ = Make(&parent_);
   assert(widget_ != nullptr);
   widget_->setObjectName(ToQString(control_.FullName()));
-  if (control_.HasNameOfItsOwn() || !ShowsReadableText()) {
-    widget_->setAccessibleName(ToQString(control_.AccessibleName()));
-  }
   widget_->installEventFilter(this);
   widget_->setGeometry(Place());
 }

@@ -60,6 +60,7 @@ class ControlView : public QObject, public LayerView {
   virtual void Apply() = 0;  // shows what only this kind of control has
   virtual void Resized() {}
   virtual Ground GetGround() const { return Ground::kTransparent; }
+  virtual QString SpokenName() const;
   virtual QFont WantedFont() const;
   virtual void FontWillChange() {}
   virtual QCursor Pointer() const;

@@ -30,7 +30,9 @@ class TextBoxView : public ViewOf<forms::TextBox> {
         Typed(forms::WithCrLf(edit_->toPlainText().toStdString()));
       });
     } else {
-      connect(edit_, &QLineEdit::textEdited, [this](const QString& text) { Typed(text.toStdString()); });
+      connect(edit_, &QLineEdit::textChanged, [this](const QString& text) {
+        if (!GetEvents().AtWork()) Typed(text.toStdString());
+      });
     }
     return edit_;
   }
@@ -87,8 +89,10 @@ class ComboView : public ViewOf<forms::ComboBox> {
     widget_->lineEdit()->setAccessibleName(ToQString(Control().AccessibleName()));
     widget_->setInsertPolicy(QComboBox::NoInsert);
     widget_->setCompleter(nullptr);  // it would add text that the user has not typed
-    connect(widget_->lineEdit(), &QLineEdit::textEdited, [this](const QString& text) {
-      Act([this, typed = text.toStdString()] { Control().PersonTypes(typed); });
+    connect(widget_->lineEdit(), &QLineEdit::textEdited, [this](const QString& text) { Typed(text); });
+    // Assistive technology sets the text without an edit; choosing an entry sets it as well.
+    connect(widget_->lineEdit(), &QLineEdit::textChanged, [this](const QString& text) {
+      if (text != widget_->itemText(widget_->currentIndex())) Typed(text);
     });
     connect(widget_, &QComboBox::activated, [this](int index) {
       Act([this, item = widget_->itemText(index).toStdString()] { Control().PersonChooses(item); });
@@ -107,6 +111,11 @@ class ComboView : public ViewOf<forms::ComboBox> {
   }
 
   Ground GetGround() const override { return Ground::kField; }
+
+  void Typed(const QString& text) {
+    if (GetEvents().AtWork() || text == ToQString(Control().Text)) return;
+    Act([this, typed = text.toStdString()] { Control().PersonTypes(typed); });
+  }
 
   // Enter chooses the entry with the typed text.
   bool Needs(const QKeyEvent& key) const override { return KeyCode(key) == forms::kEnterKey; }

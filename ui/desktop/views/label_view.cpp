@@ -100,6 +100,12 @@ class LabelView : public ViewOf<forms::Label, ClickableView> {
 
   bool ShowsReadableText() const override { return true; }
 
+  // A swatch of a palette is a label on a coloured figure.
+  QString SpokenName() const override {
+    const QString name = ClickableView::SpokenName();
+    return IsButton() && !Control().Click ? NameOf(GroundColor()) + ", " + name : name;
+  }
+
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::MouseButtonPress && !Control().Click && !Control().MouseDown &&
         static_cast<const QMouseEvent*>(event)->button() == Qt::LeftButton) {

@@ -59,11 +59,12 @@ class ListWidget : public QListView {
   // Rows count from 0; -1 is the space below the last row.
   std::function<void(int row, const QMouseEvent& mouse)> pressed;
   std::function<void(int row)> double_clicked;
-  std::function<void(int row)> moved;  // by a key
+  std::function<void(int row)> moved;  // by a key, or by assistive technology
 
   // Selects the row, or nothing for -1. Scrolls to a newly selected row.
   void ShowSelected(int row) {
     if (row == SelectedRow()) return;
+    is_following_ = true;
     const QModelIndex index = row < 0 ? QModelIndex() : model()->index(row, 0);
     if (index.isValid()) {
       selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
@@ -71,17 +72,17 @@ class ListWidget : public QListView {
     } else {
       selectionModel()->clearSelection();
     }
-  }
-
-  // Reports the row that Qt finds.
-  void keyboardSearch(const QString& text) override {
-    const int selected = SelectedRow();
-    QListView::keyboardSearch(text);
-    const int row = currentIndex().row();
-    if (row >= 0 && row != selected) moved(row);
+    is_following_ = false;
   }
 
  protected:
+  // Reports a row that was found by its letters or selected from outside.
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override {
+    QListView::selectionChanged(selected, deselected);
+    const int row = SelectedRow();
+    if (row >= 0 && !is_following_) moved(row);
+  }
+
   void mousePressEvent(QMouseEvent* event) override {
     pressed_row_ = indexAt(event->position().toPoint()).row();
     pressed(pressed_row_, *event);
@@ -138,18 +139,26 @@ class ListWidget : public QListView {
   }
 
   int pressed_row_ = -1;
+  bool is_following_ = false;  // the control's selection
 };
 
 // The control's items. Only visible items are read, so that long lists are cheap. Appended items are
 // inserted; any other change resets the model.
 class ItemModel : public QAbstractListModel {
  public:
-  explicit ItemModel(const forms::ItemList& list) : list_(list) {}
+  explicit ItemModel(const forms::ItemList& list) : list_(list) {
+    const auto* const files = dynamic_cast<const forms::FileListBox*>(&list);
+    if (files != nullptr && files->Pattern().starts_with("*."))
+      ending_ = ToQString(files->Pattern().substr(1));
+  }
 
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
 
   QVariant data(const QModelIndex& index, int role) const override {
-    return role == Qt::DisplayRole ? ToQString(list_.List(index.row())) : QVariant();
+    if (role != Qt::DisplayRole) return {};
+    const QString item = ToQString(list_.List(index.row()));
+    return ending_.isEmpty() || !item.endsWith(ending_, Qt::CaseInsensitive) ? item
+                                                                             : item.chopped(ending_.size());
   }
 
   // Applies the control's changes. Returns whether the model was reset.
@@ -172,6 +181,7 @@ class ItemModel : public QAbstractListModel {
 
  private:
   const forms::ItemList& list_;
+  QString ending_;  // which all files of the list share, such as ".bkm"; not shown
   int rows_ = 0;
   unsigned generation_ = 0;
 };
@@ -190,7 +200,7 @@ class ListView : public ViewOf<forms::ItemList> {
       if (mouse.button() != Qt::LeftButton) return;
       Act([&] { Control().PersonMovesSelection(row < Control().ListCount() ? row : -1); });
     };
-    widget_->double_clicked = [this](int) { Act([this] { Control().DblClick(); }); };
+    widget_->double_clicked = [this](int) { DoubleClicked(); };
     widget_->moved = [this](int row) {
       Act([&] {
         if (row < Control().ListCount()) Control().PersonMovesSelection(row);
@@ -210,6 +220,14 @@ class ListView : public ViewOf<forms::ItemList> {
   Ground GetGround() const override { return Ground::kField; }
 
  private:
+  // A double click on a file opens it, as the main button of its panel does.
+  void DoubleClicked() {
+    const auto is_main = [](const forms::Control* button) { return button->IsDefaultButton(); };
+    Act([this] { Control().DblClick(); });
+    if (Control().GetKind() != forms::Kind::kFileListBox || Control().DblClick) return;
+    Act([&] { Control().HostWindow().PressButtonIn(Control().Parent(), is_main); });
+  }
+
   ItemModel items_;
   ListWidget* widget_ = nullptr;
 };

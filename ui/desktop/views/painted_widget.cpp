@@ -83,6 +83,7 @@ void PaintedWidget::paintEvent(QPaintEvent* event) {
 PaintedWidget* MakeFigure(QWidget* parent, PaintedWidget::Paint paint) {
   auto* const widget = new PaintedWidget(parent, std::move(paint));
   widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+  widget->is_echo = true;  // decoration
   return widget;
 }
 

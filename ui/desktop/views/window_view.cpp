@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -113,6 +114,10 @@ void WindowView::TakeFocus() {
 void WindowView::Build() {
   frame_ = std::make_unique<FrameWidget>(*this);
   frame_->setObjectName(ToQString(window_.Name()));
+  if (behind_ != nullptr && behind_->frame_) {
+    frame_->winId();  // makes the window handle
+    frame_->windowHandle()->setTransientParent(behind_->frame_->windowHandle());
+  }
   fitted_ = std::make_unique<FittedFace>(*frame_);
   face_ = &fitted_->Face();
   if (window_.HasMenuBar()) menu_bar_ = std::make_unique<MenuBarView>(window_, *this, *frame_);

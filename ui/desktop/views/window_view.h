@@ -36,6 +36,10 @@ class WindowView : public QObject, public LayerView {
   void Refresh() override;
   void TakeFocus() override;
 
+  // Keeps this window in front of that one, which outlives it.
+  // Requires: this window has not been shown.
+  void StayInFrontOf(WindowView& other) { behind_ = &other; }
+
   void Commit();        // before an event: copies pending changes to the controls
   void Settle();        // after an event: stacks the widgets and sets the tab order and the focus
   void FocusArrived();  // after the focus has moved to another widget of the window
@@ -84,6 +88,7 @@ class WindowView : public QObject, public LayerView {
   std::unique_ptr<FittedFace> fitted_;
   std::unique_ptr<QWidget> frame_;  // destroyed before the views, because its widgets report to them
   QWidget* face_ = nullptr;
+  WindowView* behind_ = nullptr;
   std::vector<ControlView*> uncommitted_;
   std::optional<std::pair<double, double>> place_;  // as applied, in twips
   int enlarged_ = 0;                                // steps
