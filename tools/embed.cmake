@@ -3,7 +3,7 @@
 #   cmake -D FOLDER=… -D NAME=kHelpSources -D OUTPUT=help_sources.cpp -P embed.cmake
 #
 # NAME is declared in tools/make_data/written_texts.h.
-file(GLOB files ${FOLDER}/*.txt)
+file(GLOB files ${FOLDER}/*.txt ${FOLDER}/*.words)
 set(entries)
 foreach(file IN LISTS files)
   get_filename_component(name "${file}" NAME)

@@ -6,7 +6,7 @@
 #include "forms/rich_text.h"
 #include "reader/canon.h"
 #include "tests/kit/temporary_folder.h"
-#include "tools/make_data/dictionary.h"
+#include "tools/make_data/dictionary/dictionary.h"
 #include "tools/make_data/plates/canvas.h"
 #include "tools/make_data/plates/drawings.h"
 #include "tools/make_data/plates/gallery.h"
@@ -18,63 +18,54 @@
 namespace lectern::make_data {
 namespace {
 
-// From a text in which two names, a town and a lamp are mentioned.
+// From a text in which a besom, a town and two names are mentioned.
 std::string RecordsOf(const std::string& topics) {
-  Version text{std::vector<Book>(66), "", ""};
-  text.books[0][1] = {{1, "In the beginning there was a lamp, and Amram saw the lamp."},
-                      {2, "And Bethabara was a town."},
-                      {3, "They said \"Peace\" to Amram, and he was glad of his peace."}};
-  text.books[1][6] = {{16, "These are the names."}, {20, "And she bare him Aaron."}};
-  return DictionaryRecords(ParseTopics(topics), text);
+  Version text{std::vector<Book>(reader::kCanon.size()), "", ""};
+  text.books[0][1] = {{1, "In the beginning Amram took two besoms, and saw the town."},
+                      {2, "And all that saw Beth-abara, and Amram, and Lot, cast a lot."},
+                      {3, "They cast the lot, and \"Peace\" was in the house of Amram and Aaron."}};
+  DictionarySources sources{
+      {}, {}, ParseTopics(topics), {}, WordNumbers({{{0, 1, 1}, "<w lemma=\"strong:H04292\">besoms</w>"}})};
+  ParseDefinitions("besom|A tool for \"sweeping\".\nlot|A thing drawn.\nladder|Steps.\n", sources.own);
+  ParseOriginalWords(
+      "$$$04292\n<entryFree><orth type=\"trans\">ma\xC5\xA3'\xC4\x83\xC5\xA3\xC3\xAA'</orth> <def>From "
+      "<ref>H1</ref>; properly a "
+      "{twig} or <hi>broom</hi> (as removing); also dust: - besom.</def></entryFree>\n",
+      'H', sources.originals);
+  return DictionaryRecords(sources, text);
 }
 
-// The subject is put back, and the verse is that of the first passage that uses the word.
-TEST(Dictionary, ExplainsATopicWithAVerse) {
-  EXPECT_EQ(
-      RecordsOf("$$$AARON\n<def> <lb/>→ Lineage of <ref osisRef=\"Exod.6.16-Exod.6.20\">Ex 6:16-20</ref>; "
-                "<ref osisRef=\"Gen.1.1\">Ge 1:1</ref>:3 <lb/>→ Consecration of, to the office\n"
-                "<lb/>→ INSTANCES OF <list> <item>Amram <ref osisRef=\"Gen.1.1\">Ge 1:1</ref></item> "
-                "<item>See <ref target=\"Nave:OIL LAMP\">OIL LAMP</ref>, USE OF</item> </list></def>\n"),
-      "\"Aaron\",\"Lineage of Aaron. Consecration of Aaron, to the office. Instances of Aaron: Amram; see "
-      "Oil "
-      "Lamp, Use of.\",\"And she bare him Aaron.\",\"Exodus 6:20\"\r\n");
-  // A topic that only refers to another takes its verse from there.
-  const std::string lamp =
-      "\"In the beginning there was a lamp, and Amram saw the lamp.\",\"Genesis 1:1\"\r\n";
-  EXPECT_EQ(
-      RecordsOf(
-          "$$$BETH-ABARA\n<lb/>→ See <ref target=\"Nave:TOWN\">TOWN</ref>\n"
-          "$$$LANTERN\n<lb/>→ See <ref target=\"Nave:LIGHT\">LIGHT</ref> <lb/>→ See <ref "
-          "target=\"Nave:X\">X</ref>\n"
-          "$$$LIGHT (A LAMP)\n<lb/>→ (A thing that shines) <ref osisRef=\"Gen.1\">Ge 1</ref>\n"
-          "$$$NAME\n<lb/>→ Given <ref osisRef=\"Gen.1.1\">Ge 1:1</ref> <ref osisRef=\"Exod.6.16\">Ex</ref>\n"
-          "$$$NOWHERE\n<lb/>→ See <ref target=\"Nave:NOTHING\">NOTHING</ref>\n"),
-      "\"Beth-Abara\",\"See Town.\",\"And Bethabara was a town.\",\"Genesis 1:2\"\r\n"
-      "\"Lantern\",\"See Light; X.\"," +
-          lamp + "\"Light (a Lamp)\",\"A thing that shines.\"," + lamp +
-          "\"Name\",\"Given.\",\"These are the names.\",\"Exodus 6:16\"\r\n");
+// A word gets a verse with one of its forms, and the original word behind it; a name that is also a word,
+// both.
+TEST(Dictionary, DefinesTheWordsOfTheText) {
+  EXPECT_EQ(RecordsOf("$$$LOT\n<lb/>→ Nephew of Amram <ref osisRef=\"Gen.1.2\">Ge 1:2</ref>\n"),
+            "\"Besom\",\"A tool for 'sweeping'. Hebrew matate: a twig, or broom.\",\"In the beginning Amram "
+            "took two besoms, and saw "
+            "the town.\",\"Genesis 1:1\"\r\n"
+            "\"Lot\",\"A thing drawn. As a name: A nephew of Amram.\",\"And all that saw Beth-abara, and "
+            "Amram, and Lot, cast a lot.\","
+            "\"Genesis 1:2\"\r\n");
 }
 
-TEST(OwnText, MayBeInOsis) {
-  const TemporaryFolder folder;
-  folder.Write("own.xml",
-               "<osis><verse osisID='Gen.1.2'/><verse osisID=\"Gen.1.1\">In the <i>beginning</i></verse> of"
-               "<verse sID=\"a\" osisID=\"Exod.6.20\"/>And<note>1</note> she<verse eID=\"a\"/> bare</osis>");
-  const Version own = ReadOwnText(folder.Path() + "/own.xml");
-  EXPECT_EQ(own.VerseCount(), 2);
-  EXPECT_EQ(own.books[0].at(1).at(1) + "|" + own.books[1].at(6).at(20), "In the beginning|And she");
-}
-
-TEST(Dictionary, KeepsQuotesOutOfTheFieldsJoinsEqualHeadingsAndStopsAtAnItemsEnd) {
-  std::string many =
-      "$$$PEACE\n<lb/>→ &#8220;Peace&#8221; to all <ref osisRef=\"Gen.1.3\">Ge 1:3</ref>\n$$$PEACE\n";
-  for (int i = 0; i < 30; ++i) many += "<lb/>→ Twenty characters, all of them -And a second";
-  const std::string records = RecordsOf(many + "\n");
-  EXPECT_TRUE(records.starts_with(
-      "\"Peace\",\"'Peace' to all. Twenty characters, all of them. And a second. Twenty"));
-  EXPECT_TRUE(records.ends_with(
-      " second.\",\"They said 'Peace' to Amram, and he was glad of his peace.\",\"Genesis 1:3\"\r\n"));
-  EXPECT_LT(records.size(), 500U);
+// What only points to passages, to other headings or to editions is left out, and who refers to another name
+// is told.
+TEST(Dictionary, TakesFromTheIndexWhatCanBeReadByItself) {
+  const std::string records = RecordsOf(
+      "$$$AARON\n<lb/>→ Lineage of <ref osisRef=\"Gen.1.3\">Ge 1:3</ref> <lb/>→ Rod of, buds <lb/>→ (In the "
+      "R. V., a priest) "
+      "<lb/>→ 1. Brother of Amram' s house <lb/>→ 2. A city (ruined <lb/>→ 3. Head of a family <lb/>→ "
+      "INSTANCES OF <list> <item>Amram goes "
+      "home</item> </list>\n"
+      "$$$BETH-ABARA\n<lb/>→ See <ref target=\"Nave:AARON\">AARON</ref>, number three\n$$$TOWN\n<lb/>→ "
+      "General scriptures concerning "
+      "<ref osisRef=\"Gen.1.1\">Ge 1:1</ref>\n");
+  EXPECT_NE(records.find("\"Aaron\",\"1. A brother of Amram's house. 2. The head of a family.\""),
+            std::string::npos)
+      << records;
+  EXPECT_NE(records.find("\"Beth-abara\",\"The same as Aaron. The head of a family.\",\"And all that"),
+            std::string::npos)
+      << records;
+  EXPECT_EQ(records.find("\"Town\""), std::string::npos) << records;
 }
 
 TEST(BookFiles, OfAPersonAreNotReplacedByTheStandIn) {

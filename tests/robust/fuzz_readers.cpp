@@ -7,7 +7,9 @@
 #include "forms/rich_text.h"
 #include "tests/kit/temporary_folder.h"
 #include "tests/robust/fuzz.h"
-#include "tools/make_data/dictionary.h"
+#include "tools/make_data/dictionary/definitions.h"
+#include "tools/make_data/dictionary/original_words.h"
+#include "tools/make_data/dictionary/topics.h"
 #include "tools/make_data/markup.h"
 #include "tools/make_data/texts.h"
 #include "tools/make_data/written_texts.h"
@@ -67,9 +69,13 @@ void TakeSource(std::string_view input) {
     case 0:
       make_data::PlainWords(text);
       break;
-    case 1:
+    case 1: {
       make_data::ParseTopics(text);
+      make_data::ParseGlossary(text);
+      make_data::OriginalWords words;
+      make_data::ParseOriginalWords(text, 'H', words);
       break;
+    }
     case 2:
       make_data::RichTextOf(text);
       break;

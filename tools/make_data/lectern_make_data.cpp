@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "reader/books.h"
-#include "tools/make_data/dictionary.h"
+#include "tools/make_data/dictionary/dictionary.h"
 #include "tools/make_data/paint_files.h"
 #include "tools/make_data/plates/gallery.h"
 #include "tools/make_data/texts.h"
@@ -90,15 +90,18 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   Steps steps;
   std::filesystem::create_directories(folder);
   steps.Begin(std::string(kFirst.name), 4);
-  const Version king_james = ReadKingJames();
+  const std::vector<MarkedVerse> king_james_module = ReadKingJamesModule();
+  const Version king_james = KingJames(king_james_module);
   WriteBooks(king_james, FolderOf(kFirst, folder), std::string(kFirst.prefix));
   steps.Begin("World English Bible, for the second version", 4);
-  const Version world_english = ReadWorldEnglish();
+  const std::vector<MarkedVerse> world_english_module = ReadWorldEnglishModule();
+  const Version world_english = WorldEnglish(world_english_module);
   WriteStandIn(world_english, FolderOf(kSecond, folder), std::string(kSecond.prefix));
   steps.Begin("Chapter counts", 4);
   WriteChapterCounts(king_james, folder);
   steps.Begin("Dictionary", 4);
-  WriteFile(folder + "/cdxdic.dat", DictionaryRecords(ReadTopics(), king_james));
+  WriteFile(folder + "/cdxdic.dat",
+            DictionaryRecords(ReadDictionarySources(king_james_module, world_english_module), king_james));
   steps.Begin("Questions", 4);
   WriteFile(folder + "/codex.trv", TriviaRecords(WrittenQuestions()));
   steps.Begin("Help", 4);

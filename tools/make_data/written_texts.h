@@ -14,9 +14,10 @@ struct WrittenText {
   std::string_view text;
 };
 
-extern const std::span<const WrittenText> kHelpSources;    // one for each topic
-extern const std::span<const WrittenText> kTriviaSources;  // questions of the game
-extern const std::span<const WrittenText> kPlateTables;    // what the gallery's plates show
+extern const std::span<const WrittenText> kHelpSources;        // one for each topic
+extern const std::span<const WrittenText> kTriviaSources;      // questions of the game
+extern const std::span<const WrittenText> kDefinitionSources;  // words of the dictionary
+extern const std::span<const WrittenText> kPlateTables;        // what the gallery's plates show
 
 struct TriviaQuestion {
   std::string question;

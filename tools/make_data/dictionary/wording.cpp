@@ -1,8 +1,9 @@
+#include "tools/make_data/dictionary/wording.h"
+
 #include <algorithm>
 #include <array>
 
 #include "base/text/characters.h"
-#include "tools/make_data/dictionary.h"
 
 namespace lectern::make_data {
 
@@ -27,10 +28,6 @@ void ForEachWord(std::string_view text, Take take) {
   }
 }
 
-bool IsInCapitals(std::string_view text) {
-  return std::none_of(text.begin(), text.end(), IsLower) && std::any_of(text.begin(), text.end(), IsUpper);
-}
-
 // Each part of a word with a capital letter: "Abel-Maim", "King's".
 std::string Capitalised(std::string_view word) {
   std::string result = text::Lower(word);
@@ -41,11 +38,6 @@ std::string Capitalised(std::string_view word) {
   return result;
 }
 
-void CapitaliseFirst(std::string& sentence) {
-  const auto first = std::find_if(sentence.begin(), sentence.end(), IsLetter);
-  if (first != sentence.end()) *first = text::Upper(std::string(1, *first))[0];
-}
-
 // Words that headings do not capitalise.
 bool IsSmall(std::string_view word) {
   constexpr std::array<std::string_view, 15> kSmallWords = {
@@ -54,6 +46,21 @@ bool IsSmall(std::string_view word) {
 }
 
 }  // namespace
+
+bool IsInCapitals(std::string_view text) {
+  return std::none_of(text.begin(), text.end(), IsLower) && std::any_of(text.begin(), text.end(), IsUpper);
+}
+
+void CapitaliseFirst(std::string& sentence) {
+  const auto first = std::find_if(sentence.begin(), sentence.end(), IsLetter);
+  if (first != sentence.end()) *first = text::Upper(std::string(1, *first))[0];
+}
+
+std::string Folded(std::string_view words) {
+  std::string folded = text::Lower(words);
+  std::erase(folded, '-');
+  return folded;
+}
 
 // Only words inside a sentence count: at its beginning every word has a capital letter.
 Wording::Wording(const Version& king_james) {
@@ -73,6 +80,9 @@ Wording::Wording(const Version& king_james) {
     const auto commonest = std::max_element(spellings.begin(), spellings.end(),
                                             [](const auto& a, const auto& b) { return a.second < b.second; });
     spellings_.emplace(word, commonest->first);
+    const auto is_upper = [](const auto& spelling) { return IsUpper(spelling.first.front()); };
+    if (std::any_of(spellings.begin(), spellings.end(), is_upper)) capitalised_.insert(Folded(word));
+    if (IsUpper(commonest->first.front())) names_.emplace(Folded(word), commonest->first);
   }
 }
 
@@ -103,6 +113,8 @@ std::string Wording::Spelling(std::string_view capitals) const {
   const auto found = spellings_.find(lower);
   return found == spellings_.end() ? lower : found->second;
 }
+
+bool Wording::IsName(std::string_view word) const { return names_.contains(word); }
 
 std::string Wording::Sentence(std::string_view words) const {
   std::string sentence(words);

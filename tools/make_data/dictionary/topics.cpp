@@ -1,11 +1,11 @@
+#include "tools/make_data/dictionary/topics.h"
+
 #include <algorithm>
 #include <map>
 
 #include "base/files/record_reader.h"
 #include "reader/reference.h"
-#include "tools/make_data/dictionary.h"
 #include "tools/make_data/markup.h"
-#include "tools/make_data/texts.h"
 
 namespace lectern::make_data {
 
@@ -113,17 +113,6 @@ std::vector<Topic> ParseTopics(std::string_view module_text) {
     }
   }
   put();
-  return topics;
-}
-
-std::vector<Topic> ReadTopics() {
-  constexpr std::size_t kTopics = 5000;
-  std::vector<Topic> topics =
-      ParseTopics(OutputOf("mod2imp Nave </dev/null", "mod2imp", "libsword-utils sword-dict-naves"));
-  if (topics.size() < kTopics) {
-    throw Obstacle("The dictionary's source gives " + std::to_string(topics.size()) + " topics, but " +
-                   std::to_string(kTopics) + " or more are expected.");
-  }
   return topics;
 }
 
