@@ -109,7 +109,7 @@ void Bookmarks::Command6_Click() {
   const base::Ignoring ignore;
   files::FileSlots& slots = reader_.form.Slots();
   const std::string& name = reader_.LBLMRK(0).Caption;
-  ignore([&] { reader_.form.Files().DeleteKeepingBackup(PathOf(name)); });
+  ignore([&] { reader_.form.Files().SetAside(PathOf(name)); });
   ignore([&] { slots.OpenForAppending(kBookmark, PathOf(name)); });
   ignore([&] { WritePlace(name); });
   ignore([&] { slots.Close(kBookmark); });

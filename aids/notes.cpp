@@ -135,8 +135,9 @@ void Notes::Command2_Click() {
 }
 
 void Notes::SaveNoteFile() {
-  form.Files().DeleteKeepingBackup(PathOf(lblname.Caption));
+  form.Files().SetAside(PathOf(lblname.Caption));
   AppendText(lblname.Caption);
+  form.Files().Settle();  // ahead of the mark, which is kept if the text does not arrive on the disk
   lblc.Caption = "";
 }
 

@@ -15,6 +15,7 @@
 
 #include <exception>
 #include <functional>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -66,16 +67,17 @@ class Ignoring {
   explicit Ignoring(std::function<void()> tidy) : tidy_(std::move(tidy)) {}
 
   // Runs the statement and returns whether it succeeded. A condition stands inside the statement too: one
-  // that fails counts as not met.
+  // that fails counts as not met. A lack of memory is a failure like any other, number 7.
   template <class Statement>
   bool operator()(Statement&& statement) const {
     try {
       std::forward<Statement>(statement)();
       return true;
     } catch (const RunTimeError&) {
-      if (tidy_) tidy_();
-      return false;
+    } catch (const std::bad_alloc&) {
     }
+    if (tidy_) tidy_();
+    return false;
   }
 
  private:

@@ -46,7 +46,7 @@ void BookConverter::Command33_Click() {
 // Writes the source line by line, because each line has its own encoding.
 void BookConverter::WriteSource(const std::string& scratch) {
   files::FileSlots& slots = form_.Slots();
-  slots.OpenForAppending(kSource, scratch);
+  slots.OpenForAppending(kSource, scratch, files::Lasting::kNo);
   std::string_view left = RTB1.Text();
   for (std::size_t end = left.find("\r\n"); end != std::string_view::npos; end = left.find("\r\n")) {
     slots.PrintLine(kSource, left.substr(0, end));

@@ -64,7 +64,7 @@ void Maintenance::Rewrite(const std::function<void(const PictureRecord&)>& decid
   }
   slots.Close(kOld);
   slots.Close(kNew);
-  reader_.form.Files().DeleteKeepingBackup(catalogue_.CatalogueFile());
+  reader_.form.Files().SetAside(catalogue_.CatalogueFile());
   reader_.form.Files().Rename(fresh, catalogue_.CatalogueFile());
   ShowCatalogue(page);
 }

@@ -27,7 +27,7 @@ void OldCatalogue::ConvertPicsDat() {
   enum class Expected { kCredit, kName, kPlace };
   files::FileSlots& slots = reader_.form.Slots();
   const base::Ignoring ignore;
-  ignore([&] { reader_.form.Files().DeleteKeepingBackup(catalogue_.CatalogueFile()); });  // it may be missing
+  ignore([&] { reader_.form.Files().SetAside(catalogue_.CatalogueFile()); });  // it may be missing
   slots.OpenForReading(kOld, OldFile());
   slots.OpenForAppending(kNew, catalogue_.CatalogueFile());
   PictureRecord record;
@@ -104,7 +104,7 @@ void OlderList::Command40_Click() {
   // ODDITY(older-list-doubles): the work file still has the records from the last change of book, so each
   // picture is listed twice.
   const int highest = catalogue_.CopyBookRecords();
-  ignore([&] { slots.OpenForAppending(kEmpty, empty_file); });
+  ignore([&] { slots.OpenForAppending(kEmpty, empty_file, files::Lasting::kNo); });
   const double chapter = text::LeadingDigits(reader_.Chapter());
   const std::size_t book_length = text::Length(reader_.Stem());
   for (const auto& entry : catalogue_.RecordsByChapter(book_length, highest)) {

@@ -52,7 +52,7 @@ int PictureCatalogue::CopyBookRecords() {
   const std::size_t book_length = text::Length(book);
   int highest = 0;
   ignore([&] { slots.OpenForReading(kCatalogue, CatalogueFile()); });
-  ignore([&] { slots.OpenForAppending(kWork, WorkFile()); });
+  ignore([&] { slots.OpenForAppending(kWork, WorkFile(), files::Lasting::kNo); });
   ForEachRecord(slots, kCatalogue, [&](const PictureRecord& record) {
     if (!IsInBook(record.place, book)) return;
     ignore([&] { WritePictureRecord(slots, kWork, record); });

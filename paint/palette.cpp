@@ -89,7 +89,7 @@ void Palette::scr1_Change() {
 void Palette::Command3_Click() {
   const std::string path = gallery_.reader.DataFile("colors.dat");
   files::FileSlots& files = form_.Slots();
-  form_.Files().DeleteKeepingBackup(path);
+  form_.Files().SetAside(path);
   files.OpenForAppending(kColours, path);
   for (int i = 0; i < kSwatches; ++i)
     files.WriteRecord(kColours, clrboxs(i).Caption(), clrbox(i).BackColor());

@@ -52,7 +52,7 @@ void ChapterStore::Load() {
 // Returns the lines of a scratch file, which come first, and deletes it. The data folder may be somebody
 // else's: anything of that name that is not a plain file is left alone.
 std::string ChapterStore::TakeScratchFile() const {
-  const files::FileSystem& files = reader_.form.Files();
+  files::FileSystem& files = reader_.form.Files();
   std::string lines;
   const base::Ignoring ignore;
   ignore([&] {

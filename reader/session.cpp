@@ -71,7 +71,7 @@ Exits::Exits(Reader& the_reader, Settings& the_settings, ToolButtons& tools, for
 void Exits::Command1_Click() {
   const base::Ignoring ignore;
   if (oo12_.Checked) {
-    ignore([&] { reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("CODEX.CFG")); });
+    ignore([&] { reader_.form.Files().SetAside(reader_.DataFile("CODEX.CFG")); });
     ignore([&] { settings_.AppendRecord(); });
   }
   throw base::ProgramEnd{};
@@ -79,7 +79,7 @@ void Exits::Command1_Click() {
 
 void Exits::xx_Click() {
   if (oo12_.Checked) {
-    reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("CODEX.CFG"));
+    reader_.form.Files().SetAside(reader_.DataFile("CODEX.CFG"));
     reader_.form.Slots().OpenForAppending(kSettings, reader_.DataFile("codex.cfg"));
     // ODDITY(menu-exit-loses-settings): the first field of the record is the colour of an object that does
     // not exist, so the write fails and leaves the settings file empty.

@@ -169,7 +169,7 @@ void Settings::Combo_Click() {
 }
 
 void Settings::Command36_Click() {
-  reader_.form.Files().DeleteKeepingBackup(reader_.DataFile("codex.cfg"));
+  reader_.form.Files().SetAside(reader_.DataFile("codex.cfg"));
   AppendRecord();
   ReadSettings();
 }

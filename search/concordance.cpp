@@ -168,7 +168,7 @@ void ConcordanceEditing::Command21_Click() {
   }
   slots.Close(kConcordance);
   slots.Close(kWorkFile);
-  reader_.form.Files().DeleteKeepingBackup(path);
+  reader_.form.Files().SetAside(path);
   reader_.form.Files().Rename(work_file, path);
 
   const std::string last = LoadWords(reader_, viewer_.lstc);

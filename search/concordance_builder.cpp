@@ -24,14 +24,16 @@ ConcordanceBuilder::ConcordanceBuilder(reader::Reader& the_reader, forms::Frame&
                                        forms::Frame& Frame2, TextSearch& the_search)
     : reader_(the_reader), frms_(frms), frmscale_(frmscale), Frame2_(Frame2), search_(the_search) {
   Command27.Click = [this] { Command27_Click(); };
-  Command23.Click = [this] { Timer2.Enabled = false; };
+  Command23.Click = [this] { EndBuild(); };
   Timer2.Tick = [this] { Timer2_Timer(); };
   List2.Click = [this] { List2_Click(); };
 }
 
 void ConcordanceBuilder::Command27_Click() {
   // Error 53 if there is no concordance yet.
-  reader_.form.Files().DeleteKeepingBackup(ConcordanceFile(reader_));
+  ReleaseFile();
+  built_ = ConcordanceFile(reader_);
+  reader_.form.Files().BeginRewriting(built_);
   frms_.Visible = true;
   search_.txts.Text = "";
   search_.lsts.Clear();
@@ -70,13 +72,24 @@ void ConcordanceBuilder::Timer2_Timer() {
     pbar2.Value = 1;
     // ODDITY(last-word-twice): the last word's verses are written again. Command18 exists to cut them.
     WriteResults();
-    Timer2.Enabled = false;
+    EndBuild();
     reader_.form.Platform().Beep();
   } else {
     search_.tmrb.Enabled = true;
   }
   search_.txts.Text = List2.List(next);
   pbar2.Value = pbar2.Value + 1;
+}
+
+void ConcordanceBuilder::EndBuild() {
+  Timer2.Enabled = false;
+  ReleaseFile();
+}
+
+// Until then, the previous concordance comes back if the program is stopped.
+void ConcordanceBuilder::ReleaseFile() {
+  if (!built_.empty()) reader_.form.Files().EndRewriting(built_);
+  built_.clear();
 }
 
 // Writes the verses that the search lists for the current word.
@@ -123,7 +136,7 @@ void OnePassBuilder::Command13_Click() {
   builder_.pbar2.Value = 0;
   // The first version's file, even if another version is current.
   const std::string target = reader_.DataFile(text::Lower(reader::kVersions[0].concordance));
-  reader_.form.Files().DeleteKeepingBackup(target);
+  reader_.form.Files().SetAside(target);
   slots.OpenForAppending(kTarget, target);
   char32_t next = 0;  // kept from word to word and from book to book
   for (int i = 0; i < builder_.List2.ListCount(); ++i) {

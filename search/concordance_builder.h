@@ -42,8 +42,12 @@ class ConcordanceBuilder {
  private:
   void Command27_Click();
   void Timer2_Timer();
+  void EndBuild();
+  void ReleaseFile();
   void WriteResults();
   void List2_Click();
+
+  std::string built_;  // the file that is being built, "" for none
 };
 
 // The older builder of the concordance, which finishes within one click. Nothing in the program can use its

@@ -8,11 +8,13 @@
 
 namespace lectern::ui {
 
-Program::Program(forms::Services services)
+Program::Program(forms::Services host)
     : report_failure([](const base::RunTimeError&) {}),
+      files_(host.files),
+      platform_(host),
       Form1_(
           windows,
-          [this, services] {
+          [this, services = Services()] {
             return std::make_unique<Form1>(
                 services,
                 OtherWindows{.Form2 = [this]() -> forms::Window& { return Form2_(); },
@@ -20,7 +22,7 @@ Program::Program(forms::Services services)
                              .OpenPaint = [this](const forms::Picture& picture) { Form4_().Open(picture); }});
           }),
       Form4_(windows,
-             [this, services] {
+             [this, services = Services()] {
                return std::make_unique<Form4>(
                    services, Form1_().Pictures(), Form1_().PictureViewer(),
                    Form4::Hooks{.print_picture =
@@ -29,23 +31,30 @@ Program::Program(forms::Services services)
                                     },
                                 .saved = [this](const std::string& file) { picture_saved(file); }});
              }),
-      Form2_(windows, [services] { return std::make_unique<Form2>(services); }),
-      Form3_(windows, [services] { return std::make_unique<Form3>(services); }),
-      Form5_(windows, [services] { return std::make_unique<Form5>(services); }),
+      Form2_(windows, [services = Services()] { return std::make_unique<Form2>(services); }),
+      Form3_(windows, [services = Services()] { return std::make_unique<Form3>(services); }),
+      Form5_(windows, [services = Services()] { return std::make_unique<Form5>(services); }),
       known_{Knowing("Form1", Form1_), Knowing("Form4", Form4_), Knowing("Form2", Form2_),
              Knowing("Form3", Form3_), Knowing("Form5", Form5_)} {}
 
 void Program::Start() {
+  mended_ = files_.Mend();
   Guard(forms::AfterFailure::kEndProgram, [this] { Form1_().Visible = true; });
 }
 
-// Closing the files writes what the handlers wrote to the disk.
+// Closing the files writes what the handlers wrote.
 void Program::End(int status) {
   ended_ = true;
   status_ = status;
   for (forms::Window* window : windows.All()) {
     const base::Ignoring ignore;
     ignore([&] { window->Slots().CloseAll(); });
+  }
+  try {
+    files_.Settle();
+  } catch (const base::RunTimeError& error) {
+    report_failure(error);
+    status_ = 1;
   }
 }
 
@@ -56,11 +65,14 @@ void Program::Deliver(forms::Window& window, const std::function<void()>& event)
 
 void Program::Guard(forms::AfterFailure after, const std::function<void()>& event) {
   const auto fail = [&](const base::RunTimeError& error) {
+    const base::Ignoring ignore;
+    ignore([&] { files_.Settle(); });
     report_failure(error);
     if (after == forms::AfterFailure::kEndProgram) End(1);
   };
   try {
     event();
+    files_.Settle();
   } catch (const base::RunTimeError& error) {
     fail(error);
   } catch (const std::bad_alloc&) {

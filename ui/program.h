@@ -13,19 +13,25 @@
 #include "forms/windows.h"
 #include "ui/form1.h"
 #include "ui/form4.h"
+#include "ui/settled_boxes.h"
 #include "ui/small_windows.h"
 
 namespace lectern::ui {
 
 class Program {
  public:
-  explicit Program(forms::Services services);
+  explicit Program(forms::Services host);
 
-  // Creates Form1, which runs the start-up, and shows it. A failure ends the program.
+  // Puts back files whose rewriting was cut short the last time. Then creates Form1, which runs the start-up,
+  // and shows it. A failure ends the program.
   void Start();
 
+  // What the start put back: names in the data folder, such as "CONCORD.DAT". What stood half written in
+  // their places is in `backup/lectern-half-written`.
+  const std::vector<std::string>& Mended() const { return mended_; }
+
   // Runs an event of a window. A failure that is not trapped goes to `report_failure` and ends the program,
-  // unless the window goes on after failures.
+  // unless the window goes on after failures. What the event wrote is then on the disk.
   void Deliver(forms::Window& window, const std::function<void()>& event);
 
   // Ticks every timer that is on at the start of the call and due. Returns whether there was any.
@@ -61,10 +67,14 @@ class Program {
   static Known Knowing(std::string_view name, forms::OnTouch<Kind>& window) {
     return {name, [&window]() -> forms::Window& { return window(); }, [&window] { window.LetGo(); }};
   }
+  forms::Services Services() { return {platform_, files_}; }
   const Known* FindKnown(std::string_view name) const;
   void Guard(forms::AfterFailure after, const std::function<void()>& event);
   void End(int status);
 
+  files::FileSystem& files_;
+  SettledBoxes platform_;
+  std::vector<std::string> mended_;
   forms::OnTouch<Form1> Form1_;
   forms::OnTouch<Form4> Form4_;
   forms::OnTouch<Form2> Form2_;

@@ -8,14 +8,13 @@
 
 #include "base/errors.h"
 #include "base/files/file_system.h"
-#include "base/files/host_files.h"
 
 namespace lectern::files {
 
 using base::RunTimeError;
 
-Appending::Appending(const FileSystem& files, Descriptor file, std::string path, std::uint64_t length)
-    : files_(&files), file_(std::move(file)), path_(std::move(path)), length_at_opening_(length) {}
+Appending::Appending(FileSystem& files, Descriptor file, Target target, std::uint64_t length)
+    : files_(&files), file_(std::move(file)), target_(std::move(target)), length_at_opening_(length) {}
 
 Appending::~Appending() {
   try {
@@ -24,7 +23,16 @@ Appending::~Appending() {
   }
 }
 
-void Appending::LetGo() {
+void Appending::TakeBack() {
+  try {
+    if (target_.replaces.empty()) {
+      files_->disk.Cut(file_, target_.path, length_at_opening_);
+    } else {
+      files_->disk.Remove(target_.path);
+    }
+  } catch (const RunTimeError&) {  // nothing more can be done for a file that can neither grow nor shrink
+  }
+  files_->versions_.Failed(target_.place);
   pending_.clear();
   file_ = Descriptor(-1);
 }
@@ -37,30 +45,30 @@ void Appending::Write(std::string_view bytes) {
 }
 
 void Appending::Flush() {
-  std::string_view left = pending_;
-  if (left.empty()) return;
+  if (pending_.empty()) return;
   try {
-    files_->Announce(Operation::kWrite, path_);
-    while (!left.empty()) {
-      const ssize_t written = ::write(file_.Number(), left.data(), left.size());
-      if (written < 0 && errno == EINTR) continue;
-      if (written < 0) FailWith(errno);
-      left.remove_prefix(static_cast<std::size_t>(written));
-    }
+    files_->disk.Write(file_, target_.path, pending_, target_.lasting);
   } catch (const RunTimeError&) {
-    if (::ftruncate(file_.Number(), static_cast<off_t>(length_at_opening_)) != 0) {
-      // Nothing more can be done for a file that can neither grow nor shrink.
-    }
-    LetGo();
+    TakeBack();
     throw;
   }
+  files_->versions_.Written(target_.place);
   pending_.clear();
 }
 
 void Appending::Close() {
   Flush();
-  const int descriptor = file_.Release();
-  if (descriptor >= 0 && ::close(descriptor) != 0) FailWith(errno);
+  if (!file_.IsOpen()) return;
+  try {
+    if (!target_.replaces.empty()) {
+      files_->disk.Sync(target_.path);
+      files_->disk.Rename(target_.path, target_.replaces);
+    }
+  } catch (const RunTimeError&) {
+    TakeBack();
+    throw;
+  }
+  if (::close(file_.Release()) != 0) FailWith(errno);
 }
 
 }  // namespace lectern::files

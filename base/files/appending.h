@@ -6,12 +6,13 @@
 #include <string_view>
 
 #include "base/files/descriptor.h"
+#include "base/files/disk.h"
 
 namespace lectern::files {
 
 class FileSystem;
 
-// A file that is written to behind its end. What is written goes to the disk at Flush and Close, or before
+// A file that is written to behind its end. What is written goes to the host at Flush and Close, or before
 // when it has grown large. A write that fails takes back what this opening wrote, so that a full disk leaves
 // the file as it was.
 class Appending {
@@ -29,12 +30,19 @@ class Appending {
 
  private:
   friend class FileSystem;
-  Appending(const FileSystem& files, Descriptor file, std::string path, std::uint64_t length);
-  void LetGo();
+  struct Target {
+    std::string path;           // which is written
+    std::string place;          // of which the program knows the file
+    std::string replaces = {};  // a file whose place the written one takes when it is closed
+    Lasting lasting = Lasting::kYes;
+  };
 
-  const FileSystem* files_;
+  Appending(FileSystem& files, Descriptor file, Target target, std::uint64_t length);
+  void TakeBack();
+
+  FileSystem* files_;
   Descriptor file_;
-  std::string path_;
+  Target target_;
   std::uint64_t length_at_opening_;
   std::string pending_;
 };

@@ -14,7 +14,9 @@ using base::RunTimeError;
 
 void Field::AppendTo(std::string& record) const {
   if (quoted_) {
-    record.append(1, '"').append(text_).append(1, '"');
+    record.push_back('"');
+    for (const char c : text_) c == '"' ? record.append("''") : record.append(1, c);
+    record.push_back('"');
   } else {
     record.append(text_);
   }
@@ -47,9 +49,9 @@ void FileSlots::OpenForReading(int slot, std::string_view name) {
   reading.open = true;
 }
 
-void FileSlots::OpenForAppending(int slot, std::string_view name) {
+void FileSlots::OpenForAppending(int slot, std::string_view name, Lasting lasting) {
   RequireFree(slot);
-  appending_.emplace(slot, files_.OpenForAppending(name));
+  appending_.emplace(slot, files_.OpenForAppending(name, lasting));
 }
 
 FileSlots::Reading& FileSlots::ReadingAt(int slot) {

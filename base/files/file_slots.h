@@ -19,7 +19,8 @@
 
 namespace lectern::files {
 
-// One field of a record to be written: texts go in double quotes, numbers bare.
+// One field of a record to be written: texts go in double quotes, numbers bare. A double quote in a text,
+// which no record can hold, becomes two apostrophes.
 class Field {
  public:
   Field(std::string_view text) : text_(text), quoted_(true) {}  // NOLINT: a field is its value
@@ -40,8 +41,9 @@ class FileSlots {
   FileSlots(const FileSlots&) = delete;
   FileSlots& operator=(const FileSlots&) = delete;
 
-  void OpenForReading(int slot, std::string_view name);    // the file must exist
-  void OpenForAppending(int slot, std::string_view name);  // makes the file where it is missing
+  void OpenForReading(int slot, std::string_view name);  // the file must exist
+  // Makes the file where it is missing.
+  void OpenForAppending(int slot, std::string_view name, Lasting lasting = Lasting::kYes);
 
   bool EndOfFile(int slot);
   std::string_view ReadLine(int slot);

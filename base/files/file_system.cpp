@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
 #include <fcntl.h>
-#include <filesystem>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -19,11 +18,8 @@ namespace lectern::files {
 using base::ErrorNumber;
 using base::RunTimeError;
 
-FileSystem::FileSystem(std::string start_folder) : start_folder_(std::move(start_folder)) {}
-
-void FileSystem::Announce(Operation operation, const std::string& path) const {
-  if (before) before(operation, path);
-}
+FileSystem::FileSystem(std::string start_folder)
+    : start_folder_(std::move(start_folder)), versions_(disk, start_folder_) {}
 
 namespace {
 
@@ -47,7 +43,7 @@ std::string FileSystem::AsWritten(std::string_view name) const {
   auto [path, rest] = PlaceOf(name, start_folder_);
   for (const std::string_view element : Elements(rest)) {
     if (!IsAccepted(element)) throw RunTimeError(ErrorNumber::kBadFileName);
-    path.append(1, '/').append(element);
+    path.append(1, '/').append(StoredName(element));
   }
   return path.empty() ? "/" : path;
 }
@@ -57,7 +53,7 @@ std::string FileSystem::HostPath(std::string_view name) const {
   auto [path, rest] = PlaceOf(name, start_folder_);
   const std::vector<std::string_view> elements = Elements(rest);
   for (std::size_t i = 0; i < elements.size(); ++i) {
-    const std::string exact = path + "/" + std::string(elements[i]);
+    const std::string exact = path + "/" + StoredName(elements[i]);
     if (At(exact).there) {
       path = exact;
       continue;
@@ -67,7 +63,7 @@ std::string FileSystem::HostPath(std::string_view name) const {
     if (like.empty() && (!last || !At(path.empty() ? "/" : path).folder)) {
       throw RunTimeError(ErrorNumber::kPathNotFound);
     }
-    path.append(1, '/').append(like.empty() ? std::string(elements[i]) : like);
+    path = like.empty() ? exact : path + "/" + like;
   }
   return path;
 }
@@ -98,7 +94,7 @@ std::uint64_t FileSystem::Length(std::string_view name) const {
 void FileSystem::Read(std::string_view name, Contents& contents) const {
   contents.size_ = 0;
   std::string path = AsWritten(name);
-  Announce(Operation::kRead, path);
+  disk.Announce(Operation::kRead, path);
   OpenFile opened = OpenRegular(path, O_RDONLY);
   if (!opened.descriptor.IsOpen() && (errno == ENOENT || errno == ENOTDIR)) {
     path = HostPath(name);
@@ -108,7 +104,11 @@ void FileSystem::Read(std::string_view name, Contents& contents) const {
   const std::uint64_t length = opened.length;
   if (contents.capacity_ < length) {
     contents.capacity_ = 0;
-    contents.room_ = std::make_unique_for_overwrite<char[]>(length);
+    try {
+      contents.room_ = std::make_unique_for_overwrite<char[]>(length);
+    } catch (const std::bad_alloc&) {
+      throw RunTimeError(ErrorNumber::kOutOfMemory);
+    }
     contents.capacity_ = length;
   }
   while (contents.size_ < length) {
@@ -121,47 +121,96 @@ void FileSystem::Read(std::string_view name, Contents& contents) const {
   }
 }
 
-Appending FileSystem::OpenForAppending(std::string_view name) const {
-  std::string path = AsWritten(name);
-  Announce(Operation::kAppend, path);
-  OpenFile opened = OpenRegular(path, O_WRONLY | O_APPEND);
-  if (!opened.descriptor.IsOpen() && (errno == ENOENT || errno == ENOTDIR)) {
-    path = HostPath(name);
-    opened = OpenRegular(path, O_WRONLY | O_APPEND | O_CREAT);
+// A folder within the start folder may not lead out of it.
+void FileSystem::RequireOwnFolder(const std::string& path) const {
+  if (!path.starts_with(start_folder_ + "/")) return;
+  const std::string folder = FolderOf(path);
+  std::string stretch = start_folder_;
+  bool has_link = false;
+  for (const std::string_view element : Elements(std::string_view(folder).substr(start_folder_.size()))) {
+    stretch.append(1, '/').append(element);
+    has_link = has_link || element == ".." || ItselfAt(stretch).link;
   }
-  if (!opened.descriptor.IsOpen()) FailWith(errno);
-  return {*this, std::move(opened.descriptor), path, opened.length};
+  if (!has_link) return;
+  const std::string real = RealPath(start_folder_);
+  if (!(RealPath(folder) + "/").starts_with(real + "/")) throw RunTimeError(ErrorNumber::kPermissionDenied);
 }
 
-void FileSystem::Delete(std::string_view name) const {
-  std::string path = AsWritten(name);
-  Announce(Operation::kDelete, path);
-  int failure = ::unlink(path.c_str()) == 0 ? 0 : errno;
-  if (failure == ENOENT || failure == ENOTDIR) {
-    path = HostPath(name);
-    failure = ::unlink(path.c_str()) == 0 ? 0 : errno;
+FileSystem::Writable FileSystem::PathToWrite(std::string_view name) const {
+  std::string path = HostPath(name);
+  RequireOwnFolder(path);
+  const Standing itself = ItselfAt(path);
+  if (!itself.link) return {path, path};
+  const std::string target = RealPath(path);
+  const Standing file = ItselfAt(target);
+  const uid_t person = ::geteuid();
+  if (!FitsPattern(path, "*.not") || !file.file || file.status.st_uid != person ||
+      itself.status.st_uid != person) {
+    throw RunTimeError(ErrorNumber::kPermissionDenied);
   }
-  if (failure == EISDIR) failure = ENOENT;  // a folder is no file of that name
-  if (failure != 0) FailWith(failure);
+  return {target, path};
 }
 
-void FileSystem::Rename(std::string_view from, std::string_view to) const {
+Appending FileSystem::OpenForAppending(std::string_view name, Lasting lasting) {
+  const Writable writable = PathToWrite(name);
+  try {
+    if (links_.erase(writable.place) > 0) return OpenReplacing(writable);
+    OpenFile opened = disk.OpenForAppending(writable.path);
+    if (!opened.descriptor.IsOpen() && errno == ENOENT) {
+      const auto permissions = versions_.PermissionsOf(writable.place);
+      opened.descriptor = disk.Create(writable.path, permissions, lasting);
+    }
+    if (!opened.descriptor.IsOpen()) FailWith(errno);
+    return {*this, std::move(opened.descriptor), {writable.path, writable.place, "", lasting}, opened.length};
+  } catch (const RunTimeError&) {
+    versions_.Failed(writable.place);
+    throw;
+  }
+}
+
+Appending FileSystem::OpenReplacing(const Writable& writable) {
+  const std::string fresh = Disk::NameBeside(writable.path);
+  Descriptor file = disk.Create(fresh, ItselfAt(writable.path).Permissions(), Lasting::kYes);
+  return {*this, std::move(file), {fresh, writable.place, writable.path}, 0};
+}
+
+void FileSystem::Delete(std::string_view name) {
+  std::string path = AsWritten(name);
+  if (!ItselfAt(path).there) path = HostPath(name);
+  RequireOwnFolder(path);
+  if (ItselfAt(path).folder) throw RunTimeError(ErrorNumber::kFileNotFound);
+  disk.Remove(path);
+}
+
+void FileSystem::Rename(std::string_view from, std::string_view to) {
   const std::string from_path = HostPath(from);
   const std::string to_path = HostPath(to);
-  Announce(Operation::kRename, from_path);
-  if (!At(from_path).there) throw RunTimeError(ErrorNumber::kFileNotFound);
-  if (At(to_path).there) throw RunTimeError(ErrorNumber::kFileAlreadyExists);
-  if (::rename(from_path.c_str(), to_path.c_str()) != 0) FailWith(errno);
+  RequireOwnFolder(from_path);
+  RequireOwnFolder(to_path);
+  if (!ItselfAt(from_path).there) throw RunTimeError(ErrorNumber::kFileNotFound);
+  if (ItselfAt(to_path).there) throw RunTimeError(ErrorNumber::kFileAlreadyExists);
+  try {
+    if (ItselfAt(from_path).file) disk.Sync(from_path);
+    if (const auto permissions = versions_.PermissionsOf(to_path)) {
+      ::chmod(from_path.c_str(), *permissions);  // where the host has permissions
+    }
+    disk.Rename(from_path, to_path);
+  } catch (const RunTimeError&) {
+    versions_.Failed(to_path);
+    throw;
+  }
+  versions_.Written(to_path);
 }
 
-// Writes a file beside another one, to be put in its place; gives back its path.
-std::string FileSystem::WriteBeside(const std::string& path, std::string_view bytes) const {
-  std::string fresh = path.substr(0, path.rfind('/')) + "/lectern-saving.tmp";
-  ::unlink(fresh.c_str());
+// Writes a file beside another one, to be put in its place; returns its path.
+std::string FileSystem::WriteBeside(const std::string& path, std::string_view bytes, Lasting lasting) {
+  std::string fresh = Disk::NameBeside(path);
+  const Standing standing = ItselfAt(path);
+  const auto permissions = standing.file ? std::optional(standing.Permissions()) : std::nullopt;
+  const Descriptor file = disk.Create(fresh, permissions, lasting);
   try {
-    Appending file = OpenForAppending(fresh);
-    file.Write(bytes);
-    file.Close();
+    disk.Write(file, fresh, bytes, lasting);
+    if (lasting == Lasting::kYes) disk.Sync(fresh);
   } catch (const RunTimeError&) {
     ::unlink(fresh.c_str());
     throw;
@@ -169,73 +218,110 @@ std::string FileSystem::WriteBeside(const std::string& path, std::string_view by
   return fresh;
 }
 
+void FileSystem::PutInPlace(const std::string& fresh, const std::string& path, Lasting lasting) {
+  try {
+    disk.Rename(fresh, path, lasting);
+  } catch (const RunTimeError&) {
+    ::unlink(fresh.c_str());
+    versions_.Failed(path);
+    throw;
+  }
+  versions_.Written(path);
+}
+
+void FileSystem::Replace(std::string_view name, std::string_view bytes) {
+  const std::string path = PathToWrite(name).path;
+  PutInPlace(WriteBeside(path, bytes, Lasting::kNo), path, Lasting::kNo);
+}
+
+void FileSystem::ReplaceKeepingBackup(std::string_view name, std::string_view bytes) {
+  const std::string path = PathToWrite(name).path;
+  const std::string fresh = WriteBeside(path, bytes, Lasting::kYes);
+  try {
+    if (At(path).file) SetAside(name);
+  } catch (const RunTimeError&) {
+    ::unlink(fresh.c_str());
+    throw;
+  }
+  PutInPlace(fresh, path, Lasting::kYes);
+}
+
 namespace {
 
-void PutInPlace(const std::string& fresh, const std::string& path) {
-  if (::rename(fresh.c_str(), path.c_str()) == 0) return;
-  const int failure = errno;
-  ::unlink(fresh.c_str());
-  FailWith(failure);
+void RequireFile(const Standing& standing) {
+  if (!standing.there || standing.folder) throw RunTimeError(ErrorNumber::kFileNotFound);
 }
 
 }  // namespace
 
-void FileSystem::Replace(std::string_view name, std::string_view bytes) const {
+// Of a link only the link goes; the file behind it is elsewhere.
+void FileSystem::DeleteKeepingBackup(std::string_view name) {
   const std::string path = HostPath(name);
-  const std::string fresh = WriteBeside(path, bytes);
-  Announce(Operation::kRename, path);
-  PutInPlace(fresh, path);
-}
-
-void FileSystem::ReplaceKeepingBackup(std::string_view name, std::string_view bytes) const {
-  const std::string path = HostPath(name);
-  const std::string fresh = WriteBeside(path, bytes);
-  if (At(path).file) DeleteKeepingBackup(name);
-  Announce(Operation::kRename, path);
-  PutInPlace(fresh, path);
-}
-
-// Within the start folder the place under `backup` is the same as outside it; a file from elsewhere takes its
-// whole path along, so that two of one name do not meet. A backup's own is `backup/backup`.
-std::string FileSystem::BackupOf(const std::string& path) const {
-  const bool inside = path.starts_with(start_folder_ + "/");
-  return start_folder_ + "/backup" + (inside ? path.substr(start_folder_.size()) : path);
-}
-
-// Puts a file in the place of another, whose folder need not be there yet.
-void FileSystem::MoveOver(const std::string& path, const std::string& place) const {
-  Announce(Operation::kRename, path);
-  std::error_code failure;
-  std::filesystem::create_directories(std::filesystem::path(place).parent_path(), failure);
-  if (failure) FailWith(failure.value());
-  std::filesystem::rename(path, place, failure);
-  if (failure == std::errc::cross_device_link) {
-    std::filesystem::copy_file(path, place, std::filesystem::copy_options::overwrite_existing, failure);
-    if (!failure) std::filesystem::remove(path, failure);
+  RequireOwnFolder(path);
+  const Standing standing = ItselfAt(path);
+  RequireFile(standing);
+  if (standing.link || LengthAt(path) == 0) {
+    disk.Remove(path);
+  } else {
+    versions_.Keep(path);
   }
-  if (failure) FailWith(failure.value());
 }
 
-void FileSystem::DeleteKeepingBackup(std::string_view name) const {
-  const std::string path = HostPath(name);
-  const Standing standing = At(path);
-  if (!standing.there || standing.folder) throw RunTimeError(ErrorNumber::kFileNotFound);
-  if (Length(name) == 0) {
-    Delete(name);
-    return;
+void FileSystem::SetAside(std::string_view name) {
+  const Writable writable = PathToWrite(name);
+  RequireFile(At(writable.path));
+  const bool is_link = writable.path != writable.place;
+  const bool is_empty = LengthAt(writable.path) == 0;
+  if (is_link) {
+    if (!is_empty) versions_.SetAsideCopy(writable.path, writable.place);
+    links_.insert(writable.place);
+  } else if (is_empty) {
+    disk.Remove(writable.path);
+    versions_.Written(writable.path);
+  } else {
+    versions_.SetAside(writable.path);
   }
-  constexpr int kVersions = 3;
-  Keep(path, kVersions);
 }
 
-// Moves a file to its place in the backup, where it is the last of so many versions; the one that stands
-// there goes on to the next place, unless it is the same. In the last place the longest stays.
-void FileSystem::Keep(const std::string& path, int versions) const {
-  const std::string place = BackupOf(path);
-  const std::uint64_t length = LengthAt(place);
-  if (versions == 1 && length > LengthAt(path)) return;
-  if (versions > 1 && length > 0 && !HoldTheSame(path, place)) Keep(place, versions - 1);
-  MoveOver(path, place);
+void FileSystem::BeginRewriting(std::string_view name) {
+  const std::string path = PathToWrite(name).place;
+  SetAside(name);
+  versions_.Hold(path);
+}
+
+void FileSystem::EndRewriting(std::string_view name) { versions_.Release(HostPath(name)); }
+
+void FileSystem::Settle() {
+  const auto waits = [this](const std::string& path) { return versions_.IsHeld(path); };
+  try {
+    disk.Settle(waits);
+    versions_.TakeIn();
+    disk.Settle(waits);
+  } catch (const RunTimeError&) {
+    versions_.AllFailed();
+    throw;
+  }
+}
+
+std::vector<std::string> FileSystem::Mend() {
+  std::vector<std::string> names;
+  try {
+    names = versions_.PutBack();
+    for (const std::string& folder : {start_folder_, start_folder_ + "/pics"}) {
+      if (!ItselfAt(folder).folder && folder != start_folder_) continue;
+      std::vector<std::string> left;
+      ForEachEntry(folder, [&](const dirent&, std::string_view name) {
+        if (Disk::IsNameBeside(name)) left.push_back(folder + "/" + std::string(name));
+      });
+      for (const std::string& path : left) {
+        if (ItselfAt(path).file) disk.Remove(path);
+      }
+    }
+    Settle();
+  } catch (const RunTimeError&) {
+    // A folder that cannot be written stays as it is.
+  }
+  return names;
 }
 
 namespace {
@@ -249,7 +335,9 @@ std::vector<std::string> Names(const FileSystem& files, std::string_view folder,
     ForEachEntry(path, [&](const dirent& entry, std::string_view name) {
       const bool known = entry.d_type == DT_REG || entry.d_type == DT_DIR;
       const bool is_folder = known ? entry.d_type == DT_DIR : At(path + "/" + std::string(name)).folder;
-      if (wanted(name, is_folder)) names.emplace_back(name);
+      if (!IsAccepted(name)) return;
+      std::string plain = PlainName(name);
+      if (wanted(plain, is_folder)) names.push_back(std::move(plain));
     });
   } catch (const RunTimeError&) {
     return {};

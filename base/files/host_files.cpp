@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <fcntl.h>
 #include <fstream>
 #include <iterator>
@@ -9,6 +10,7 @@
 #include <unistd.h>
 
 #include "base/errors.h"
+#include "base/files/path_names.h"
 #include "base/text/characters.h"
 
 namespace lectern::files {
@@ -25,6 +27,7 @@ void FailWith(int host_error) {
     case EACCES:
     case EPERM:
     case EROFS:
+    case ELOOP:  // a link where none is followed
       throw RunTimeError(ErrorNumber::kPermissionDenied);
     case ENOSPC:
     case EDQUOT:
@@ -47,16 +50,39 @@ void FailWith(int host_error) {
   }
 }
 
+std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
+
+namespace {
+
+Standing Described(int failed, const struct stat& status) {
+  if (failed != 0) return {};
+  return {true, S_ISDIR(status.st_mode), S_ISREG(status.st_mode), S_ISLNK(status.st_mode), status};
+}
+
+}  // namespace
+
 Standing At(const std::string& path) {
   struct stat status = {};
-  if (::stat(path.c_str(), &status) != 0) return {};
-  return {true, S_ISDIR(status.st_mode), S_ISREG(status.st_mode)};
+  const int failed = ::stat(path.empty() ? "/" : path.c_str(), &status);
+  return Described(failed, status);
+}
+
+Standing ItselfAt(const std::string& path) {
+  struct stat status = {};
+  const int failed = ::lstat(path.c_str(), &status);
+  return Described(failed, status);
+}
+
+std::string RealPath(const std::string& path) {
+  char* const real = ::realpath(path.empty() ? "/" : path.c_str(), nullptr);
+  std::string found = real == nullptr ? "" : real;
+  std::free(real);
+  return found;
 }
 
 std::uint64_t LengthAt(const std::string& path) {
-  struct stat status = {};
-  const bool is_file = ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
-  return is_file ? static_cast<std::uint64_t>(status.st_size) : 0;
+  const Standing standing = ItselfAt(path);
+  return standing.file ? static_cast<std::uint64_t>(standing.status.st_size) : 0;
 }
 
 bool HoldTheSame(const std::string& path, const std::string& other) {
@@ -82,7 +108,8 @@ OpenFile OpenRegular(const std::string& path, int flags) {
 std::string EntryLike(const std::string& folder, std::string_view element) {
   std::string found;
   ForEachEntry(folder, [&](const dirent&, std::string_view name) {
-    if (text::EqualFolded(name, element) && (found.empty() || name < found)) found = name;
+    const bool fits = text::EqualFolded(PlainName(name), PlainName(element));
+    if (fits && (found.empty() || name < found)) found = name;
   });
   return found;
 }

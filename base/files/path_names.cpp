@@ -1,6 +1,7 @@
 #include "base/files/path_names.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "base/text/characters.h"
 
@@ -17,9 +18,46 @@ std::vector<std::string_view> Elements(std::string_view name) {
   return elements;
 }
 
+namespace {
+
+struct Form {
+  char plain;
+  std::string_view stored;
+};
+
+constexpr Form kForms[] = {{':', "："}, {'*', "＊"}, {'?', "？"}, {'"', "＂"},
+                           {'<', "＜"}, {'>', "＞"}, {'|', "｜"}};
+constexpr char kFirstByte = '\xEF';  // of all these forms
+
+}  // namespace
+
+std::string StoredName(std::string_view element) {
+  std::string stored;
+  stored.reserve(element.size());
+  for (const char c : element) {
+    const auto* const form =
+        std::find_if(std::begin(kForms), std::end(kForms), [c](const Form& each) { return each.plain == c; });
+    form == std::end(kForms) ? stored.append(1, c) : stored.append(form->stored);
+  }
+  return stored;
+}
+
+std::string PlainName(std::string_view element) {
+  std::string plain(element);
+  if (plain.find(kFirstByte) == std::string::npos) return plain;
+  for (const Form& form : kForms) {
+    for (std::size_t at = plain.find(form.stored); at != std::string::npos;
+         at = plain.find(form.stored, at)) {
+      plain.replace(at, form.stored.size(), 1, form.plain);
+    }
+  }
+  return plain;
+}
+
 bool IsAccepted(std::string_view element) {
-  constexpr std::string_view kRefused{":*?\"<>|\0", 8};
-  return element.find_first_of(kRefused) == std::string_view::npos;
+  constexpr char kDelete = 0x7F;
+  return std::none_of(element.begin(), element.end(),
+                      [](char c) { return (c >= 0 && c < ' ') || c == kDelete; });
 }
 
 namespace {

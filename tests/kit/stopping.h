@@ -1,5 +1,5 @@
-// Stops the program ahead of a file operation, as a crash or a full disk does, and holds what is then in the
-// data folder against what the person had before.
+// Stops the program at a file operation, as a crash, a full disk or a power cut does, starts it again, and
+// holds what is then in the data folder against what the person had before.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -39,9 +39,10 @@ int InChild(Action action) {
 void LimitFiles(rlim_t bytes);
 
 enum class Stop {
-  kKill,       // the process ends ahead of the n-th operation
-  kFullOnce,   // the n-th operation, of any kind, fails with a full disk
-  kFullOnward  // from the n-th write on nothing more is written; deleting and renaming still work
+  kKill,        // the process ends behind the n-th change
+  kFullOnce,    // the n-th operation, of any kind, fails with a full disk
+  kFullOnward,  // from the n-th write on nothing more is written; deleting and renaming still work
+  kPowerCut     // the computer ends behind the n-th change; what was not synced may be on the disk or not
 };
 
 // What a person does in the small world, act by act.
@@ -49,20 +50,20 @@ struct Task {
   const char* name;
   Steps way;                      // up to where something is about to be written
   Steps acts;                     // each is stopped at every operation
-  const char* built = "";         // a file that an act builds up piece by piece
   bool all_books = false;         // all 66 books are there for the one-pass builder
   bool ignores_failures = false;  // the program says nothing of a full disk
 };
 
 inline void PrintTo(const Task& task, std::ostream* stream) { *stream << task.name; }
 
-// Plays the task again and again in a fresh small world, and stops it one operation later each time. After
-// each stop every file in the folder is whole, as it was before the act or as the act leaves it, or is
-// missing or being built; what it held before the act is in the file or under `backup`; and the program
-// starts again.
-void StopEverywhere(const Task& task, Stop stop);
+// Plays the task again and again in a fresh small world, stops it one operation later each time, and starts
+// the program again. Then every file in the folder is as it was before the act or as the act leaves it, or
+// has grown by a part of what the act writes behind its end; what it held before the act is in the file or
+// under `backup`; and no fewer whole versions of it are there than before. Returns the number of stops, or of
+// different states that power cuts may leave.
+int StopEverywhere(const Task& task, Stop stop);
 
-// Plays steps in a folder and kills the program ahead of the n-th file operation; whether it came so far.
+// Plays steps in a folder and kills the program behind the n-th change; whether it came so far.
 bool KillAt(const std::string& folder, const Steps& steps, int n);
 
 }  // namespace lectern

@@ -126,7 +126,7 @@ TEST(ChapterLoad, WritesNothing) {
   folder.Write("KJV/Genesis.txt", "Chapter 1\r\nfirst\r\nChapter 2\r\nsecond\r\nthe end");
   Session session(folder.Path());
   session.Do("start");
-  session.driver.Files().before = [&](files::Operation operation, const std::string&) {
+  session.driver.Files().disk.before = [&](files::Operation operation, const std::string&) {
     EXPECT_EQ(operation, files::Operation::kRead);
   };
   EXPECT_EQ(Show(session, "2"), "second\r\nthe end\r\n");

@@ -63,7 +63,7 @@ TEST_F(Files, FailWithTheNumberThatFits) {
   EXPECT_EQ(append("nowhere\\new.txt"), 76);
   EXPECT_EQ(ErrorOf([&] { files.Delete(Name("\\folder")); }), 53);
   EXPECT_EQ(ErrorOf([&] { files.Length(Name("\\missing.txt")); }), 53);
-  for (const std::string bad : {"a:b", "a*", "what?", "\"x\"", "<x", "x>", "a|b"}) {
+  for (const std::string bad : {"a\tb", "a\nb", "\x7F"}) {
     EXPECT_EQ(append(bad + ".bkm"), 52) << bad;
     EXPECT_EQ(ErrorOf([&] { files.Delete(Name("\\" + bad)); }), 52) << bad;
   }

@@ -130,7 +130,7 @@ void TakeScript(std::string_view input) {
   LaySmallWorld(folder);
   Session session(folder);
   // A script may point the program at any folder of the host; these are not for it.
-  session.driver.Files().before = [&](files::Operation, const std::string& path) {
+  session.driver.Files().disk.before = [&](files::Operation, const std::string& path) {
     if (!path.starts_with(kAround.Path() + "/") || path.find("/..") != std::string::npos) {
       throw base::RunTimeError(base::ErrorNumber::kPermissionDenied);
     }

@@ -37,6 +37,12 @@ const Task kTasks[] = {
      .acts = {"type Form3.txthelp \"new text\"", "click Form3.f3", "answer \"second\"",
               "click Form3.Command2", "type Form3.txthelp \"more\"", "answer yes", "click Form3.f8",
               "click Form1.cc0", "answer \"first\"", "click Form3.Command2", "answer yes", "click Form3.f4"}},
+    {.name = "NoteWithVersions",
+     .way = {"click Form1.cc0", "click Form3.File1 \"first.not\"", "type Form3.txthelp \"a longer text\"",
+             "click Form3.f3", "type Form3.txthelp \"a text that is longer\"", "click Form3.f3",
+             "type Form3.txthelp \"a text that is longer than the others\"", "click Form3.f3"},
+     .acts = {"type Form3.txthelp \"the longest text of all, which grows and grows\"", "click Form3.f3",
+              "type Form3.txthelp \"short\"", "click Form3.f3"}},
     {.name = "NoteAtTheCloseBox",
      .way = {"click Form1.cc0", "click Form3.File1 \"first.not\"", "type Form3.txthelp \"new\"",
              "answer yes"},
@@ -45,23 +51,18 @@ const Task kTasks[] = {
      .way = {"click Form1.xb"},
      .acts = {"click Form1.Command30"},
      .ignores_failures = true},
-    {.name = "ConcordanceAdd",
-     .way = kSearch,
-     .acts = {"click Form1.cmdadd", "click Form1.cmdadd"},
-     .built = "CONCORD.DAT"},
+    {.name = "ConcordanceAdd", .way = kSearch, .acts = {"click Form1.cmdadd", "click Form1.cmdadd"}},
     {.name = "ConcordanceDelete",
      .way = {"click Form1.cc1", "click Form1.lstc \"RIVER\""},
      .acts = {"click Form1.Command21", "click Form1.lstc \"ZION\"", "click Form1.Command21"}},
     {.name = "ConcordanceBuild",
      .way = {"start"},
      .acts = {"click! Form1.Command27", "run 2000"},
-     .built = "CONCORD.DAT",
      .ignores_failures = true},
     {.name = "ConcordanceCut", .way = {"start"}, .acts = {"click! Form1.Command18"}},
     {.name = "OnePass",
      .way = {"start"},
      .acts = {"click! Form1.Command13"},
-     .built = "concord.dat",
      .all_books = true,
      .ignores_failures = true},
     {.name = "Settings",
@@ -98,9 +99,13 @@ const Task kTasks[] = {
 
 class Stopped : public testing::TestWithParam<Task> {};
 
-TEST_P(Stopped, ByAKill) { StopEverywhere(GetParam(), Stop::kKill); }
-TEST_P(Stopped, ByAnOperationThatFails) { StopEverywhere(GetParam(), Stop::kFullOnce); }
-TEST_P(Stopped, ByADiskThatIsFull) { StopEverywhere(GetParam(), Stop::kFullOnward); }
+// The numbers of stops are in the report that --gtest_output=xml writes.
+TEST_P(Stopped, ByAKill) { RecordProperty("stops", StopEverywhere(GetParam(), Stop::kKill)); }
+TEST_P(Stopped, ByAnOperationThatFails) {
+  RecordProperty("stops", StopEverywhere(GetParam(), Stop::kFullOnce));
+}
+TEST_P(Stopped, ByADiskThatIsFull) { RecordProperty("stops", StopEverywhere(GetParam(), Stop::kFullOnward)); }
+TEST_P(Stopped, ByAPowerCut) { RecordProperty("stops", StopEverywhere(GetParam(), Stop::kPowerCut)); }
 
 INSTANTIATE_TEST_SUITE_P(Tasks, Stopped, testing::ValuesIn(kTasks),
                          [](const auto& test) { return std::string(test.param.name); });
@@ -125,7 +130,7 @@ TEST(FullDisk, LeavesTheNoteInTheEditorAndItsLastVersionInTheBackup) {
         EXPECT_EQ(session.Do("click Form3.f3"), kFull);
         EXPECT_EQ(text.Text, written);
         EXPECT_EQ(altered.Caption, "c");
-        EXPECT_EQ(folder.Read("backup/mine.not"), "old text");
+        EXPECT_EQ(folder.Read("backup/lectern-rewriting/mine.not"), "old text");
       }
       LimitFiles(RLIM_INFINITY);
       EXPECT_EQ(session.Do("click Form3.f3"), Steps{});
@@ -164,7 +169,7 @@ TEST(Unreadable, ANoteIsReportedABookmarkEndsTheProgram) {
   LaySmallWorld(folder.Path());
   Session session(folder.Path());
   session.Do("click Form1.cc0", "type Form3.txthelp \"other\"");
-  session.driver.Files().before = [](files::Operation operation, const std::string& path) {
+  session.driver.Files().disk.before = [](files::Operation operation, const std::string& path) {
     if (operation == files::Operation::kRead && path.find("/first.") != std::string::npos) {
       throw base::RunTimeError(base::ErrorNumber::kPermissionDenied);
     }
@@ -197,38 +202,6 @@ TEST(APainting, IsSavedOnceAfterASaveThatWasStopped) {
     EXPECT_EQ(ReadFile(folder + "/pics2.dat"), catalogue + record) << n;
     EXPECT_TRUE(ReadFile(folder + "/pics/fresh.JPG").starts_with("BM")) << n;
     EXPECT_EQ(ReadFile(folder + "/lectern-saving.tmp"), "(missing)") << n;
-  }
-}
-
-bool IsInABackup(const TemporaryFolder& folder, const std::string& name, const std::string& was) {
-  return folder.Read("backup/" + name) == was || folder.Read("backup/backup/" + name) == was ||
-         folder.Read("backup/backup/backup/" + name) == was;
-}
-
-TEST(Backup, OutlivesABuildThatIsStoppedAgainAndAgain) {
-  const TemporaryFolder folder;
-  LaySmallWorld(folder.Path());
-  std::string words = folder.Read("CONCORD.DAT");
-  for (int i = 0; i < 5; ++i) words += words;
-  folder.Write("CONCORD.DAT", words);
-  for (const int stop : {8, 12, 6, 10, 7, 9}) {
-    EXPECT_TRUE(KillAt(folder.Path(), {"start", "click! Form1.Command27", "run"}, stop));
-    EXPECT_NE(folder.Read("CONCORD.DAT"), words);
-    EXPECT_TRUE(IsInABackup(folder, "CONCORD.DAT", words)) << "stopped at " << stop;
-  }
-}
-
-// The program then starts with its own settings, and writes them at each exit.
-TEST(Backup, OutlivesSettingsThatWereLost) {
-  const TemporaryFolder folder;
-  LaySmallWorld(folder.Path());
-  const std::string settings = folder.Read("codex.cfg");
-  EXPECT_TRUE(KillAt(folder.Path(), {"start", "click Form1.Command1"}, 2));
-  EXPECT_EQ(folder.Read("codex.cfg"), "(missing)");
-  for (int exit = 0; exit < 6; ++exit) {
-    Session(folder.Path()).Do("click Form1.Command1");
-    EXPECT_NE(folder.Read("codex.cfg"), settings);
-    EXPECT_TRUE(IsInABackup(folder, "codex.cfg", settings)) << exit;
   }
 }
 

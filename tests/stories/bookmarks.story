@@ -102,7 +102,7 @@ click Form1.File1 "lines.bkm"; click Form1.Command5
 click Form1.xb; click Form1.File1 "lost.bkm"; click Form1.Command5
   lblbk "Nowhere", lblc "seven", Picture1 hidden
 
-# Too few fields, a file that has been deleted and a name that no file can have end the program.
+# Too few fields, a file that has been deleted and a name with a control character end the program.
 click Form1.xb; click Form1.File1 "short.bkm" | run-time error 62 "Input past end of file" | end
 @restart; click Form1.xb; @delete short.bkm
 click Form1.File1 "short.bkm" | run-time error 53 "File not found" | end
@@ -110,12 +110,12 @@ click Form1.File1 "short.bkm" | run-time error 53 "File not found" | end
 click Form1.Command11 | run-time error 53 "File not found" | end
 @changes . | +1 a''b'c'd.bkm | +4 lines.bkm | +5 lost.bkm | +6 tmppics2.dat | +7 רות ונעמי.bkm | +8 Ῥούθ, ά.bkm
 @restart; click Form1.xb
-click Form1.Command10 | input … -> "when: now" | run-time error 52 "Bad file name or number" | end
+click Form1.Command10 | input … -> "when\tnow" | run-time error 52 "Bad file name or number" | end
 @changes . | unchanged
 
 # Update under such a name does nothing. Where the data folder is gone Update does nothing either, and New ends the
 # program.
-@restart; click Form1.xb; set Form1.LBLMRK(0).Caption = "when: now"; click Form1.Command6
+@restart; click Form1.xb; set Form1.LBLMRK(0).Caption = "when\tnow"; click Form1.Command6
   Picture1 shown
 @delete; click Form1.Command6
 click Form1.Command10 | input … -> "x" | run-time error 76 "Path not found" | end

@@ -143,7 +143,7 @@ click Form3.f2; click Form3.File1 "NAME.not"
 click Form3.Command12; click Form1.cc0 | message "Open file…" "Lectern 2"
 
 # A name that the file system refuses, and a folder that vanished.
-click Form3.Command2 | input … -> "what?" | run-time error 52 "Bad file name or number"
+click Form3.Command2 | input … -> "what\tnow" | run-time error 52 "Bad file name or number"
   Form3.lblname "NAME", picopen shown
 @delete folder; click Form3.Command2 | input … -> "gone" | run-time error 76 "Path not found"
 click Form3.Command3; type Form3.txthelp "still here"; click Form3.f3 | run-time error 76 "Path not found"
