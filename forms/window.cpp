@@ -39,7 +39,7 @@ Picture Window::LoadPicture(std::string_view name) const {
 
 void Window::SavePicture(const Picture& picture, std::string_view name) const {
   if (!picture) throw base::RunTimeError(base::ErrorNumber::kObjectRequired);
-  Files().Replace(name, BmpBytes(*picture));
+  Files().Replace(name, BmpBytes(*picture), files::Lasting::kNo);
 }
 
 void Window::SavePictureKeepingBackup(const Picture& picture, std::string_view name) const {

@@ -65,7 +65,9 @@ void PictureSaving::Command2_Click() {
   form_.MousePointer = forms::kPointerHourglass;
   const std::string old_name = viewer_.LBLPICP.Caption;
   std::string place = viewer_.lblvs.Caption;
-  const std::string name = form_.Platform().Input("Save Picture as", "Save Picture", old_name);
+  // The picture is found by the name that its record holds.
+  const std::string name =
+      files::FieldText(form_.Platform().Input("Save Picture as", "Save Picture", old_name));
   if (name.empty()) {
     form_.MousePointer = forms::kPointerArrow;
     return;

@@ -8,6 +8,7 @@
 
 #include "base/errors.h"
 #include "base/files/file_system.h"
+#include "base/files/host_files.h"
 
 namespace lectern::files {
 

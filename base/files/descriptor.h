@@ -1,6 +1,7 @@
 // A file that the host has open.
 #pragma once
 
+#include <cstdint>
 #include <unistd.h>
 #include <utility>
 
@@ -27,6 +28,11 @@ class Descriptor {
 
  private:
   int number_;
+};
+
+struct OpenFile {
+  Descriptor descriptor;  // not open: errno says why
+  std::uint64_t length = 0;
 };
 
 }  // namespace lectern::files

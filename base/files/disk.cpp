@@ -9,6 +9,8 @@
 #include <unistd.h>
 #include <utility>
 
+#include "base/files/host_files.h"
+
 namespace lectern::files {
 
 void Disk::Announce(Operation operation, const std::string& path) const {

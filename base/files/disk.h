@@ -15,7 +15,6 @@
 #include <sys/types.h>
 
 #include "base/files/descriptor.h"
-#include "base/files/host_files.h"
 
 namespace lectern::files {
 

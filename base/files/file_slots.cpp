@@ -12,11 +12,15 @@ namespace lectern::files {
 using base::ErrorNumber;
 using base::RunTimeError;
 
+std::string FieldText(std::string_view text) {
+  std::string held;
+  for (const char c : text) c == '"' ? held.append("''") : held.append(1, c);
+  return held;
+}
+
 void Field::AppendTo(std::string& record) const {
   if (quoted_) {
-    record.push_back('"');
-    for (const char c : text_) c == '"' ? record.append("''") : record.append(1, c);
-    record.push_back('"');
+    record.append(1, '"').append(FieldText(text_)).append(1, '"');
   } else {
     record.append(text_);
   }

@@ -19,8 +19,10 @@
 
 namespace lectern::files {
 
-// One field of a record to be written: texts go in double quotes, numbers bare. A double quote in a text,
-// which no record can hold, becomes two apostrophes.
+// A text as a record holds it: with two apostrophes for a double quote, which no record can hold.
+std::string FieldText(std::string_view text);
+
+// One field of a record to be written: texts go in double quotes, numbers bare.
 class Field {
  public:
   Field(std::string_view text) : text_(text), quoted_(true) {}  // NOLINT: a field is its value

@@ -229,9 +229,9 @@ void FileSystem::PutInPlace(const std::string& fresh, const std::string& path, L
   versions_.Written(path);
 }
 
-void FileSystem::Replace(std::string_view name, std::string_view bytes) {
+void FileSystem::Replace(std::string_view name, std::string_view bytes, Lasting lasting) {
   const std::string path = PathToWrite(name).path;
-  PutInPlace(WriteBeside(path, bytes, Lasting::kNo), path, Lasting::kNo);
+  PutInPlace(WriteBeside(path, bytes, lasting), path, lasting);
 }
 
 void FileSystem::ReplaceKeepingBackup(std::string_view name, std::string_view bytes) {

@@ -55,8 +55,8 @@ class FileSystem {
   Appending OpenForAppending(std::string_view name, Lasting lasting = Lasting::kYes);
 
   // New contents for a whole file, which appear at once or not at all; with KeepingBackup the last version
-  // stays as with DeleteKeepingBackup. Replace is for files of no lasting value.
-  void Replace(std::string_view name, std::string_view bytes);
+  // stays as with DeleteKeepingBackup. Of lasting files, the bytes are on the disk before they appear.
+  void Replace(std::string_view name, std::string_view bytes, Lasting lasting);
   void ReplaceKeepingBackup(std::string_view name, std::string_view bytes);
 
   void Delete(std::string_view name);  // a file of no lasting value

@@ -4,7 +4,6 @@
 #include <cerrno>
 #include <cstdint>
 #include <dirent.h>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
@@ -41,11 +40,6 @@ std::uint64_t LengthAt(const std::string& path);
 
 // Whether both are files that can be read and have the same bytes.
 bool HoldTheSame(const std::string& path, const std::string& other);
-
-struct OpenFile {
-  Descriptor descriptor;  // not open: errno says why
-  std::uint64_t length = 0;
-};
 
 // Never blocks: a pipe or a device does not count as a file.
 OpenFile OpenRegular(const std::string& path, int flags);

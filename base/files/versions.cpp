@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/errors.h"
+#include "base/files/host_files.h"
 #include "base/files/path_names.h"
 #include "base/text/characters.h"
 

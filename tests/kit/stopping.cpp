@@ -140,12 +140,12 @@ class Playing {
 };
 
 // Whether the file is as it was or as it becomes, or has grown towards that. A program that ignored a step
-// that failed may have gone on with the next one, or have had nothing to write.
+// that failed may have gone on with the next one, or have had less to write.
 bool IsWhole(const std::string& was, const std::string& becomes, const std::string& now, Stop stop) {
   if (now == was || now == becomes) return true;
-  if (stop == Stop::kFullOnce && (now == kMissing || now.empty())) return true;
+  if (stop == Stop::kFullOnce) return now == kMissing || now.empty() || now.ends_with("\r\n");
   const bool has_grown = was == kMissing || now.starts_with(was);
-  return has_grown && now != kMissing && (becomes.starts_with(now) || stop == Stop::kFullOnce);
+  return has_grown && now != kMissing && becomes.starts_with(now);
 }
 
 void ExpectNothingLost(const Files& before, const Files& after, const Files& present, Stop stop) {

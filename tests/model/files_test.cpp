@@ -181,6 +181,75 @@ TEST_F(Files, KeepTheVersionBeforeAndTheLongestOfThoseBeforeIt) {
   expect_before("nothing", "all of it!");
 }
 
+// Somebody else may have prepared the folder.
+TEST_F(Files, AreNotWrittenThroughALink) {
+  const TemporaryFolder elsewhere;
+  elsewhere.Write("start-up", "mine");
+  elsewhere.Write("KJV/Genesis.txt", "mine");
+  elsewhere.Write("diary.not", "old");
+  const auto link = [&](const char* to, const char* name) {
+    fs::create_symlink(elsewhere.Path() + to, folder.Path() + name);
+  };
+  link("/start-up", "/codex.cfg");
+  link("/KJV", "/KJV");
+  link("/KJV", "/backup");
+  link("/nothing", "/lost.not");
+  for (const char* name : {"codex.cfg", "KJV\\Genesis.txt", "KJV\\new.txt", "lost.not"}) {
+    EXPECT_EQ(ErrorOf([&] { files.OpenForAppending(name); }), 70) << name;
+    EXPECT_EQ(ErrorOf([&] { files.Replace(name, "x", Lasting::kYes); }), 70) << name;
+    EXPECT_EQ(ErrorOf([&] { files.SetAside(name); }), 70) << name;
+  }
+  EXPECT_EQ(ErrorOf([&] { files.Delete("KJV\\Genesis.txt"); }), 70);
+  EXPECT_EQ(elsewhere.Read("start-up"), "mine");
+  EXPECT_EQ(elsewhere.Read("KJV/Genesis.txt"), "mine");
+
+  // A note may be kept elsewhere. What else is called `backup` is left alone.
+  link("/diary.not", "/diary.not");
+  files.SetAside("diary.not");
+  files.OpenForAppending("diary.not").Write("new");
+  files.Settle();
+  EXPECT_TRUE(fs::is_symlink(folder.Path() + "/diary.not"));
+  EXPECT_EQ(elsewhere.Read("diary.not"), "new");
+  EXPECT_EQ(folder.Read("lectern-backup/diary.not"), "old");
+  EXPECT_FALSE(fs::exists(elsewhere.Path() + "/KJV/diary.not"));
+  files.DeleteKeepingBackup("diary.not");
+  EXPECT_EQ(elsewhere.Read("diary.not"), "new");
+}
+
+// A prepared folder cannot have a file put anywhere by the next start.
+TEST_F(Files, ArePutBackOnlyWithinTheFolder) {
+  const TemporaryFolder elsewhere;
+  elsewhere.Write("start-up", "mine");
+  fs::create_symlink(elsewhere.Path(), folder.Path() + "/KJV");
+  fs::create_symlink(elsewhere.Path() + "/start-up", folder.Path() + "/codex.cfg");
+  const std::string waiting = "backup/lectern-rewriting/";
+  folder.Write(waiting + "KJV/start-up", "theirs");
+  folder.Write(waiting + "codex.cfg", "theirs");
+  folder.Write(waiting + elsewhere.Path() + "/new", "theirs");
+  folder.Write(waiting + "CONCORD.DAT", "whole");
+  folder.Write("concord.dat", "half");
+  EXPECT_EQ(files.Mend(), std::vector<std::string>{"CONCORD.DAT"});
+  EXPECT_EQ(folder.Read("CONCORD.DAT"), "whole");
+  EXPECT_EQ(folder.Read("concord.dat"), "(missing)");
+  EXPECT_EQ(folder.Read("backup/lectern-half-written/concord.dat"), "half");
+  EXPECT_EQ(elsewhere.Read("start-up"), "mine");
+  EXPECT_FALSE(fs::exists(elsewhere.Path() + "/new"));
+  EXPECT_EQ(files.Mend(), std::vector<std::string>{});
+}
+
+TEST_F(Files, KeepTheirPermissions) {
+  folder.Write("mine.not", "old");
+  const fs::path note = folder.Path() + "/mine.not";
+  const fs::perms own = fs::perms::owner_read | fs::perms::owner_write;
+  fs::permissions(note, own);
+  files.SetAside("mine.not");
+  files.OpenForAppending("mine.not").Write("new");
+  EXPECT_EQ(fs::status(note).permissions(), own);
+  files.ReplaceKeepingBackup("mine.not", "newer");
+  EXPECT_EQ(fs::status(note).permissions(), own);
+  EXPECT_EQ(folder.Read("mine.not"), "newer");
+}
+
 TEST(PathNames, FitPatternsAsFileListsDo) {
   for (const auto& [name, pattern] : std::vector<std::pair<const char*, const char*>>{
            {"Ruth and Naomi.BKM", "*.bkm"}, {".bkm", "*.bkm"}, {"cdx4.ico", "CDX?.ico"}, {"aXbXc", "*b*c"}}) {

@@ -28,6 +28,6 @@ close Form2
 click Form1.Command10 | input … -> "Ruth"
 click Form1.Command30
 @show Ruth.NOT | empty
-set Form1.LBLMRK(0).Caption = "when: now"; click Form2.Command2; click Form1.Command30
+set Form1.LBLMRK(0).Caption = "when\tnow"; click Form2.Command2; click Form1.Command30
   Form2 shown
 @files . | bookschap.txt | codex.cfg | NAME.NOT | Ruth.bkm | Ruth.NOT | tmppics2.dat

@@ -86,9 +86,14 @@ void FlushToDisk(const std::string& folder) {
   if (!is_done) throw Obstacle("The folder " + folder + " cannot be written to the disk.");
 }
 
+// As it is called without links, which are not followed in it.
+std::string DataFolder(const std::string& argument) {
+  std::filesystem::create_directories(argument);
+  return std::filesystem::canonical(argument).string();
+}
+
 void MakeAll(const std::string& folder, std::size_t concordance_words) {
   Steps steps;
-  std::filesystem::create_directories(folder);
   steps.Begin(std::string(kFirst.name), 4);
   const std::vector<MarkedVerse> king_james_module = ReadKingJamesModule();
   const Version king_james = KingJames(king_james_module);
@@ -121,7 +126,7 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
 int Run(const std::vector<std::string>& arguments) {
   constexpr std::size_t kConcordanceWords = 3900;
   if (arguments.size() == 1 && !arguments[0].starts_with("--")) {
-    MakeAll(std::filesystem::absolute(arguments[0]).lexically_normal().string(), kConcordanceWords);
+    MakeAll(DataFolder(arguments[0]), kConcordanceWords);
     return 0;
   }
   if (arguments.size() == 3 && arguments[0] == "--words") {
@@ -130,13 +135,14 @@ int Run(const std::vector<std::string>& arguments) {
     const auto [stop, failure] = std::from_chars(arguments[1].data(), end, words);
     if (failure != std::errc{} || stop != end)
       throw Obstacle("'" + arguments[1] + "' is not a number of words.");
-    MakeAll(std::filesystem::absolute(arguments[2]).lexically_normal().string(), words);
+    MakeAll(DataFolder(arguments[2]), words);
     return 0;
   }
   if (arguments.size() == 3 && arguments[0] == "--second") {
     const Version own = ReadOwnText(arguments[1]);
-    const std::string folder = std::filesystem::absolute(arguments[2]).lexically_normal().string();
+    const std::string folder = DataFolder(arguments[2]);
     WriteBooks(own, FolderOf(kSecond, folder), std::string(kSecond.prefix));
+    FlushToDisk(folder);
     Print("The second version is in place: " + std::to_string(own.VerseCount()) + " verses.");
     return 0;
   }

@@ -1,7 +1,6 @@
 #include "tools/make_data/version_files.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -9,6 +8,8 @@
 #include <optional>
 #include <system_error>
 
+#include "base/errors.h"
+#include "base/files/file_system.h"
 #include "base/files/text_encoding.h"
 #include "base/text/characters.h"
 #include "forms/text_controls.h"
@@ -42,17 +43,15 @@ std::string BookText(const Version& version, std::size_t index) {
 }
 
 void WriteFile(const std::string& path, const std::string& bytes) {
-  const std::string fresh = path + ".new";
-  std::ofstream file(fresh, std::ios::binary | std::ios::trunc);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  std::error_code failure;
-  if (file) {
-    fs::rename(fresh, path, failure);
-  } else {
-    failure.assign(errno != 0 ? errno : EIO, std::generic_category());
+  const fs::path folder = fs::path(path).parent_path();
+  if (fs::canonical(folder) != folder) throw Obstacle("The folder " + folder.string() + " is a link.");
+  // What takes nothing's place can wait until everything is brought to the disk.
+  const auto lasting = fs::exists(path) ? files::Lasting::kYes : files::Lasting::kNo;
+  try {
+    files::FileSystem(folder.string()).Replace(path, bytes, lasting);
+  } catch (const base::RunTimeError& error) {
+    throw Obstacle("The file " + path + " could not be written: " + error.what() + ".");
   }
-  if (failure) throw Obstacle("The file " + path + " could not be written: " + failure.message() + ".");
 }
 
 namespace {
