@@ -36,7 +36,7 @@ click Form4.Command2 | input … -> "painted "
 # A name that the file system refuses, and one in a folder that is not there: the record is written, the picture
 # is not.
 click Form4.Command2 | input … -> "a\tb" | run-time error 52 "Bad file name or number" | end
-@changes pics2.dat | +17 "a\tb","Genesis 1: 2","PICTURES BY: A. Painter"
+@changes pics2.dat | +17 "a	b","Genesis 1: 2","PICTURES BY: A. Painter"
 @restart; click Form1.imgp(0); click Form1.Command32
 click Form4.Command2 | input … "river" -> "a/b" | run-time error 76 "Path not found" | end
 @changes pics2.dat | +18 "a/b","Genesis 1: 1","PICTURES BY: A. Painter"
