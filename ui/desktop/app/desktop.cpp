@@ -190,6 +190,7 @@ void Desktop::Settle() {
   if (bench_) bench_->Settle();
   timers_.Update();
   drafts_.Look();
+  write_notice_.Look();
 }
 
 void Desktop::End() {

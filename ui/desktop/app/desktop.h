@@ -14,6 +14,7 @@
 #include "ui/desktop/app/paint_start.h"
 #include "ui/desktop/app/platform.h"
 #include "ui/desktop/app/timers.h"
+#include "ui/desktop/app/write_notice.h"
 #include "ui/desktop/desk/desk_view.h"
 #include "ui/desktop/views/bench_view.h"
 #include "ui/desktop/views/window_view.h"
@@ -67,6 +68,7 @@ class Desktop {
   Timers timers_;
   PaintStart paint_start_{program_, events_};
   Drafts drafts_{program_, files_, platform_, events_};
+  WriteNotice write_notice_{files_.StartFolder()};
   std::vector<std::unique_ptr<WindowView>> windows_;
   std::vector<std::string> bench_controls_;
   std::unique_ptr<DeskView> desk_;
