@@ -116,17 +116,19 @@ std::size_t ColoursBehind(std::int64_t flags) {
 
 std::optional<PictureFile> Gif(const Bytes& bytes) {
   constexpr std::size_t kHeader = 13;
-  PictureFile file{PictureFormat::kGif, Area(bytes.Little16(6), bytes.Little16(8))};
+  PictureFile file{PictureFormat::kGif};
+  std::int64_t width = bytes.Little16(6);
+  std::int64_t height = bytes.Little16(8);
   std::size_t at = kHeader + ColoursBehind(bytes.At(10));
   while (bytes.At(at) == '!') at = BehindBlocks(bytes, at + 2);
   if (bytes.At(at) == ',') {
-    // The decoder grows the picture to hold this part of it.
-    const std::int64_t right = bytes.Little16(at + 1) + bytes.Little16(at + 5);
-    const std::int64_t bottom = bytes.Little16(at + 3) + bytes.Little16(at + 7);
-    file.pixels = std::max(file.pixels, Area(right, bottom));
+    // A decoder may grow the picture to hold this part of it.
+    width = std::max(width, bytes.Little16(at + 1) + bytes.Little16(at + 5));
+    height = std::max(height, bytes.Little16(at + 3) + bytes.Little16(at + 7));
     at = BehindBlocks(bytes, at + 10 + ColoursBehind(bytes.At(at + 9)) + 1);
     if (at < bytes.Size()) file.reduced = std::string(bytes.From(0).substr(0, at)) + ';';
   }
+  file.pixels = Area(width, height);
   if (file.pixels > kMostPixels) return std::nullopt;
   return file;
 }
