@@ -66,7 +66,7 @@ void Drafts::Look() {
     Offer(painting_);
     WatchCanvas();
   }
-  if (!note_.is_offered && !painting_.is_offered) return;
+  if (!note_.is_answered && !painting_.is_answered) return;
   if (!soon_.isActive()) soon_.start(std::chrono::milliseconds(std::max(kMoment, kPatience * took_)));
 }
 
@@ -98,23 +98,23 @@ std::string Drafts::FileOf(const Draft& draft) const {
 void Drafts::Offer(Draft& draft) {
   if (std::exchange(draft.is_offered, true)) return;
   draft.is_there = files_.FileExists(FileOf(draft));
-  if (!draft.is_there) return;
+  draft.is_answered = !draft.is_there;
+  if (draft.is_answered) return;
   events_.RunLater([this, &draft] {
     if (program_.HasEnded()) return;
+    const bool is_wanted = platform_.Question(draft.question, base::kProgramName);
     const base::Ignoring ignore;
-    if (platform_.Question(draft.question, base::kProgramName)) {
-      ignore([&] { draft.put_back(); });
-    } else {
-      Keep(draft, "");
-    }
+    if (is_wanted) ignore([&] { draft.put_back(); });
+    draft.is_answered = true;
+    if (!is_wanted) Keep(draft, "");
   });
 }
 
 void Drafts::KeepNow() {
   QElapsedTimer taken;
   taken.start();
-  if (note_.is_offered) Keep(note_, UnsavedNote());
-  if (painting_.is_offered) Keep(painting_, UnsavedPainting());
+  if (note_.is_answered) Keep(note_, UnsavedNote());
+  if (painting_.is_answered) Keep(painting_, UnsavedPainting());
   took_ = taken.elapsed();
 }
 

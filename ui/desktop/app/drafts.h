@@ -42,7 +42,8 @@ class Drafts : public QObject {
     std::string question;  // what the person is asked
     std::string kept{};    // what was written last
     bool is_there = false;
-    bool is_offered = false;  // or there was nothing to offer
+    bool is_offered = false;   // or there was nothing to offer
+    bool is_answered = false;  // until then the file is that of the last run
   };
 
   std::string FileOf(const Draft& draft) const;
