@@ -23,6 +23,9 @@ class PictureSource {
   virtual int Height() const = 0;
 
   virtual Bitmap Pixels() const = 0;  // of that size
+
+  // The picture made small, which is enough to show it; nullptr if there is none.
+  virtual const Bitmap* Small() const { return nullptr; }
 };
 
 class Picture {

@@ -2,10 +2,15 @@
 
 #include <algorithm>
 #include <cassert>
+#include <fcntl.h>
+#include <memory>
 #include <utility>
 
 #include "base/errors.h"
+#include "base/files/host_files.h"
 #include "base/text/characters.h"
+#include "forms/large_picture.h"
+#include "forms/picture_file.h"
 
 namespace lectern::forms {
 
@@ -32,9 +37,16 @@ Window::Window(Services services, std::string name, std::string_view caption)
       slots_(services.files) {}
 
 Picture Window::LoadPicture(std::string_view name) const {
+  if (Files().Length(name) > kLargestPictureFile)
+    throw base::RunTimeError(base::ErrorNumber::kInvalidPicture);
   files::Contents contents;
   Files().Read(name, contents);
-  return Platform().DecodePicture(contents.Bytes());
+  Picture picture = Platform().DecodePicture(contents.Bytes());
+  if (picture.Source() != nullptr || !LargePicture::IsLarge(*picture)) return picture;
+  files::OpenFile file = files::OpenRegular(Files().HostPath(name), O_RDONLY);
+  if (!file.descriptor.IsOpen()) return picture;
+  return Picture(std::make_unique<const LargePicture>(*picture, Platform(), std::move(file.descriptor),
+                                                      contents.Bytes().size()));
 }
 
 void Window::SavePicture(const Picture& picture, std::string_view name) const {

@@ -1,5 +1,8 @@
 #include "paint/brushes_and_saving.h"
 
+#include <cstdint>
+
+#include "forms/picture_file.h"
 #include "paint/drawings.h"
 
 namespace lectern::paint {
@@ -62,6 +65,12 @@ PictureSaving::PictureSaving(forms::Window& the_form, gallery::PictureCatalogue&
 
 void PictureSaving::Command2_Click() {
   canvas_.picbox.Picture = canvas_.picbox.Image();  // even if nothing is saved
+  const std::int64_t pixels =
+      std::int64_t{canvas_.picbox.Picture().Width()} * canvas_.picbox.Picture().Height();
+  if (pixels > forms::kMostPixelsSaved) {
+    form_.Platform().Message("The picture is too large to be saved. Zoom out before you save it.");
+    return;
+  }
   form_.MousePointer = forms::kPointerHourglass;
   const std::string old_name = viewer_.LBLPICP.Caption;
   std::string place = viewer_.lblvs.Caption;

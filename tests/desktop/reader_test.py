@@ -6,11 +6,12 @@ Usage: reader_test.py PROGRAM CUPSD
 """
 
 import os
+import signal
 import subprocess
 import sys
 import tempfile
 
-from screen import PATIENCE, expect, play, stand_on_a_stage, wait_for, xdotool
+from screen import PATIENCE, Reader, expect, play, stand_on_a_stage, wait_for, xdotool
 
 
 def read_a_while(reader):
@@ -124,6 +125,40 @@ def keep_a_note(reader):
     expect("the version before is kept", reader.file("backup/Sunday.not") == saved)
 
 
+def come_back_to_an_unsaved_note(reader):
+    pane = "Text of the note"
+
+    def open_notes(reader):
+        reader.press("Notes")
+        reader.screen.find_ready("label", "Open file to add to, or create new file")
+        reader.key("Return")
+
+    open_notes(reader)
+    reader.press("Create New File")
+    reader.answers("Enter a name for file", "Sunday")
+    reader.screen.find_ready("frame", "Sunday - Notes")
+    reader.click("text", pane)
+    reader.key("ctrl+a")
+    reader.types("Not saved yet")
+    wait_for("what was typed", lambda: reader.screen.text_of(pane) == "Not saved yet")
+    reader.running.terminate()
+    reader.sees_it_end(-signal.SIGTERM)
+
+    later = Reader(reader.running.args[0], reader.folder)
+    try:
+        open_notes(later)
+        later.screen.find_ready("label", "Lectern ended before your note was saved. Do you want the text back?")
+        later.key("alt+y")
+        later.screen.find_ready("frame", "*Sunday - Notes")
+        wait_for("the text", lambda: later.screen.text_of(pane) == "Not saved yet")
+        later.key("ctrl+s")
+        wait_for("the note", lambda: later.file("Sunday.not") == "Not saved yet\r\n")
+        wait_for("no draft any longer", lambda: later.file("backup/unsaved-note.txt") is None)
+    finally:
+        later.running.kill()
+        later.running.wait()
+
+
 class Paper:
     """A printed page at 96 dots an inch, in shades of grey."""
 
@@ -213,4 +248,5 @@ if __name__ == "__main__":
     stand_on_a_stage()
     with Printer(sys.argv[2]):
         play(os.path.abspath(sys.argv[1]),
-             (read_a_while, leave_by_the_menu, leave_by_the_close_box, mark_a_place, keep_a_note, print_a_page))
+             (read_a_while, leave_by_the_menu, leave_by_the_close_box, mark_a_place, keep_a_note,
+              come_back_to_an_unsaved_note, print_a_page))

@@ -7,6 +7,7 @@
 #include "reader/canon.h"
 #include "tests/kit/temporary_folder.h"
 #include "tools/make_data/dictionary/dictionary.h"
+#include "tools/make_data/made_files.h"
 #include "tools/make_data/plates/canvas.h"
 #include "tools/make_data/plates/drawings.h"
 #include "tools/make_data/plates/gallery.h"
@@ -89,6 +90,55 @@ TEST(BookFiles, OfAPersonAreNotReplacedByTheStandIn) {
     }
     EXPECT_EQ(folder.Read("Numbers.txt"), "my copy");
   }
+}
+
+// Brings files in as the tool does; what it says stays.
+std::vector<std::string> BringInFiles(const TemporaryFolder& folder, const std::string& trivia,
+                                      const std::string& catalogue) {
+  const MakingFolder making(folder.Path());
+  const auto make = [&](const std::string& name, const std::string& bytes) {
+    std::filesystem::create_directories(std::filesystem::path(making.Path() + "/" + name).parent_path());
+    WriteFile(making.Path() + "/" + name, bytes);
+  };
+  make("codex.trv", trivia);
+  make("NEW/NGenesis.txt", "Chapter 1 (World English Bible)\r\n");
+  make("pics/owl.jpg", "drawn");
+  make("pics/ark.jpg", "drawn");
+  make("pics2.dat", catalogue);
+  return BringIn(making.Path(), folder.Path());
+}
+
+TEST(MadeFiles, AreReplacedAndAPersonsOwnStay) {
+  const std::string owl = "\"owl\",\"Genesis 1: 1\",\"\"\r\n";
+  const std::string ark = "\"ark\",\"Genesis 6: 14\",\"\"\r\n";
+  const TemporaryFolder folder;
+  // An earlier tool left no list.
+  folder.Write("making/mine.txt", "mine");
+  folder.Write("codex.trv", "perhaps edited");
+  folder.Write("NEW/NGenesis.txt", "My own text.");
+  folder.Write("pics/OWL.jpg", "BM painted");
+  folder.Write("pics2.dat", owl);
+  EXPECT_EQ(BringInFiles(folder, "first", owl + ark), std::vector<std::string>{});
+  EXPECT_EQ(folder.Read("codex.trv"), "first");
+  EXPECT_EQ(folder.Read("backup/codex.trv"), "perhaps edited");
+  EXPECT_EQ(folder.Read("NEW/NGenesis.txt"), "My own text.");
+  EXPECT_EQ(folder.Read("pics/OWL.jpg"), "BM painted");
+  EXPECT_EQ(folder.Read("pics2.dat"), owl + ark);
+  EXPECT_EQ(folder.Read("making/mine.txt"), "mine");
+  // From now on it is known what was changed. A picture that was taken out of the catalogue stays out.
+  EXPECT_EQ(BringInFiles(folder, "second", owl), std::vector<std::string>{});
+  EXPECT_EQ(folder.Read("codex.trv"), "second");
+  folder.Write("codex.trv", "edited");
+  folder.Write("pics2.dat", owl);
+  EXPECT_EQ(BringInFiles(folder, "third", owl + ark), std::vector<std::string>{"codex.trv"});
+  EXPECT_EQ(folder.Read("codex.trv"), "edited");
+  EXPECT_EQ(folder.Read("pics2.dat"), owl);
+  // Nothing is written through a link.
+  std::filesystem::rename(folder.Path() + "/pics", folder.Path() + "/elsewhere");
+  std::filesystem::create_symlink("elsewhere", folder.Path() + "/pics");
+  std::filesystem::remove(folder.Path() + "/elsewhere/ark.jpg");
+  EXPECT_THROW(BringInFiles(folder, "fourth", owl), Obstacle);
+  EXPECT_EQ(folder.Read("elsewhere/ark.jpg"), "(missing)");
 }
 
 TEST(Pictures, OfTheKeeperStayAsTheyAre) {

@@ -1,7 +1,12 @@
+#include <algorithm>
+#include <cstdint>
 #include <gtest/gtest.h>
+#include <string>
+#include <utility>
 
 #include "forms/figures.h"
 #include "forms/picture_box.h"
+#include "forms/picture_file.h"
 #include "tests/kit/test_window.h"
 #include "ui/headless/headless_platform.h"
 
@@ -148,13 +153,88 @@ TEST(Image, TakesThePicturesSizeUnlessItStretches) {
   EXPECT_EQ(image.Width, 45);
 }
 
-// As large as a scanned page at its full resolution. A few hundred bytes can promise any size.
-TEST(LargePicture, IsTakenUpToALimit) {
-  EXPECT_EQ(headless::DecodePicture(BmpBytes(Bitmap(8000, 2))).Width(), 8000);
-  std::string bytes = BmpBytes(Bitmap(1, 1));
-  for (const std::size_t place : {18U, 22U})
-    bytes.replace(place, 4, std::string("\x10\x40\0\0", 4));  // 16,400
-  EXPECT_EQ(ErrorOf([&] { headless::DecodePicture(bytes); }), 481);
+std::string Number(std::uint32_t value, int size) {  // the low byte comes last
+  std::string bytes;
+  for (int i = size - 1; i >= 0; --i) bytes.push_back(static_cast<char>(value >> (8 * i)));
+  return bytes;
+}
+
+std::string Little(std::uint32_t value, int size) {
+  std::string bytes = Number(value, size);
+  std::reverse(bytes.begin(), bytes.end());
+  return bytes;
+}
+
+// The skeleton of a JPEG, without anything in its scans.
+std::string JpegOf(char frame, std::uint32_t width, std::uint32_t height, int scans) {
+  std::string bytes = "\xFF\xD8\xFF";
+  bytes +=
+      frame + Number(11, 2) + '\x08' + Number(height, 2) + Number(width, 2) + std::string("\1\1\x11\0", 4);
+  for (int i = 0; i < scans; ++i) bytes += "\xFF\xDA" + Number(8, 2) + std::string("\1\1\0\0\0\0\xFF\0", 8);
+  return bytes + "\xFF\xD9";
+}
+
+std::string PngOf(std::uint32_t width, std::uint32_t height) {
+  return "\x89PNG\r\n\x1A\n" + Number(13, 4) + "IHDR" + Number(width, 4) + Number(height, 4) +
+         std::string("\x08\0\0\0\0CRC.", 9);
+}
+
+std::string GifOf(std::uint32_t width, std::uint32_t height, std::uint32_t part_width) {
+  return "GIF89a" + Little(width, 2) + Little(height, 2) + std::string(3, '\0') + "," + Little(0, 4) +
+         Little(part_width, 2) + Little(1, 2) + std::string("\0\2\1\1\0", 5) + ";";
+}
+
+std::string IconOf(const std::string& content) {
+  return std::string("\0\0\1\0\1\0", 6) + std::string(12, '\1') + Little(22, 4) + content;
+}
+
+// A few bytes can promise any size and any amount of work.
+TEST(PictureFile, CostsNoMoreThanIsAllowed) {
+  const std::string header = BmpBytes(Bitmap(1, 1)).substr(14, 4);
+  const std::pair<bool, std::string> cases[] = {
+      {true, JpegOf('\xC0', 8000, 6000, 1)},
+      {false, JpegOf('\xC0', 65000, 65000, 1)},
+      {true, JpegOf('\xC2', 3000, 2500, 12)},
+      {false, JpegOf('\xC2', 3000, 2500, 3000)},
+      {false, JpegOf('\xC2', 6000, 4000, 2)},
+      {false, JpegOf('\xC9', 6000, 4000, 1)},
+      {true, PngOf(4000, 3000)},
+      {false, PngOf(60000, 60000)},
+      {false, PngOf(1, 1) + PngOf(60000, 60000).substr(8)},
+      {true, GifOf(640, 480, 640)},
+      {false, GifOf(65535, 65535, 1)},
+      {false, GifOf(1, 65535, 65535) + "extra"},
+      {true, BmpBytes(Bitmap(3000, 1000))},
+      {false, BmpBytes(Bitmap(1, 1)).replace(18, 8, Little(16400, 4) + Little(16400, 4))},
+      {true, IconOf(header + Little(32, 4) + Little(64, 4))},
+      {false, IconOf(header + Little(60000, 4) + Little(60000, 4))},
+      {false, IconOf(PngOf(60000, 60000))},
+      {false, "P6 1 1 255 aaa"},
+  };
+  for (const auto& [is_taken, bytes] : cases) {
+    EXPECT_EQ(ReadPictureFile(bytes).has_value(), is_taken) << bytes.substr(0, 40);
+    if (is_taken) continue;
+    EXPECT_EQ(ErrorOf([&bytes = bytes] { headless::DecodePicture(bytes); }), 481);
+  }
+  // Texts that unpack to megabytes, and pictures behind the first one, are not handed to a decoder.
+  EXPECT_EQ(ReadPictureFile(PngOf(1, 1) + Number(2, 4) + "zTXt12CRC.")->reduced, PngOf(1, 1));
+  const std::string gif = GifOf(1, 1, 1);
+  EXPECT_EQ(ReadPictureFile(gif.substr(0, gif.size() - 1) + GifOf(9, 9, 9).substr(13))->reduced, gif);
+}
+
+// It is held small. Its pixels are those of the file that was loaded.
+TEST(LargePicture, IsReadAgainForItsPixels) {
+  constexpr Pixel kRed = kOpaque | 0xFF;
+  TestWindow test;
+  Bitmap bitmap(2600, 1300);
+  bitmap.Set(2599, 1299, kRed);
+  test.folder.Write("large.jpg", BmpBytes(bitmap));
+  const Picture picture = test.form.LoadPicture("large.jpg");
+  test.files.Replace("large.jpg", "another");
+  EXPECT_EQ(picture.Width(), 2600);
+  ASSERT_NE(picture.Source(), nullptr);
+  EXPECT_EQ(picture.Source()->Small()->Width(), 1300);
+  EXPECT_EQ(picture->At(2599, 1299), kRed);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 //   lectern-make-data --words N FOLDER       with concordances of N words, for a quick look
 //   lectern-make-data --second FILE FOLDER   a person's own text as the second version
 //
-// It replaces the files that it made before, and keeps what a person made.
+// It replaces the files that it made before, and leaves alone what a person made or changed.
 #include <charconv>
 #include <exception>
 #include <fcntl.h>
@@ -16,6 +16,7 @@
 
 #include "reader/books.h"
 #include "tools/make_data/dictionary/dictionary.h"
+#include "tools/make_data/made_files.h"
 #include "tools/make_data/paint_files.h"
 #include "tools/make_data/plates/gallery.h"
 #include "tools/make_data/texts.h"
@@ -59,17 +60,14 @@ std::string FolderOf(const reader::Version& version, const std::string& data_fol
   return data_folder + "/" + std::string(version.folder);
 }
 
-// Existing settings belong to the person.
 void MakeSettings(const std::string& folder) {
-  const std::string path = folder + "/codex.cfg";
-  if (std::filesystem::exists(path)) return;
-  WriteFile(path, "\"" + SerifFont() + "\",\"12\",\"Regular\"\r\n");
+  WriteFile(folder + "/codex.cfg", "\"" + SerifFont() + "\",\"12\",\"Regular\"\r\n");
 }
 
 // An existing concordance stays, as the person may have added to it.
-void MakeConcordance(const std::string& folder, const Version& text, const reader::Version& version,
-                     std::size_t most, Steps& steps) {
-  if (std::filesystem::exists(folder + "/" + std::string(version.concordance))) return;
+void MakeConcordance(const std::string& data_folder, const std::string& folder, const Version& text,
+                     const reader::Version& version, std::size_t most, Steps& steps) {
+  if (Stays(data_folder, std::string(version.concordance))) return;
   std::vector<std::string> words = ConcordanceWords(text, most);
   // The tool that cuts a concordance to its true end knows the second version's by this word.
   if (version.folder == kSecond.folder && std::erase(words, "zion") > 0) words.emplace_back("Zion");
@@ -92,8 +90,10 @@ std::string DataFolder(const std::string& argument) {
   return std::filesystem::canonical(argument).string();
 }
 
-void MakeAll(const std::string& folder, std::size_t concordance_words) {
+void MakeAll(const std::string& data_folder, std::size_t concordance_words) {
   Steps steps;
+  const MakingFolder making(data_folder);
+  const std::string& folder = making.Path();
   steps.Begin(std::string(kFirst.name), 4);
   const std::vector<MarkedVerse> king_james_module = ReadKingJamesModule();
   const Version king_james = KingJames(king_james_module);
@@ -116,10 +116,12 @@ void MakeAll(const std::string& folder, std::size_t concordance_words) {
   MakePaintFiles(folder);
   MakeSettings(folder);
   steps.Begin("Concordance of the first version", 36);
-  MakeConcordance(folder, king_james, kFirst, concordance_words, steps);
+  MakeConcordance(data_folder, folder, king_james, kFirst, concordance_words, steps);
   steps.Begin("Concordance of the second version", 36);
-  MakeConcordance(folder, world_english, kSecond, concordance_words, steps);
+  MakeConcordance(data_folder, folder, world_english, kSecond, concordance_words, steps);
   FlushToDisk(folder);
+  for (const std::string& name : BringIn(folder, data_folder)) Print(name + " stays as you have changed it.");
+  FlushToDisk(data_folder);
   Print("The data folder is ready.");
 }
 
@@ -141,7 +143,10 @@ int Run(const std::vector<std::string>& arguments) {
   if (arguments.size() == 3 && arguments[0] == "--second") {
     const Version own = ReadOwnText(arguments[1]);
     const std::string folder = DataFolder(arguments[2]);
-    WriteBooks(own, FolderOf(kSecond, folder), std::string(kSecond.prefix));
+    const MakingFolder making(folder);
+    WriteBooks(own, FolderOf(kSecond, making.Path()), std::string(kSecond.prefix));
+    FlushToDisk(making.Path());
+    BringInOwn(making.Path(), folder);
     FlushToDisk(folder);
     Print("The second version is in place: " + std::to_string(own.VerseCount()) + " verses.");
     return 0;

@@ -1,9 +1,13 @@
+#include <algorithm>
 #include <cstdint>
 #include <gdk-pixbuf/gdk-pixbuf.h>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "base/errors.h"
 #include "forms/picture.h"
+#include "forms/picture_file.h"
 #include "ui/headless/headless_platform.h"
 
 namespace lectern::headless {
@@ -14,12 +18,12 @@ struct Unreference {
   void operator()(gpointer object) const { g_object_unref(object); }
 };
 
-forms::Picture FromPixbuf(const GdkPixbuf* pixbuf) {
-  const int width = gdk_pixbuf_get_width(pixbuf);
-  const int height = gdk_pixbuf_get_height(pixbuf);
-  const int channels = gdk_pixbuf_get_n_channels(pixbuf);
-  const auto stride = static_cast<std::size_t>(gdk_pixbuf_get_rowstride(pixbuf));
-  const guint8* const pixels = gdk_pixbuf_read_pixels(pixbuf);
+forms::Bitmap BitmapOf(const GdkPixbuf& pixbuf) {
+  const int width = gdk_pixbuf_get_width(&pixbuf);
+  const int height = gdk_pixbuf_get_height(&pixbuf);
+  const int channels = gdk_pixbuf_get_n_channels(&pixbuf);
+  const auto stride = static_cast<std::size_t>(gdk_pixbuf_get_rowstride(&pixbuf));
+  const guint8* const pixels = gdk_pixbuf_read_pixels(&pixbuf);
   forms::Bitmap bitmap(width, height);
   for (int y = 0; y < height; ++y) {
     const guint8* from = pixels + static_cast<std::size_t>(y) * stride;
@@ -30,27 +34,32 @@ forms::Picture FromPixbuf(const GdkPixbuf* pixbuf) {
               (static_cast<forms::Pixel>(from[2]) << 16) | (alpha << 24);
     }
   }
-  return forms::Picture(std::move(bitmap));
+  return bitmap;
 }
 
-// The same limit as on the desktop: a gigabyte of pixels. A header that promises more is refused before any
-// memory is asked for, as a picture of no size is not decoded.
-void NoteSize(GdkPixbufLoader* loader, gint width, gint height, gpointer too_large) {
-  constexpr std::int64_t kMostPixels = std::int64_t{1024} * 1024 * 1024 / sizeof(forms::Pixel);
-  if (std::int64_t{width} * height <= kMostPixels) return;
-  *static_cast<bool*>(too_large) = true;
-  gdk_pixbuf_loader_set_size(loader, 0, 0);
+using Pixbuf = std::unique_ptr<GdkPixbuf, Unreference>;
+
+struct Size {
+  gint width = 0;
+  gint height = 0;
+  gint divisor = 1;  // how many times as small it is decoded
+};
+
+void NoteSize(GdkPixbufLoader* loader, gint width, gint height, gpointer noted) {
+  Size& size = *static_cast<Size*>(noted);
+  size.width = width;
+  size.height = height;
+  if (size.divisor > 1) {
+    gdk_pixbuf_loader_set_size(loader, std::max(width / size.divisor, 1), std::max(height / size.divisor, 1));
+  }
 }
 
-}  // namespace
-
-forms::Picture DecodePicture(std::string_view bytes) {
+Pixbuf Decode(std::string_view bytes, Size& size) {
   const base::RunTimeError none(base::ErrorNumber::kInvalidPicture);
   const std::unique_ptr<GdkPixbufLoader, Unreference> loader(gdk_pixbuf_loader_new());
-  bool too_large = false;
-  g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(NoteSize), &too_large);
+  g_signal_connect(loader.get(), "size-prepared", G_CALLBACK(NoteSize), &size);
   bool taken = true;
-  while (taken && !too_large && !bytes.empty()) {
+  while (taken && !bytes.empty()) {
     constexpr std::size_t kPiece = 1 << 16;
     const std::string_view piece = bytes.substr(0, kPiece);
     const auto* const data = reinterpret_cast<const guchar*>(piece.data());
@@ -58,9 +67,43 @@ forms::Picture DecodePicture(std::string_view bytes) {
     bytes.remove_prefix(piece.size());
   }
   const bool closed = gdk_pixbuf_loader_close(loader.get(), nullptr) != FALSE;
-  const GdkPixbuf* const pixbuf = gdk_pixbuf_loader_get_pixbuf(loader.get());
-  if (!taken || !closed || too_large || pixbuf == nullptr) throw none;
-  return FromPixbuf(pixbuf);
+  GdkPixbuf* const pixbuf = gdk_pixbuf_loader_get_pixbuf(loader.get());
+  if (!taken || !closed || pixbuf == nullptr) throw none;
+  return Pixbuf(GDK_PIXBUF(g_object_ref(pixbuf)));
+}
+
+// A large JPEG, which is checked in a small size. That takes a fraction of the memory.
+class JpegSource : public forms::PictureSource {
+ public:
+  explicit JpegSource(std::string_view bytes) : bytes_(bytes) {
+    constexpr gint kDivisor = 8;
+    size_.divisor = kDivisor;
+    Decode(bytes_, size_);
+  }
+
+  int Width() const override { return size_.width; }
+  int Height() const override { return size_.height; }
+  forms::Bitmap Pixels() const override {
+    Size size;
+    return BitmapOf(*Decode(bytes_, size));
+  }
+
+ private:
+  std::string bytes_;
+  Size size_;
+};
+
+}  // namespace
+
+forms::Picture DecodePicture(std::string_view bytes) {
+  constexpr std::int64_t kLargeJpeg = 4 << 20;  // pixels
+  const std::optional<forms::PictureFile> file = forms::ReadPictureFile(bytes);
+  if (!file) throw base::RunTimeError(base::ErrorNumber::kInvalidPicture);
+  if (file->format == forms::PictureFormat::kJpeg && file->pixels > kLargeJpeg) {
+    return forms::Picture(std::make_unique<const JpegSource>(bytes));
+  }
+  Size size;
+  return forms::Picture(BitmapOf(*Decode(file->Decodable(bytes), size)));
 }
 
 }  // namespace lectern::headless

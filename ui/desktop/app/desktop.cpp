@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "ui/desktop/app/end_signals.h"
 #include "ui/desktop/app/notice.h"
 #include "ui/desktop/app/one_program.h"
 #include "ui/desktop/app/theme.h"
@@ -72,6 +73,7 @@ int RunApplication(char** arguments, const std::vector<std::string>& bench) {
   DescribePaintedWidgets();
   Desktop desktop(folder, bench);
   one_program.Listen([&desktop] { desktop.ComeToFront(); });
+  const EndSignals end_signals([&desktop] { desktop.KeepUnsaved(); });
   return desktop.Run();
 }
 
@@ -187,9 +189,12 @@ void Desktop::Settle() {
   paint_start_.Settle();
   if (bench_) bench_->Settle();
   timers_.Update();
+  drafts_.Look();
+  write_notice_.Look();
 }
 
 void Desktop::End() {
+  drafts_.KeepNow();
   for (const auto& window : windows_) {
     if (window->Frame() != nullptr) window->Frame()->hide();
   }

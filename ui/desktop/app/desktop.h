@@ -9,10 +9,12 @@
 #include <vector>
 
 #include "base/files/file_system.h"
+#include "ui/desktop/app/drafts.h"
 #include "ui/desktop/app/events.h"
 #include "ui/desktop/app/paint_start.h"
 #include "ui/desktop/app/platform.h"
 #include "ui/desktop/app/timers.h"
+#include "ui/desktop/app/write_notice.h"
 #include "ui/desktop/desk/desk_view.h"
 #include "ui/desktop/views/bench_view.h"
 #include "ui/desktop/views/window_view.h"
@@ -41,6 +43,9 @@ class Desktop {
   // The first half of Run. Returns false if the program has already ended.
   bool Start();
 
+  // Keeps what is not saved, as the program is about to be ended from outside.
+  void KeepUnsaved() { drafts_.KeepNow(); }
+
   // Raises the window that was used last, or the box that is open.
   void ComeToFront();
 
@@ -62,6 +67,8 @@ class Desktop {
   Events events_;
   Timers timers_;
   PaintStart paint_start_{program_, events_};
+  Drafts drafts_{program_, files_, platform_, events_};
+  WriteNotice write_notice_{files_.StartFolder()};
   std::vector<std::unique_ptr<WindowView>> windows_;
   std::vector<std::string> bench_controls_;
   std::unique_ptr<DeskView> desk_;

@@ -7,29 +7,33 @@
 #include <functional>
 #include <memory>
 #include <numeric>
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "base/errors.h"
 #include "forms/control.h"
+#include "forms/picture_file.h"
 
 namespace lectern::desktop {
 
 namespace {
 
-using namespace std::string_view_literals;
-
-// The decoder for a file that begins with these bytes; nullptr if there is none. Qt would load all installed
-// decoders to find out.
-const char* FormatOf(std::string_view bytes) {
-  constexpr std::pair<std::string_view, const char*> kBeginnings[] = {
-      {"\xFF\xD8\xFF"sv, "jpeg"}, {"\x89PNG\r\n\x1A\n"sv, "png"}, {"GIF8"sv, "gif"}, {"BM"sv, "bmp"},
-      {"\0\0\1\0"sv, "ico"},      {"\0\0\2\0"sv, "ico"},
-  };
-  for (const auto& [beginning, format] : kBeginnings) {
-    if (bytes.starts_with(beginning)) return format;
+// Qt would load all installed decoders to find out.
+const char* DecoderOf(forms::PictureFormat format) {
+  switch (format) {
+    case forms::PictureFormat::kJpeg:
+      return "jpeg";
+    case forms::PictureFormat::kPng:
+      return "png";
+    case forms::PictureFormat::kGif:
+      return "gif";
+    case forms::PictureFormat::kBmp:
+      return "bmp";
+    case forms::PictureFormat::kIcon:
+      break;
   }
-  return nullptr;
+  return "ico";
 }
 
 // Copies the pixels of a JPEG, which Qt stores in the order of a QRgb.
@@ -57,7 +61,7 @@ forms::Bitmap BitmapOf(QImage image) {
   return bitmap;
 }
 
-// Reads a picture without copying its bytes. Refuses a picture with more than a gigabyte of pixels.
+// Reads a picture without copying its bytes.
 class PictureReader {
  public:
   PictureReader(std::string_view bytes, const char* format)
@@ -68,15 +72,10 @@ class PictureReader {
     reader_.setAutoDetectImageFormat(false);
   }
 
-  static bool Allows(const QSize& size) {
-    constexpr qint64 kMostPixels = qint64{kLargest} * 1024 * 1024 / qint64{sizeof(forms::Pixel)};
-    return size.width() > 0 && size.height() > 0 && qint64{size.width()} * size.height() <= kMostPixels;
-  }
-
   QImageReader* operator->() { return &reader_; }
 
  private:
-  static constexpr int kLargest = 1024;  // megabytes
+  static constexpr int kLargest = 256;  // megabytes
 
   QByteArray held_;
   QBuffer buffer_;
@@ -87,14 +86,19 @@ class PictureReader {
 class JpegSource : public forms::PictureSource {
  public:
   // Returns null if the bytes are not a picture. Reading the first row is enough to tell. If the file has a
-  // single scan, damage after that row only leaves gaps; if it has several, all of them are read for it.
-  static std::unique_ptr<const JpegSource> From(std::string_view bytes) {
+  // single scan, damage after that row only leaves gaps; if it has several, all of them are read for it. Then
+  // they are read once, at a size that is large enough to be shown.
+  static std::unique_ptr<const JpegSource> From(std::string_view bytes, bool has_many_scans) {
     const QSize size = PictureReader(bytes, kFormat)->size();
-    if (!PictureReader::Allows(size) || FirstRows(bytes, {size.width(), 1}).isNull()) return nullptr;
-    return std::make_unique<const JpegSource>(bytes, size);
+    if (size.isEmpty()) return nullptr;
+    QImage small;
+    if (has_many_scans) small = Read(bytes, size.boundedTo(size.scaled(kSmall, Qt::KeepAspectRatio)));
+    if (small.isNull() && FirstRows(bytes, {size.width(), 1}).isNull()) return nullptr;
+    return std::make_unique<const JpegSource>(bytes, size, std::move(small));
   }
 
-  JpegSource(std::string_view bytes, const QSize& size) : bytes_(bytes), size_(size) {}
+  JpegSource(std::string_view bytes, const QSize& size, QImage small)
+      : bytes_(bytes), size_(size), small_(std::move(small)) {}
 
   int Width() const override { return size_.width(); }
   int Height() const override { return size_.height(); }
@@ -108,14 +112,20 @@ class JpegSource : public forms::PictureSource {
 
   // Returns null if the picture has to be scaled from its pixels.
   QImage ScaledTo(const QSize& size) const {
-    PictureReader reader(bytes_, kFormat);
+    if (!small_.isNull()) return small_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return Read(bytes_, size);
+  }
+
+ private:
+  static constexpr const char* kFormat = "jpeg";
+  static constexpr QSize kSmall{1600, 1200};
+
+  static QImage Read(std::string_view bytes, const QSize& size) {
+    PictureReader reader(bytes, kFormat);
     reader->setScaledSize(size);
     return reader->read();
   }
 
-  static constexpr const char* kFormat = "jpeg";
-
- private:
   static QImage FirstRows(std::string_view bytes, const QSize& size) {
     PictureReader reader(bytes, kFormat);
     reader->setClipRect({{}, size});
@@ -124,6 +134,7 @@ class JpegSource : public forms::PictureSource {
 
   std::string bytes_;
   QSize size_;
+  QImage small_;
 };
 
 bool IsOpaque(const forms::Bitmap& bitmap) {
@@ -145,15 +156,15 @@ QImage ImageOf(const forms::Bitmap& bitmap) {
 
 forms::Picture Decode(std::string_view bytes) {
   const base::RunTimeError none(base::ErrorNumber::kInvalidPicture);
-  const char* const format = FormatOf(bytes);
-  if (format == nullptr) throw none;
+  const std::optional<forms::PictureFile> file = forms::ReadPictureFile(bytes);
+  if (!file) throw none;
 
-  if (format == std::string_view(JpegSource::kFormat)) {
-    std::unique_ptr<const JpegSource> jpeg = JpegSource::From(bytes);
+  if (file->format == forms::PictureFormat::kJpeg) {
+    std::unique_ptr<const JpegSource> jpeg = JpegSource::From(bytes, file->has_many_scans);
     if (jpeg == nullptr) throw none;
     return forms::Picture(std::move(jpeg));
   }
-  QImage image = PictureReader(bytes, format)->read();
+  QImage image = PictureReader(file->Decodable(bytes), DecoderOf(file->format))->read();
   if (image.isNull()) throw none;
   return forms::Picture(BitmapOf(std::move(image)));
 }
@@ -163,10 +174,12 @@ QPixmap Scaled(const forms::Picture& picture, const QSize& size) {
   if (const auto* const jpeg = dynamic_cast<const JpegSource*>(picture.Source())) {
     if (const QImage scaled = jpeg->ScaledTo(size); !scaled.isNull()) return QPixmap::fromImage(scaled);
   }
-  if (picture->Empty()) return {};
-  QImage image = ImageOf(*picture);
-  // Qt scales four times as fast without opacity.
-  if (IsOpaque(*picture)) image.reinterpretAsFormat(QImage::Format_RGBX8888);
+  const forms::Bitmap* const small = picture.Source() ? picture.Source()->Small() : nullptr;
+  const forms::Bitmap& bitmap = small ? *small : *picture;
+  if (bitmap.Empty()) return {};
+  QImage image = ImageOf(bitmap);
+  // Without opacity, Qt scales four times as fast.
+  if (IsOpaque(bitmap)) image.reinterpretAsFormat(QImage::Format_RGBX8888);
   return QPixmap::fromImage(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
