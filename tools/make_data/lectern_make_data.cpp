@@ -9,12 +9,15 @@
 #include <exception>
 #include <fcntl.h>
 #include <filesystem>
+#include <future>
 #include <iostream>
+#include <mutex>
 #include <string>
 #include <unistd.h>
 #include <vector>
 
 #include "reader/books.h"
+#include "tools/make_data/concordance.h"
 #include "tools/make_data/dictionary/dictionary.h"
 #include "tools/make_data/paint_files.h"
 #include "tools/make_data/plates/gallery.h"
@@ -28,28 +31,37 @@ namespace {
 
 void Print(const std::string& what) { std::cout << what << std::endl; }
 
-// Prints the progress in percent as each step begins: "28 % Concordance of the first version …". Within a
-// long step only the number is rewritten. The first start from the menu reads both.
+// Runs the steps, some of them at the same time, and prints the progress in percent as each begins: "28 %
+// Help …". The first start from the menu reads this.
 class Steps {
  public:
-  // `share` is the part of the whole time that the step takes, in percent.
-  void Begin(const std::string& what, int share) {
-    done_ += share_;
-    share_ = share;
-    shown_ = done_;
-    Print(std::to_string(done_) + " % " + what + " …");
-  }
-
-  void Within(std::size_t done, std::size_t all) {
-    const int now = done_ + static_cast<int>(static_cast<std::size_t>(share_) * done / all);
-    if (now != shown_) std::cout << '\r' << now << " % " << std::flush;
-    shown_ = now;
+  // `share` is the part of the whole work that the step takes, in percent.
+  template <class Work>
+  auto Run(const std::string& what, int share, Work work) {
+    {
+      const std::lock_guard lock(mutex_);
+      Print(std::to_string(done_) + " % " + what + " …");
+    }
+    const Share at_end(*this, share);
+    return work();
   }
 
  private:
+  class Share {
+   public:
+    Share(Steps& steps, int share) : steps_(steps), share_(share) {}
+    ~Share() {
+      const std::lock_guard lock(steps_.mutex_);
+      steps_.done_ += share_;
+    }
+
+   private:
+    Steps& steps_;
+    int share_;
+  };
+
+  std::mutex mutex_;
   int done_ = 0;
-  int share_ = 0;
-  int shown_ = 0;
 };
 
 constexpr reader::Version kFirst = reader::kVersions[0];
@@ -68,14 +80,17 @@ void MakeSettings(const std::string& folder) {
 
 // An existing concordance stays, as the person may have added to it.
 void MakeConcordance(const std::string& folder, const Version& text, const reader::Version& version,
-                     std::size_t most, Steps& steps) {
-  if (std::filesystem::exists(folder + "/" + std::string(version.concordance))) return;
+                     std::size_t most) {
+  const std::string path = folder + "/" + std::string(version.concordance);
+  if (std::filesystem::exists(path)) return;
   std::vector<std::string> words = ConcordanceWords(text, most);
   // The tool that cuts a concordance to its true end knows the second version's by this word.
   if (version.folder == kSecond.folder && std::erase(words, "zion") > 0) words.emplace_back("Zion");
-  BuildConcordance(folder, version, words,
-                   [&steps](std::size_t done, std::size_t all) { steps.Within(done, all); });
-  std::cout << "\r        \r";
+  WriteFile(path, ConcordanceRecords(folder, version, words));
+  if (version.folder != kSecond.folder) return;
+  std::string list;
+  for (const std::string& word : words) list += word + "\r\n";
+  WriteFile(folder + "/conc.txt", list);
 }
 
 // Otherwise a power cut could leave a folder of empty files that looks complete.
@@ -86,34 +101,48 @@ void FlushToDisk(const std::string& folder) {
   if (!is_done) throw Obstacle("The folder " + folder + " cannot be written to the disk.");
 }
 
+// The second version and the drawings need as much time as everything else, and each goes its own way.
 void MakeAll(const std::string& folder, std::size_t concordance_words) {
   Steps steps;
   std::filesystem::create_directories(folder);
-  steps.Begin(std::string(kFirst.name), 4);
-  const std::vector<MarkedVerse> king_james_module = ReadKingJamesModule();
-  const Version king_james = KingJames(king_james_module);
-  WriteBooks(king_james, FolderOf(kFirst, folder), std::string(kFirst.prefix));
-  steps.Begin("World English Bible, for the second version", 4);
-  const std::vector<MarkedVerse> world_english_module = ReadWorldEnglishModule();
-  const Version world_english = WorldEnglish(world_english_module);
-  WriteStandIn(world_english, FolderOf(kSecond, folder), std::string(kSecond.prefix));
-  steps.Begin("Chapter counts", 4);
-  WriteChapterCounts(king_james, folder);
-  steps.Begin("Dictionary", 4);
-  WriteFile(folder + "/cdxdic.dat",
-            DictionaryRecords(ReadDictionarySources(king_james_module, world_english_module), king_james));
-  steps.Begin("Questions", 4);
-  WriteFile(folder + "/codex.trv", TriviaRecords(WrittenQuestions()));
-  steps.Begin("Help", 4);
-  WriteHelpTopics(folder);
-  steps.Begin("Pictures", 4);
-  plates::MakePictures(folder, king_james);
-  MakePaintFiles(folder);
-  MakeSettings(folder);
-  steps.Begin("Concordance of the first version", 36);
-  MakeConcordance(folder, king_james, kFirst, concordance_words, steps);
-  steps.Begin("Concordance of the second version", 36);
-  MakeConcordance(folder, world_english, kSecond, concordance_words, steps);
+  const std::shared_future<std::vector<MarkedVerse>> world_english =
+      std::async(std::launch::async, ReadWorldEnglishModule).share();
+  std::future<void> second = std::async(std::launch::async, [&] {
+    const Version text = steps.Run("World English Bible, for the second version", 15, [&] {
+      Version read = WorldEnglish(world_english.get());
+      WriteStandIn(read, FolderOf(kSecond, folder), std::string(kSecond.prefix));
+      return read;
+    });
+    steps.Run("Concordance of the second version", 10,
+              [&] { MakeConcordance(folder, text, kSecond, concordance_words); });
+  });
+  std::vector<MarkedVerse> king_james_module;
+  const Version king_james = steps.Run(std::string(kFirst.name), 15, [&] {
+    king_james_module = ReadKingJamesModule();
+    Version read = KingJames(king_james_module);
+    WriteBooks(read, FolderOf(kFirst, folder), std::string(kFirst.prefix));
+    return read;
+  });
+  std::future<void> pictures = std::async(std::launch::async, [&] {
+    steps.Run("Pictures", 35, [&] {
+      plates::MakePictures(folder, king_james);
+      MakePaintFiles(folder);
+    });
+  });
+  steps.Run("Chapter counts", 3, [&] { WriteChapterCounts(king_james, folder); });
+  steps.Run("Dictionary", 10, [&] {
+    WriteFile(folder + "/cdxdic.dat",
+              DictionaryRecords(ReadDictionarySources(king_james_module, world_english.get()), king_james));
+  });
+  steps.Run("Questions and help", 2, [&] {
+    WriteFile(folder + "/codex.trv", TriviaRecords(WrittenQuestions()));
+    WriteHelpTopics(folder);
+    MakeSettings(folder);
+  });
+  steps.Run("Concordance of the first version", 10,
+            [&] { MakeConcordance(folder, king_james, kFirst, concordance_words); });
+  second.get();
+  pictures.get();
   FlushToDisk(folder);
   Print("The data folder is ready.");
 }
