@@ -15,15 +15,6 @@ namespace {
 
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-bool IsVerseLine(std::string_view line) {
-  return !line.empty() && IsDigit(line[0]) && !line.substr(1).starts_with('-');
-}
-
-bool IsChapterLine(std::string_view line) {
-  constexpr std::string_view kMark = "chap";
-  return text::EqualFolded(line.substr(0, kMark.size()), kMark);
-}
-
 std::u32string Characters(std::string_view text) {
   std::u32string characters;
   for (std::size_t at = 0; at < text.size();) characters.push_back(text::NextCharacter(text, at));
@@ -86,11 +77,12 @@ class Scan {
     while (at_ < bytes_.size() && (counts_on || match != std::string_view::npos)) {
       const std::size_t start = at_;
       const std::string_view line = TakeLine();
-      const bool is_verse = IsVerseLine(line);
+      const LineKind kind = KindOf(line);
+      const bool is_verse = kind == LineKind::kVerse;
       if (is_verse) {
         ++verse_;
       } else {
-        CountOther(line);
+        CountOther(line, kind);
       }
       if (match >= at_) continue;
       if (is_verse) SearchVerse(line, match - start);
@@ -113,9 +105,9 @@ class Scan {
   }
 
   // A chapter line or a heading.
-  void CountOther(std::string_view line) {
+  void CountOther(std::string_view line, LineKind kind) {
     verse_ = 0;
-    if (IsChapterLine(line)) {
+    if (kind == LineKind::kChapter) {
       ++chapter_;
       ++findings_.chapter_lines;
     } else {
@@ -202,6 +194,13 @@ class Scan {
 };
 
 }  // namespace
+
+LineKind KindOf(std::string_view line) {
+  constexpr std::string_view kChapterMark = "chap";
+  if (!line.empty() && IsDigit(line[0]) && !line.substr(1).starts_with('-')) return LineKind::kVerse;
+  const bool is_chapter = text::EqualFolded(line.substr(0, kChapterMark.size()), kChapterMark);
+  return is_chapter ? LineKind::kChapter : LineKind::kHeading;
+}
 
 ScanFindings ScanText(std::string_view bytes, const Terms& terms, std::string book, const LineRules& rules,
                       char32_t next) {

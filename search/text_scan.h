@@ -60,6 +60,10 @@ struct LineRules {
   bool Capitalises() const { return kind != ScanKind::kBook; }          // the names of books
 };
 
+enum class LineKind { kVerse, kChapter, kHeading };
+
+LineKind KindOf(std::string_view line);
+
 struct ScanFindings {
   text::TextList entries;
   int count = 0;          // of matches; greater than that of the entries if a book has no name

@@ -9,12 +9,15 @@
 #include <exception>
 #include <fcntl.h>
 #include <filesystem>
+#include <future>
 #include <iostream>
+#include <mutex>
 #include <string>
 #include <unistd.h>
 #include <vector>
 
 #include "reader/books.h"
+#include "tools/make_data/concordance.h"
 #include "tools/make_data/dictionary/dictionary.h"
 #include "tools/make_data/made_files.h"
 #include "tools/make_data/paint_files.h"
@@ -29,28 +32,37 @@ namespace {
 
 void Print(const std::string& what) { std::cout << what << std::endl; }
 
-// Prints the progress in percent as each step begins: "28 % Concordance of the first version …". Within a
-// long step only the number is rewritten. The first start from the menu reads both.
+// Runs the steps, some of them at the same time, and prints the progress in percent as each begins: "28 %
+// Help …". The first start from the menu reads this.
 class Steps {
  public:
-  // `share` is the part of the whole time that the step takes, in percent.
-  void Begin(const std::string& what, int share) {
-    done_ += share_;
-    share_ = share;
-    shown_ = done_;
-    Print(std::to_string(done_) + " % " + what + " …");
-  }
-
-  void Within(std::size_t done, std::size_t all) {
-    const int now = done_ + static_cast<int>(static_cast<std::size_t>(share_) * done / all);
-    if (now != shown_) std::cout << '\r' << now << " % " << std::flush;
-    shown_ = now;
+  // `share` is the part of the whole work that the step takes, in percent.
+  template <class Work>
+  auto Run(const std::string& what, int share, Work work) {
+    {
+      const std::lock_guard lock(mutex_);
+      Print(std::to_string(done_) + " % " + what + " …");
+    }
+    const Share at_end(*this, share);
+    return work();
   }
 
  private:
+  class Share {
+   public:
+    Share(Steps& steps, int share) : steps_(steps), share_(share) {}
+    ~Share() {
+      const std::lock_guard lock(steps_.mutex_);
+      steps_.done_ += share_;
+    }
+
+   private:
+    Steps& steps_;
+    int share_;
+  };
+
+  std::mutex mutex_;
   int done_ = 0;
-  int share_ = 0;
-  int shown_ = 0;
 };
 
 constexpr reader::Version kFirst = reader::kVersions[0];
@@ -66,14 +78,17 @@ void MakeSettings(const std::string& folder) {
 
 // An existing concordance stays, as the person may have added to it.
 void MakeConcordance(const std::string& data_folder, const std::string& folder, const Version& text,
-                     const reader::Version& version, std::size_t most, Steps& steps) {
+                     const reader::Version& version, std::size_t most) {
   if (Stays(data_folder, std::string(version.concordance))) return;
+  const std::string path = folder + "/" + std::string(version.concordance);
   std::vector<std::string> words = ConcordanceWords(text, most);
   // The tool that cuts a concordance to its true end knows the second version's by this word.
   if (version.folder == kSecond.folder && std::erase(words, "zion") > 0) words.emplace_back("Zion");
-  BuildConcordance(folder, version, words,
-                   [&steps](std::size_t done, std::size_t all) { steps.Within(done, all); });
-  std::cout << "\r        \r";
+  WriteFile(path, ConcordanceRecords(folder, version, words));
+  if (version.folder != kSecond.folder) return;
+  std::string list;
+  for (const std::string& word : words) list += word + "\r\n";
+  WriteFile(folder + "/conc.txt", list);
 }
 
 // Otherwise a power cut could leave a folder of empty files that looks complete.
@@ -90,35 +105,49 @@ std::string DataFolder(const std::string& argument) {
   return std::filesystem::canonical(argument).string();
 }
 
+// The second version and the drawings need as much time as everything else, and each goes its own way.
 void MakeAll(const std::string& data_folder, std::size_t concordance_words) {
   Steps steps;
   const MakingFolder making(data_folder);
   const std::string& folder = making.Path();
-  steps.Begin(std::string(kFirst.name), 4);
-  const std::vector<MarkedVerse> king_james_module = ReadKingJamesModule();
-  const Version king_james = KingJames(king_james_module);
-  WriteBooks(king_james, FolderOf(kFirst, folder), std::string(kFirst.prefix));
-  steps.Begin("World English Bible, for the second version", 4);
-  const std::vector<MarkedVerse> world_english_module = ReadWorldEnglishModule();
-  const Version world_english = WorldEnglish(world_english_module);
-  WriteStandIn(world_english, FolderOf(kSecond, folder), std::string(kSecond.prefix));
-  steps.Begin("Chapter counts", 4);
-  WriteChapterCounts(king_james, folder);
-  steps.Begin("Dictionary", 4);
-  WriteFile(folder + "/cdxdic.dat",
-            DictionaryRecords(ReadDictionarySources(king_james_module, world_english_module), king_james));
-  steps.Begin("Questions", 4);
-  WriteFile(folder + "/codex.trv", TriviaRecords(WrittenQuestions()));
-  steps.Begin("Help", 4);
-  WriteHelpTopics(folder);
-  steps.Begin("Pictures", 4);
-  plates::MakePictures(folder, king_james);
-  MakePaintFiles(folder);
-  MakeSettings(folder);
-  steps.Begin("Concordance of the first version", 36);
-  MakeConcordance(data_folder, folder, king_james, kFirst, concordance_words, steps);
-  steps.Begin("Concordance of the second version", 36);
-  MakeConcordance(data_folder, folder, world_english, kSecond, concordance_words, steps);
+  const std::shared_future<std::vector<MarkedVerse>> second_module =
+      std::async(std::launch::async, [] { return ReadWorldEnglishModule(); });
+  std::future<void> second = std::async(std::launch::async, [&] {
+    const Version text = steps.Run("World English Bible, for the second version", 15, [&] {
+      Version read = WorldEnglish(second_module.get());
+      WriteStandIn(read, FolderOf(kSecond, folder), std::string(kSecond.prefix));
+      return read;
+    });
+    steps.Run("Concordance of the second version", 10,
+              [&] { MakeConcordance(data_folder, folder, text, kSecond, concordance_words); });
+  });
+  std::vector<MarkedVerse> first_module;
+  const Version king_james = steps.Run(std::string(kFirst.name), 15, [&] {
+    first_module = ReadKingJamesModule();
+    Version read = KingJames(first_module);
+    WriteBooks(read, FolderOf(kFirst, folder), std::string(kFirst.prefix));
+    return read;
+  });
+  std::future<void> pictures = std::async(std::launch::async, [&] {
+    steps.Run("Pictures", 35, [&] {
+      plates::MakePictures(folder, king_james);
+      MakePaintFiles(folder);
+    });
+  });
+  steps.Run("Chapter counts", 3, [&] { WriteChapterCounts(king_james, folder); });
+  steps.Run("Dictionary", 10, [&] {
+    const DictionarySources sources = ReadDictionarySources(first_module, second_module.get());
+    WriteFile(folder + "/cdxdic.dat", DictionaryRecords(sources, king_james));
+  });
+  steps.Run("Questions and help", 2, [&] {
+    WriteFile(folder + "/codex.trv", TriviaRecords(WrittenQuestions()));
+    WriteHelpTopics(folder);
+    MakeSettings(folder);
+  });
+  steps.Run("Concordance of the first version", 10,
+            [&] { MakeConcordance(data_folder, folder, king_james, kFirst, concordance_words); });
+  second.get();
+  pictures.get();
   FlushToDisk(folder);
   for (const std::string& name : BringIn(folder, data_folder)) Print(name + " stays as you have changed it.");
   FlushToDisk(data_folder);

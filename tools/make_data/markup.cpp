@@ -109,8 +109,11 @@ bool Closes(const std::u32string& words, std::size_t at) {
   return words[at] == U'”' || (words[at] == U'’' && (ends || !in_word));
 }
 
-// Whether a blank at that place is one too many.
-bool IsSuperfluous(const std::u32string& words, std::size_t at, char32_t before) {
+// Whether a blank at that place is one too many. `result` stands before it.
+bool IsSuperfluous(const std::u32string& words, std::size_t at, const std::u32string& result) {
+  const char32_t before = result.empty() ? 0 : result.back();
+  // A dash without a blank before it has none behind it, also at the end of a line of verse.
+  if (before == U'—' && result.size() > 1 && result[result.size() - 2] != U' ') return true;
   const char32_t next = at + 1 < words.size() ? words[at + 1] : U' ';
   return before == 0 || next == U' ' || before == U'“' || before == U'‘' || Closes(words, at + 1) ||
          (before == U'”' && next == U'—') ||
@@ -127,8 +130,7 @@ std::u32string Spaced(std::u32string words) {
   std::replace_if(words.begin(), words.end(), IsBlank, U' ');
   std::u32string result;
   for (std::size_t at = 0; at < words.size(); ++at) {
-    const char32_t before = result.empty() ? 0 : result.back();
-    if (words[at] == U' ' && IsSuperfluous(words, at, before)) continue;
+    if (words[at] == U' ' && IsSuperfluous(words, at, result)) continue;
     if (at > 0 && IsLetter(words[at]) && Closes(words, at - 1)) result.push_back(U' ');
     result.push_back(words[at]);
   }

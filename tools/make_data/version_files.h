@@ -1,4 +1,4 @@
-// Writes what belongs to a version: its book files, the chapter counts and the concordance.
+// Writes what belongs to a version: its book files and the chapter counts.
 //
 // A book file has a chapter line for each chapter; for each verse its number, blanks up to the fourth column,
 // the text with a blank before every word, and seven blanks; CR LF ends each line. The search begins at the
@@ -7,11 +7,8 @@
 // says what it is in the chapter lines and in the last line.
 #pragma once
 
-#include <functional>
 #include <string>
-#include <vector>
 
-#include "reader/books.h"
 #include "tools/make_data/texts.h"
 
 namespace lectern::make_data {
@@ -33,15 +30,5 @@ void WriteChapterCounts(const Version& version, const std::string& data_folder);
 
 // Replaces a file as a whole.
 void WriteFile(const std::string& path, const std::string& bytes);
-
-// The words of a concordance: of all words of three letters or more that are in 2 to 300 verses, the `most`
-// that are spread over the most books, in alphabetical order and lower case.
-std::vector<std::string> ConcordanceWords(const Version& version, std::size_t most);
-
-// Builds the concordance of one version in a folder that holds the texts: `conc.txt` and the concordance's
-// file. Requires: the version's books are in the folder.
-void BuildConcordance(const std::string& data_folder, const reader::Version& version,
-                      const std::vector<std::string>& words,
-                      const std::function<void(std::size_t done, std::size_t all)>& progress);
 
 }  // namespace lectern::make_data
