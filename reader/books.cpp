@@ -25,6 +25,10 @@ const Version& VersionOptions::Current() const {
   return kVersions.back();
 }
 
+const Version& VersionOptions::Other() const {
+  return &Current() == kVersions.data() ? kVersions[1] : kVersions[0];
+}
+
 namespace {
 
 constexpr int kRead = 1;  // slots

@@ -38,6 +38,7 @@ class VersionOptions {
 
   // The first version whose option is set, or else the last one, whose option is never read.
   const Version& Current() const;
+  const Version& Other() const;  // the first one that is not current
 
   std::deque<forms::OptionButton> options;  // in the order of kVersions; the first is set at the start
 

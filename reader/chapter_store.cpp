@@ -39,14 +39,21 @@ std::vector<int> VersesOfChapters(const files::FileSystem& files, std::string_vi
 }
 
 void ChapterStore::Load() {
+  const Loaded loaded = LoadInto(reader_.rtxt, reader_.BookFile(reader_.Stem()));
+  if (loaded == Loaded::kNothing) return;
+  shown_ = {reader_.Book(), loaded == Loaded::kChapter ? reader_.Chapter() : "",
+            std::string(reader_.CurrentVersion().label)};
+}
+
+ChapterStore::Loaded ChapterStore::LoadInto(forms::RichTextBox& pane, std::string_view book) {
   files::FileSlots& slots = reader_.form.Slots();
   const base::Ignoring trap{[&] { slots.Close(kBook); }};
-  if (!trap([&] { slots.OpenForReading(kBook, reader_.BookFile(reader_.Stem())); })) return;
+  if (!trap([&] { slots.OpenForReading(kBook, book); })) return Loaded::kNothing;
   std::string text = TakeScratchFile();
   const bool found = CopyChapter(trap, text);
   slots.Close(kBook);
-  reader_.rtxt.LoadBytes(text);
-  shown_ = {reader_.Book(), found ? reader_.Chapter() : "", std::string(reader_.CurrentVersion().label)};
+  pane.LoadBytes(text);
+  return found ? Loaded::kChapter : Loaded::kLastLine;
 }
 
 // Returns the lines of a scratch file, which come first, and deletes it. The data folder may be somebody

@@ -12,6 +12,7 @@
 
 #include "base/errors.h"
 #include "base/files/file_system.h"
+#include "forms/rich_text_box.h"
 
 namespace lectern::reader {
 
@@ -33,6 +34,10 @@ class ChapterStore {
 
   // Loads the chapter at the reader's position. If the book cannot be opened, the pane keeps its text.
   void Load();
+
+  // Loads the same chapter from a book's file into a pane, which keeps its text if that cannot be opened.
+  enum class Loaded { kNothing, kLastLine, kChapter };
+  Loaded LoadInto(forms::RichTextBox& pane, std::string_view book);
 
   const ShownChapter& Shown() const { return shown_; }
 

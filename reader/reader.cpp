@@ -53,6 +53,21 @@ FoundReference Reader::Find(std::string_view typed) const {
   return {at, Missing::kNothing};
 }
 
+// The books of the other version bear the name that is shown, without a prefix. After a search that name ends
+// with a blank, and a data folder may have the file with the prefix alone.
+void Reader::LoadOtherVersion(forms::RichTextBox& pane) {
+  const std::string folder = Dir3.Path;
+  const std::string other = DataFile(OtherVersion().folder);
+  Dir3.Path = other;
+  bool loaded = false;
+  for (const std::string& name : {Book(), Stem(), std::string(OtherVersion().prefix) + Stem()}) {
+    loaded = loaded ||
+             chapter_store_.LoadInto(pane, other + "\\" + name + ".txt") != ChapterStore::Loaded::kNothing;
+  }
+  if (!loaded) pane.Text = "";
+  Dir3.Path = folder;
+}
+
 // The book stays; the chapter goes back to 1.
 void Reader::ChangeVersion(const Version& version) {
   LBLVR.Caption = std::string(version.name);

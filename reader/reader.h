@@ -93,6 +93,11 @@ class Reader {
   void ShowGenesis();
 
   const Version& CurrentVersion() const { return versions_.Current(); }
+  const Version& OtherVersion() const { return versions_.Other(); }
+
+  // Loads the same chapter of the other version into a pane, which is empty if there is no such book. Raises
+  // 76 if the version's folder is missing, and then changes nothing.
+  void LoadOtherVersion(forms::RichTextBox& pane);
 
   // Reads a typed reference and checks whether the current version has the place. In a book with one chapter,
   // a single number is the verse.

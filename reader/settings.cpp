@@ -197,8 +197,4 @@ void DesktopColour::ApplyDesktopColour() {
   for (forms::PlacedControl* panel : coloured_) panel->BackColor = text::ToLong(ChosenColour);
 }
 
-SecondPane::SecondPane(forms::PictureBox& Picture4) : Picture4_(Picture4) {
-  Command34.Click = [&Picture4] { Picture4.Visible = false; };
-}
-
 }  // namespace lectern::reader

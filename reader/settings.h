@@ -16,6 +16,7 @@
 #include "forms/rich_text_box.h"
 #include "forms/text_controls.h"
 #include "reader/reader.h"
+#include "reader/second_pane.h"
 #include "reader/tool_buttons.h"
 
 namespace lectern::reader {
@@ -39,19 +40,6 @@ class DesktopColour {
   forms::PictureBox Picture24{Picture23_, "Picture24", {.name = "Colours"}};      // holds the swatches
   std::deque<forms::PictureBox> swatches_;
   std::string ChosenColour;  // a colour number as text, signed
-};
-
-// The panel with a second pane of text, to which the font settings apply too. Nothing opens it.
-class SecondPane {
-  forms::PictureBox& Picture4_;
-
- public:
-  explicit SecondPane(forms::PictureBox& Picture4);
-
-  forms::RichTextBox RTXT2{Picture4_, "RTXT2", {.name = "Text of the other version", .read_only = true}};
-  forms::Label Label36{Picture4_, "Label36"};  // name of the version
-  forms::CommandButton Command34{
-      Picture4_, "Command34", {.caption = "Close", .is_cancel = true}};  // closes it
 };
 
 class Settings {

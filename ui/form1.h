@@ -83,7 +83,7 @@ class Form1 : public forms::Window {
   gallery::BookConverter book_converter_{panels_.Frame5};
   reader::StartUp start_up_{
       reader_, settings_, {pictures_.Dirpics, bookmarks_.File1, concordance_builder_.Text2}};
-  ReadingDesk desk_{reader_, panels_};
+  ReadingDesk desk_{reader_, panels_, second_pane_};
   reader::Exits exits_{reader_, settings_, tools_, menus_.xx, menus_.oo12};
 };
 

@@ -64,6 +64,20 @@ std::string Explain(const reader::FoundReference& found, std::string_view typed)
   return reader::ReferenceText(found.reference);
 }
 
+// The word itself, then forms that may be the plain one: "shepherds'", "shepherd's" and "shepherds" lead to
+// "shepherd".
+std::vector<std::string> PlainForms(const std::string& word) {
+  std::vector<std::string> forms{word};
+  for (const std::string_view ending :
+       {"'s", "’s", "'", "’", "s", "es", "d", "ed", "th", "eth", "st", "est", "ing"}) {
+    if (word.size() > ending.size() + 1 && word.ends_with(ending)) {
+      forms.push_back(word.substr(0, word.size() - ending.size()));
+    }
+  }
+  if (word.ends_with("ies")) forms.push_back(word.substr(0, word.size() - 3) + "y");
+  return forms;
+}
+
 }  // namespace
 
 ReadingDesk::Answer ReadingDesk::Read(std::string_view typed) const {
@@ -105,6 +119,8 @@ void ReadingDesk::OpenChapterOfBook(int chapter) {
   ScrollToChapter(chapter);
 }
 
+void ReadingDesk::TurnChapter(int step) { ScrollToChapter(reader_.scr.Value + step); }
+
 void ReadingDesk::ScrollToChapter(int chapter) {
   if (reader_.scr.InRange(chapter)) reader_.scr.PersonScrolls(chapter);
 }
@@ -118,6 +134,72 @@ bool ReadingDesk::KeepPlace(const std::function<void()>& escape) {
       (search_was_open && !panels_.frms.Visible) || (concordance_was_open && !panels_.frmc.Visible);
   if (has_left) OpenChapterOfBook(chapter);
   return has_left;
+}
+
+void ReadingDesk::Open(const forms::Control& panel, std::string_view button, std::string_view menu) {
+  if (panel.Visible) return;
+  forms::Control& tool = Control(button);
+  (tool.RefusesPerson() == forms::Refusal::kNone ? tool : Control(menu)).PersonClicks();
+}
+
+void ReadingDesk::SearchFor(const std::string& words) {
+  Open(panels_.frms, "Command16", "cc3");
+  // The button waits for a change of the term.
+  for (const std::string& text : {std::string(), words}) Control("txts").PersonTypes(text);
+  Control("txts2").PersonTypes("");
+  Control("op1").PersonClicks();
+  forms::Control& search = Control("Command22");
+  if (search.RefusesPerson() == forms::Refusal::kNone) search.PersonClicks();
+}
+
+void ReadingDesk::LookUp(const std::string& words) {
+  Open(panels_.frmd, "Command17", "cc2");
+  if (panels_.frmd.Visible) PickWord("lstd", words, "dictionary");
+}
+
+void ReadingDesk::OpenConcordanceAt(const std::string& words) {
+  Open(panels_.frmc, "Command8", "cc1");
+  PickWord("lstc", words, "concordance");
+}
+
+void ReadingDesk::PickWord(std::string_view list, const std::string& words, const std::string& where) {
+  auto& entries = dynamic_cast<forms::ItemList&>(Control(list));
+  for (const std::string& form : PlainForms(text::Lower(words))) {
+    for (int i = 0; i < entries.ListCount(); ++i) {
+      if (text::EqualFolded(entries.List(i), form)) return entries.PersonPicks(i);
+    }
+  }
+  reader_.form.Platform().Message("The " + where + " has no entry for " + Quoted(words) + ".");
+}
+
+void ReadingDesk::ShowBothVersions() {
+  try {
+    second_place_ = OpenPlace();
+    second_pane_.Open(reader_);
+  } catch (const base::RunTimeError&) {
+    const reader::Version& other = reader_.OtherVersion();
+    ShowOneVersion();
+    reader_.form.Platform().Message("The " + std::string(other.name) + " cannot be shown: the folder " +
+                                    std::string(other.folder) + " is missing.");
+  }
+}
+
+void ReadingDesk::ShowOneVersion() {
+  if (ShowsBothVersions()) second_pane_.Command34.PersonClicks();
+}
+
+// It stands in brackets behind the number of a chapter.
+std::string ReadingDesk::TextOf(const reader::Version& version) const {
+  files::Contents book;
+  const base::Ignoring ignore;
+  ignore([&] {
+    const std::string stem = std::string(version.prefix) + std::string(reader::kCanon.front());
+    reader_.form.Files().Read(reader_.DataFile(version.folder) + "\\" + stem + ".txt", book);
+  });
+  const std::string_view line = book.Bytes().substr(0, book.Bytes().find('\r'));
+  const std::size_t open = line.find('(');
+  const std::size_t close = line.find(')', open);
+  return close == std::string_view::npos ? "" : std::string(line.substr(open + 1, close - open - 1));
 }
 
 }  // namespace lectern::ui

@@ -8,10 +8,14 @@
 #include <QTextEdit>
 #include <QWheelEvent>
 #include <random>
+#include <stdexcept>
 
 #include "base/text/characters.h"
 #include "tests/desktop/stage.h"
+#include "tests/kit/temporary_folder.h"
+#include "ui/desktop/app/desktop.h"
 #include "ui/desktop/text/text_positions.h"
+#include "ui/desktop/text/verse_page.h"
 
 namespace lectern::desktop {
 namespace {
@@ -278,6 +282,103 @@ TEST_F(Sheet, MovesItsColoursWithWhatIsTypedAheadOfThem) {
   EXPECT_EQ(two.layout()->formats()[0].start, 0);
   EXPECT_EQ(two.layout()->formats()[0].length, 3);
   EXPECT_TRUE(Edit()->document()->firstBlock().layout()->formats().isEmpty());
+}
+
+// The whole program on texts in which each version has verses of its own length. The second one lacks
+// verse 20.
+class Desk : public testing::Test {
+ protected:
+  Desk() {
+    for (const std::string version : {"KJV", "NEW"}) {
+      std::string book;
+      for (int chapter = 1; chapter <= 3; ++chapter) {
+        book += "Chapter " + std::to_string(chapter) + "\r\n";
+        for (int verse = 1; verse <= 60; ++verse) {
+          if (version == "NEW" && verse == 20) continue;
+          book += std::to_string(verse) + "   " + version + " " + std::to_string(chapter);
+          for (int word = 0; word < (version == "NEW" ? 40 : 3 * verse); ++word) book += " word";
+          book += "\r\n";
+        }
+      }
+      for (const char* name : {"Genesis", "John"}) folder.Write(version + "/" + name + ".txt", book);
+    }
+    folder.Write("bookschap.txt", "\"Genesis\",3\r\n\"John\",3\r\n");
+    EXPECT_TRUE(desktop.Start());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(Find("Form1")));
+  }
+
+  static QWidget* Find(const char* name) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->objectName() == name) return window;
+      if (auto* const widget = window->findChild<QWidget*>(name)) return widget;
+    }
+    throw std::runtime_error(name);
+  }
+  static void Press(Qt::Key key, Qt::KeyboardModifiers held = {}) {
+    QTest::keyClick(QApplication::focusWidget(), key, held);
+  }
+  static void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+
+  forms::Window& Form() { return *desktop.Program().windows.All().front(); }
+  VersePage& Shown(const char* page) { return dynamic_cast<VersePage&>(*Form().Find(page)->AttachedView()); }
+  std::string Place() {
+    return dynamic_cast<forms::Label&>(*Form().Find("lblbk")).Caption() + " " +
+           dynamic_cast<forms::Label&>(*Form().Find("lblc")).Caption();
+  }
+  void GoTo(const char* place) {
+    Find("lst")->setFocus();
+    for (const char* letter = place; *letter != '\0'; ++letter) Type(std::string(1, *letter).c_str());
+    Press(Qt::Key_Return);
+  }
+
+  TemporaryFolder folder;
+  Desktop desktop{folder.Path()};
+};
+
+TEST_F(Desk, GoesToWhatIsTypedAndStaysThereAfterASearch) {
+  GoTo("jn 2:30");
+  EXPECT_EQ(Place(), "John 2");
+  VersePage& page = Shown("rtxt");
+  EXPECT_EQ(page.MarkedVerse(), 30);
+  const double at_top = page.VerseAtTop();
+  EXPECT_TRUE(at_top > 25 && at_top < 30) << at_top;
+  GoTo("john 2:99");
+  EXPECT_TRUE(Find("go_to")->isVisible());
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(Find("go_to")->isVisible());
+
+  QTest::mouseClick(Find("Command16"), Qt::LeftButton);
+  EXPECT_TRUE(Find("frms")->isVisible());
+  Press(Qt::Key_Escape);
+  EXPECT_FALSE(Find("frms")->isVisible());
+  EXPECT_EQ(Place(), "John 2");
+  EXPECT_NEAR(page.VerseAtTop(), at_top, 0.1);
+  QTest::mouseClick(Find("Command16"), Qt::LeftButton);
+  QTest::mouseClick(Find("Command20"), Qt::LeftButton);
+  EXPECT_EQ(Place(), "John 1");  // as the button does
+}
+
+TEST_F(Desk, ShowsBothVersionsInStep) {
+  Press(Qt::Key_B, Qt::ControlModifier);
+  VersePage& first = Shown("rtxt");
+  VersePage& second = Shown("RTXT2");
+  const auto text = [this] { return dynamic_cast<forms::RichTextBox&>(*Form().Find("RTXT2")).Text(); };
+  EXPECT_EQ(text().substr(0, 12), "1   NEW 1 wo");
+  for (const double verse : {1.5, 12.0, 19.7, 33.25, 4.0}) {
+    first.ScrollToVerse(verse);
+    EXPECT_NEAR(second.VerseAtTop(), verse, 0.1);
+    second.ScrollToVerse(verse + 2);
+    EXPECT_NEAR(first.VerseAtTop(), verse + 2, 0.1);
+  }
+  first.ScrollToVerse(20.5);
+  EXPECT_NEAR(second.VerseAtTop(), 21, 0.05);
+
+  GoTo("john 3:40");
+  EXPECT_EQ(text().substr(0, 12), "1   NEW 3 wo");
+  EXPECT_EQ(second.MarkedVerse(), 40);
+  EXPECT_NEAR(second.VerseAtTop(), first.VerseAtTop(), 0.1);
+  Press(Qt::Key_B, Qt::ControlModifier);
+  EXPECT_FALSE(Find("RTXT2")->isVisible());
 }
 
 }  // namespace

@@ -28,7 +28,8 @@ TEST(Reference, LeadsToItsPlaceOrSaysWhatDoesNotExist) {
   reader::Reader reader(test.form, panels.frms, panels.Picture1, panels.Frame1);
   reader.Dir3.Path = reader.DataFile("KJV");
   reader.ShowGenesis();
-  const ui::ReadingDesk desk(reader, panels);
+  reader::SecondPane second_pane(panels.Picture4);
+  const ui::ReadingDesk desk(reader, panels, second_pane);
   const struct {
     const char* typed;
     const char* answer;

@@ -166,11 +166,12 @@ void Desktop::ComeToFront() {
 bool Desktop::Start() {
   events_.Run([this] { program_.Start(); });
   if (program_.HasEnded()) return false;
-  // The main window is the first that the program makes, and stays until the program ends.
-  forms::Window& main_window = *program_.windows.All().front();
-  desk_ = std::make_unique<DeskView>(dynamic_cast<ui::Form1&>(main_window), *windows_.front());
-  if (!bench_controls_.empty())
-    bench_ = std::make_unique<BenchView>(main_window, *windows_.front(), bench_controls_);
+  // The main window stays until the program ends.
+  auto& main_window = dynamic_cast<ui::Form1&>(*program_.Touch("Form1"));
+  WindowView& view = **std::find_if(windows_.begin(), windows_.end(),
+                                    [&](const auto& shown) { return shown->IsOf(main_window); });
+  desk_ = std::make_unique<DeskView>(main_window, view);
+  if (!bench_controls_.empty()) bench_ = std::make_unique<BenchView>(main_window, view, bench_controls_);
   return true;
 }
 
@@ -187,6 +188,7 @@ void Desktop::Settle() {
   // Settling a window may deliver an event that creates another window.
   for (std::size_t i = 0; i < windows_.size(); ++i) windows_[i]->Settle();
   paint_start_.Settle();
+  if (desk_) desk_->Settle();
   if (bench_) bench_->Settle();
   timers_.Update();
   drafts_.Look();

@@ -25,6 +25,13 @@ QString Decoded(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+// A font of symbols claims to have Latin letters too, but those of no other script.
+bool ShowsLetters(const QString& family) {
+  const QList<QFontDatabase::WritingSystem> scripts = QFontDatabase::writingSystems(family);
+  const bool is_of_symbols = scripts.contains(QFontDatabase::Symbol) && scripts.size() <= 2;
+  return !is_of_symbols && scripts.contains(QFontDatabase::Latin) && !QFontDatabase::isPrivateFamily(family);
+}
+
 // A box that belongs to a window.
 class MessageDialog : public QMessageBox {
  public:
@@ -87,7 +94,11 @@ double DesktopPlatform::Random() {
 
 std::vector<std::string> DesktopPlatform::FontNames() {
   std::vector<std::string> names;
-  for (const QString& family : QFontDatabase::families()) names.push_back(family.toStdString());
+  for (const QString& family : QFontDatabase::families()) {
+    const std::string name = family.section(" [", 0, 0).toStdString();
+    const bool is_known = !names.empty() && names.back() == name;
+    if (!is_known && ShowsLetters(family)) names.push_back(name);
+  }
   return names;
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/control.h"
 #include "ui/desktop/views/keys.h"
 
 namespace lectern::desktop {
@@ -32,7 +33,7 @@ ChapterChooser::ChapterChooser(QWidget* parent, int chapters, int open, std::fun
     auto* const number = new QPushButton(QString::number(chapter), this);
     number->setFixedSize(kNumberSize);
     number->setFlat(chapter != open);
-    number->setAutoDefault(true);
+    number->setAutoDefault(false);
     number->setAccessibleName("Chapter " + number->text());
     number->installEventFilter(this);
     if (chapter == open) number->setFocus();
@@ -57,7 +58,9 @@ void ChapterChooser::OpenBelow(const QWidget& widget) {
 // The arrows move by columns and rows.
 bool ChapterChooser::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
-  const QPoint way = DirectionOf(static_cast<const QKeyEvent&>(*event).key());
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  if (KeyCode(key) == forms::kEnterKey) return qobject_cast<QPushButton*>(watched)->click(), true;
+  const QPoint way = DirectionOf(key.key());
   if (way.isNull()) return false;
   const auto wanted = numbers_.indexOf(watched) + way.x() + kColumns * way.y();
   if (wanted >= 0 && wanted < numbers_.size()) numbers_[wanted]->setFocus(Qt::OtherFocusReason);

@@ -18,14 +18,27 @@ DeskView::DeskView(ui::Form1& form, WindowView& window)
   for (const char* control : {"rtxt", "lst", "lblc"}) Widget(control)->installEventFilter(this);
   Widget("lblc")->setCursor(Qt::PointingHandCursor);
   Widget("lblc")->setToolTip("Choose a chapter");
+  ExplainVersions();
   AddMenu();
   window_.escaping = [this](const std::function<void()>& press) {
-    Page().KeepInSight();
+    Page("rtxt").KeepInSight();
     form_.Desk().KeepPlace(press);
   };
 }
 
 DeskView::~DeskView() { delete go_to_; }
+
+void DeskView::Settle() {
+  ui::ReadingDesk& desk = form_.Desk();
+  both_versions_->setChecked(desk.ShowsBothVersions());
+  if (desk.SecondPaneIsBehind()) {
+    Do([&desk] { desk.ShowBothVersions(); });
+    if (in_step_) in_step_->Align();
+    return;
+  }
+  if (desk.ShowsBothVersions() && !in_step_) in_step_.emplace(Page("rtxt"), Page("RTXT2"));
+  if (in_step_) in_step_->TurnOn(desk.ShowsBothVersions());
+}
 
 QWidget* DeskView::Widget(const char* control) const {
   auto* const widget = window_.Frame()->findChild<QWidget*>(control);
@@ -33,18 +46,24 @@ QWidget* DeskView::Widget(const char* control) const {
   return widget;
 }
 
-VersePage& DeskView::Page() const { return dynamic_cast<VersePage&>(*form_.Find("rtxt")->AttachedView()); }
+VersePage& DeskView::Page(const char* control) const {
+  return dynamic_cast<VersePage&>(*form_.Find(control)->AttachedView());
+}
 
 void DeskView::Do(const std::function<void()>& act) { window_.GetEvents().Deliver(form_, act); }
 
 bool DeskView::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress && watched == Widget("lblc")) {
-    if (static_cast<const QMouseEvent&>(*event).button() == Qt::LeftButton) ShowChapters();
+  if (watched == Widget("lblc")) {
+    const bool is_press = event->type() == QEvent::MouseButtonPress;
+    if (is_press && static_cast<const QMouseEvent&>(*event).button() == Qt::LeftButton) ShowChapters();
+    return false;
   }
-  if (event->type() != QEvent::KeyPress || watched == Widget("lblc")) return false;
+  if (event->type() != QEvent::KeyPress) return false;
   const auto& key = static_cast<const QKeyEvent&>(*event);
   const bool is_typed = (key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
-  if (!is_typed || key.text().isEmpty() || !key.text()[0].isLetterOrNumber()) return false;
+  if (!is_typed || key.text().isEmpty()) return false;
+  if (key.text() == "?") return ShowKeys(), true;
+  if (!key.text()[0].isLetterOrNumber()) return false;
   OpenGoToLine(key.text());
   return true;
 }
@@ -52,14 +71,53 @@ bool DeskView::eventFilter(QObject* watched, QEvent* event) {
 // Its entries stand between those of the program.
 void DeskView::AddMenu() {
   auto* const menu = new QMenu("&View", window_.Frame());
-  const auto add = [this, menu](const QString& text, const QKeySequence& key, auto act) {
-    connect(menu->addAction(text, key), &QAction::triggered, this, act);
+  const auto add = [this, menu](const QString& text, const QList<QKeySequence>& keys, auto act) {
+    QAction* const action = menu->addAction(text);
+    action->setShortcuts(keys);
+    connect(action, &QAction::triggered, this, act);
+    return action;
   };
-  add("&Go to…", Qt::CTRL | Qt::Key_L, [this] { OpenGoToLine(""); });
-  add("Choose a &Chapter…", Qt::CTRL | Qt::Key_G, [this] { ShowChapters(); });
-  QMenuBar* const bar = window_.MenuBar();
-  for (QAction* action : bar->actions()) {
-    if (action->objectName() == "webb") bar->insertMenu(action, menu);
+  const auto turn_chapter = [this](int step) {
+    return [this, step] { Do([this, step] { form_.Desk().TurnChapter(step); }); };
+  };
+  const auto enlarge = [this](int steps) { return [this, steps] { window_.Enlarge(steps); }; };
+  const auto change_panel = [this](int step) { return [this, step] { window_.ChangeBetweenPanels(step); }; };
+  add("&Go to…", {Qt::CTRL | Qt::Key_L}, [this] { OpenGoToLine(""); });
+  add("Choose a &Chapter…", {Qt::CTRL | Qt::Key_G}, [this] { ShowChapters(); });
+  add("&Previous Chapter", {Qt::CTRL | Qt::Key_PageUp}, turn_chapter(-1));
+  add("&Next Chapter", {Qt::CTRL | Qt::Key_PageDown}, turn_chapter(1));
+  menu->addSeparator();
+  both_versions_ = add("&Both Versions", {Qt::CTRL | Qt::Key_B}, [this] {
+    Do([this] {
+      ui::ReadingDesk& desk = form_.Desk();
+      desk.ShowsBothVersions() ? desk.ShowOneVersion() : desk.ShowBothVersions();
+    });
+  });
+  both_versions_->setCheckable(true);
+  menu->addSeparator();
+  add("&Larger Letters", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, enlarge(1));
+  add("&Smaller Letters", {Qt::CTRL | Qt::Key_Minus}, enlarge(-1));
+  add("Letters as S&et", {Qt::CTRL | Qt::Key_0}, enlarge(0));
+  menu->addSeparator();
+  add("Ne&xt Panel", {Qt::Key_F6}, change_panel(1));
+  add("P&revious Panel", {Qt::SHIFT | Qt::Key_F6}, change_panel(-1));
+  menu->addSeparator();
+  add("&Keys", {Qt::CTRL | Qt::Key_Slash}, [this] { ShowKeys(); });
+
+  for (QAction* action : window_.MenuBar()->actions()) {
+    if (action->objectName() == "webb") window_.MenuBar()->insertMenu(action, menu);
+  }
+  if (auto* const help = window_.Frame()->findChild<QAction*>("xh2")) help->setShortcut(Qt::Key_F1);
+}
+
+void DeskView::ExplainVersions() {
+  for (const reader::Version& version : reader::kVersions) {
+    QString text = QString::fromUtf8(version.name.data(), static_cast<qsizetype>(version.name.size()));
+    const std::string edition = form_.Desk().TextOf(version);
+    if (!edition.empty()) text += ". Its text: " + QString::fromStdString(edition);
+    for (const char* control : {version.option, version.option_label}) {
+      Widget(control)->setToolTip(text + ".\nA change of the version opens chapter 1.");
+    }
   }
 }
 
@@ -76,11 +134,18 @@ void DeskView::ShowChapters() {
   chooser->OpenBelow(*Widget("lblc"));
 }
 
+void DeskView::ShowKeys() {
+  if (keys_ == nullptr) keys_ = new KeySheet(window_.Frame());
+  keys_->show();
+  keys_->raise();
+  keys_->activateWindow();
+}
+
 void DeskView::GoTo(const reader::Reference& place) {
   Widget("rtxt")->setFocus(Qt::OtherFocusReason);
   Do([this, place] {
     form_.Desk().GoTo(place);
-    if (place.verse > 0) Page().ShowVerse(place.verse);
+    if (place.verse > 0) Page("rtxt").ShowVerse(place.verse);
   });
 }
 

@@ -108,13 +108,17 @@ void WindowFocus::TakeToPress(ControlView& view) {
   presses_ = false;
 }
 
-void WindowFocus::ChangeBetweenPanels() {
-  const ControlView* const front = FrontPanel();
-  if (front != nullptr && front->Widget()->isAncestorOf(frame_.focusWidget())) {
-    TakeToMainControl();
-  } else {
-    TakeToPanel(FrontPanel());
-  }
+void WindowFocus::ChangeBetweenPanels(int step) {
+  const std::vector<ControlView*> panels = OpenPanels();
+  const auto has_focus = [this](const ControlView* panel) {
+    return panel->Widget()->isAncestorOf(frame_.focusWidget());
+  };
+  // Stop 0 is the main control.
+  const auto found = std::find_if(panels.begin(), panels.end(), has_focus);
+  const auto stops = static_cast<int>(panels.size()) + 1;
+  const int here = found == panels.end() ? 0 : static_cast<int>(found - panels.begin()) + 1;
+  const int next = (here + step + stops) % stops;
+  next == 0 ? TakeToMainControl() : TakeToPanel(panels[static_cast<std::size_t>(next) - 1]);
 }
 
 ControlView* WindowFocus::ViewWithFocus() const {
@@ -124,13 +128,20 @@ ControlView* WindowFocus::ViewWithFocus() const {
   return nullptr;
 }
 
-ControlView* WindowFocus::FrontPanel() const {
-  ControlView* front = nullptr;
+std::vector<ControlView*> WindowFocus::OpenPanels() const {
+  std::vector<ControlView*> panels;
   for (const auto& view : views_.All()) {
-    if (!IsOpenedPanel(*view)) continue;
-    if (front == nullptr || view->Control().ShownAt() > front->Control().ShownAt()) front = view.get();
+    if (IsOpenedPanel(*view)) panels.push_back(view.get());
   }
-  return front;
+  std::sort(panels.begin(), panels.end(), [](const ControlView* a, const ControlView* b) {
+    return a->Control().ShownAt() > b->Control().ShownAt();
+  });
+  return panels;
+}
+
+ControlView* WindowFocus::FrontPanel() const {
+  const std::vector<ControlView*> panels = OpenPanels();
+  return panels.empty() ? nullptr : panels.front();
 }
 
 void WindowFocus::TakeBackTo(const forms::PlacedControl* control) {

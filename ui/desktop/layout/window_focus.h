@@ -33,8 +33,9 @@ class WindowFocus {
   // Moves the focus to a button that is about to be pressed by its access key.
   void TakeToPress(ControlView& view);
 
-  // Moves the focus from the panel that was opened last to the window's main control, and back.
-  void ChangeBetweenPanels();
+  // Moves the focus from the window's main control to the panel that was opened last, on to the one before,
+  // and so on back to the main control; with a step of -1 the other way round.
+  void ChangeBetweenPanels(int step);
 
  private:
   // A panel that was opened over the window, and the control that had the focus before.
@@ -44,7 +45,8 @@ class WindowFocus {
   };
 
   ControlView* ViewWithFocus() const;
-  ControlView* FrontPanel() const;  // the open panel that was opened last; nullptr for none
+  std::vector<ControlView*> OpenPanels() const;  // the last one first
+  ControlView* FrontPanel() const;               // the open panel that was opened last; nullptr for none
   void FollowPanels(const forms::PlacedControl* before);
   bool IsBeingPressed(const forms::PlacedControl& control) const;
   void TakeBackTo(const forms::PlacedControl* control);

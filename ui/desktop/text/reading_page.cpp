@@ -11,8 +11,10 @@
 #include <QTextFrame>
 #include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "reader/word_blanks.h"
 #include "ui/desktop/app/theme.h"
@@ -133,6 +135,37 @@ class ReadingPage : public RichTextView, public VersePage {
     Changed();
   }
 
+  void MarkVerse(int verse) override {
+    if (document_ == nullptr) return;
+    marked_verse_ = verse;
+    page_->Mark(BlockOf(verse));
+  }
+
+  int MarkedVerse() const override { return marked_verse_; }
+
+  double VerseAtTop() const override {
+    const std::vector<Stretch> stretches = Stretches();
+    if (stretches.empty() || stretches.front().top >= 0) return 0;
+    for (const Stretch& stretch : stretches) {
+      if (stretch.bottom <= 0) continue;
+      return stretch.verse - std::min(0.0, static_cast<double>(stretch.top) / (stretch.bottom - stretch.top));
+    }
+    return 0;
+  }
+
+  void ScrollToVerse(double verse) override {
+    const int whole = static_cast<int>(verse);
+    const std::vector<Stretch> stretches = Stretches();
+    QScrollBar* const bar = page_->verticalScrollBar();
+    if (verse <= 0 || stretches.empty()) return bar->setValue(0);
+    for (const Stretch& stretch : stretches) {
+      if (stretch.verse < whole) continue;
+      const double above = stretch.verse == whole ? (verse - whole) * (stretch.bottom - stretch.top) : 0;
+      return bar->setValue(bar->value() + stretch.top + static_cast<int>(std::lround(above)));
+    }
+    bar->setValue(bar->maximum());
+  }
+
   void KeepInSight() override {
     if (document_ == nullptr) return;
     wanted_place_ = page_->TopPlace();
@@ -142,6 +175,7 @@ class ReadingPage : public RichTextView, public VersePage {
  private:
   QWidget* Make(QWidget* parent) override {
     page_ = new PageWidget(parent);
+    connect(page_->verticalScrollBar(), &QScrollBar::valueChanged, [this] { on_scroll(); });
     page_->wants_larger = [this](int steps) { GetWindow().Enlarge(steps); };
     if (Control().Quote) {
       page_->can_quote = [this] { return CanQuote(); };
@@ -207,6 +241,7 @@ class ReadingPage : public RichTextView, public VersePage {
 
   // Making a new document is faster than filling the one that is shown.
   void Load() {
+    const int marked = text_ == Control().Text ? marked_verse_ : 0;
     text_ = Control().Text;
     font_ = page_->font();
     positions_.Read(text_, reader::WordBlanks(text_));
@@ -221,6 +256,7 @@ class ReadingPage : public RichTextView, public VersePage {
     page_->setDocument(document_);
     SetSpaceAbove(std::exchange(space_above_, 0));
     page_->setCursorWidth(0);
+    MarkVerse(marked);
   }
 
   void LayStyles(QTextDocument& document) {
@@ -257,14 +293,37 @@ class ReadingPage : public RichTextView, public VersePage {
   }
 
   void BringVerseIntoSight(int verse) {
+    const QTextBlock block = BlockOf(verse);
+    if (!block.isValid()) return;
+    MarkVerse(verse);
+    const QRect place = page_->PlaceOf(block);
+    const QRect open = OpenPart(*page_);
+    if (place.top() < open.top() || place.bottom() > open.bottom()) ScrollInto(open, place);
+  }
+
+  QTextBlock BlockOf(int verse) const {
+    QTextBlock block = document_->begin();
+    while (block.isValid() && (verse == 0 || VerseOf(block.text()) != verse)) block = block.next();
+    return block;
+  }
+
+  // A verse and what follows it without a number; 0 for what is ahead of the first one. In pixels of the
+  // viewport.
+  struct Stretch {
+    int verse;
+    int top;
+    int bottom;
+  };
+  std::vector<Stretch> Stretches() const {
+    std::vector<Stretch> stretches;
+    if (document_ == nullptr) return stretches;
     for (QTextBlock block = document_->begin(); block.isValid(); block = block.next()) {
-      if (VerseOf(block.text()) != verse) continue;
-      page_->Mark(block);
       const QRect place = page_->PlaceOf(block);
-      const QRect open = OpenPart(*page_);
-      if (place.top() < open.top() || place.bottom() > open.bottom()) ScrollInto(open, place);
-      return;
+      const int verse = VerseOf(block.text());
+      if (stretches.empty() || verse > stretches.back().verse) stretches.push_back({verse, place.top(), 0});
+      stretches.back().bottom = std::max(place.bottom(), place.top()) + 1;
     }
+    return stretches;
   }
 
   bool CanQuote() {
@@ -284,7 +343,8 @@ class ReadingPage : public RichTextView, public VersePage {
   PageWidget::Place place_;                        // before a change of the font
   std::optional<PageWidget::Place> wanted_place_;  // at the next update
   int wanted_verse_ = 0;                           // the same; 0 for none
-  int space_above_ = 0;                            // pixels
+  int marked_verse_ = 0;
+  int space_above_ = 0;  // pixels
 };
 
 }  // namespace

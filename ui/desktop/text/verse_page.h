@@ -2,6 +2,8 @@
 // start of its line.
 #pragma once
 
+#include <functional>
+
 namespace lectern::desktop {
 
 class VersePage {
@@ -14,6 +16,21 @@ class VersePage {
 
   // At the page's next update, scrolls back to what is at the top of the page now.
   virtual void KeepInSight() = 0;
+
+  // Marks a verse at once without scrolling to it; 0 removes the mark.
+  virtual void MarkVerse(int verse) = 0;
+  virtual int MarkedVerse() const = 0;
+
+  // The verse at the top of the page, and as a fraction how much of it is above the top: 3.5 for half of
+  // verse 3. What follows a verse without a number of its own belongs to it. 0 if the page shows its
+  // beginning.
+  virtual double VerseAtTop() const = 0;
+
+  // Scrolls a verse to the top, or the next one if there is none of that number; for 0 to the beginning.
+  virtual void ScrollToVerse(double verse) = 0;
+
+  // Called when the page has scrolled.
+  std::function<void()> on_scroll = [] {};
 };
 
 }  // namespace lectern::desktop

@@ -246,6 +246,8 @@ bool WindowView::HandleKey(const QKeyEvent& key) {
          children_->Any([&key](ControlView& view) { return view.IsSeen() && view.HandleWindowKey(key); });
 }
 
+void WindowView::ChangeBetweenPanels(int step) { focus_->ChangeBetweenPanels(step); }
+
 double WindowView::Enlargement() const {
   constexpr double kStep = 1.1;
   return std::pow(kStep, enlarged_);
@@ -271,7 +273,7 @@ bool WindowView::KeyPressed(const QKeyEvent& event) {
       GetEvents().Deliver(window_, [this] { escaping([this] { window_.PressCancelOfFrontPanel(); }); });
       return true;
     case Qt::Key_F6:
-      focus_->ChangeBetweenPanels();
+      ChangeBetweenPanels((event.modifiers() & Qt::ShiftModifier) != 0 ? -1 : 1);
       return true;
     case Qt::Key_F10:
       if (menu_bar_) menu_bar_->OpenFirst();

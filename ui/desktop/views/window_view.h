@@ -66,6 +66,9 @@ class WindowView : public QObject, public LayerView {
   // Handles a key that works wherever the focus is. Returns whether it did.
   bool HandleKey(const QKeyEvent& key);
 
+  // Moves the focus through the open panels and the window's main control, by a step of 1 or -1.
+  void ChangeBetweenPanels(int step);
+
   // The factor that enlarges the text of pages. It is kept as long as the window. 0 steps return to 1.
   double Enlargement() const;
   void Enlarge(int steps);
