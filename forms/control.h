@@ -8,6 +8,7 @@
 #include <cassert>
 #include <deque>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -108,7 +109,21 @@ enum class Anchor {
   kLeft,     // top, left and bottom
   kRight,    // top, right and bottom
   kFill,     // all four
+  kFoot,     // as kBottom, and takes half of its share of what its parent gains in height
+  kShare,    // keeps its share of its parent's width and height; its size keeps its shape
   kStorage,  // none: storage, which no person sees or reaches
+};
+
+// What the text of a control is to those around it, as a layer may show by its size and colour.
+enum class TextRole { kAsSet, kSecondary, kSecondaryRight, kTitle, kTitleRight };
+
+// A place, in twips within the parent at its size in the arrangement, that a layer may use instead of the one
+// in the control's properties. For what lies in a panel it is the place while the panel stands beside the
+// text, and the panel's own has the size of the panel then. An anchor to the right edge means that the panel
+// stands at the right of the text, otherwise it stands at the left.
+struct Arrangement {
+  double left, top, width, height;
+  Anchor anchor = Anchor::kTopLeft;
 };
 
 // A press or a movement of the mouse over a control, in the control's own scale.
@@ -221,6 +236,12 @@ class PlacedControl : public Control {
   void AnchorTo(Anchor anchor) { anchor_ = anchor; }
   Anchor GetAnchor() const { return anchor_; }
 
+  // How a layer may arrange it; nullptr for one that stays at its place.
+  const Arrangement* GetArrangement() const { return arrangement_ ? &*arrangement_ : nullptr; }
+  TextRole GetTextRole() const { return text_role_; }
+  void Arrange(const Arrangement& arrangement) { arrangement_ = arrangement; }
+  void ShowTextAs(TextRole role) { text_role_ = role; }
+
   // Whether it, with all that it contains, is out of the person's reach.
   bool IsStorage() const { return anchor_ == Anchor::kStorage; }
 
@@ -237,6 +258,8 @@ class PlacedControl : public Control {
 
  private:
   Anchor anchor_ = Anchor::kTopLeft;
+  std::optional<Arrangement> arrangement_;
+  TextRole text_role_ = TextRole::kAsSet;
 };
 
 // The font of a control that shows text. A size is refused (error 380) unless it is one that a font can

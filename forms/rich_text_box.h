@@ -28,6 +28,12 @@ struct RichTextBoxDesign {
   bool read_only = false;
 };
 
+// What stands above a page: its title, and what is said besides.
+struct Heading {
+  std::string title;
+  std::string detail;
+};
+
 class RichTextBox : public TextControl {
  public:
   using Design = RichTextBoxDesign;
@@ -75,6 +81,10 @@ class RichTextBox : public TextControl {
   // The selection with its reference, as it is copied for use elsewhere; "" if nothing can be quoted. Empty
   // for a pane whose text is not quoted.
   std::function<std::string()> Quote;
+
+  // What the text is, as a layer that shows it as a page may say above it. Empty for a pane that is no page
+  // of a book.
+  std::function<forms::Heading()> Heading;
 
  private:
   // A character's position and where its bytes begin.

@@ -25,6 +25,9 @@ struct Services {
 // What a window's close box does once Form_Unload has run.
 enum class CloseBox { kLetsGo, kHides };
 
+// Whether a person can make a window larger than it is.
+enum class Resizing { kFixed, kFree };
+
 // What becomes of the program when a handler of the window fails and nothing traps it.
 enum class AfterFailure { kEndProgram, kGoOn };
 
@@ -56,6 +59,7 @@ class Window : public PropertyOwner, public Container {
   virtual void Form_Unload() {}
   virtual CloseBox OnCloseBox() const { return CloseBox::kLetsGo; }
   virtual bool StaysInFront() const { return false; }  // of the main window, to be used beside it
+  virtual Resizing GetResizing() const { return Resizing::kFixed; }
   virtual AfterFailure AfterUntrappedFailure() const { return AfterFailure::kEndProgram; }
 
   // Of the client area, in twips.

@@ -44,6 +44,7 @@ class Reader {
   const std::string& Stem() const { return lblbook.Caption; }
   const std::string& Book() const { return lblbk.Caption; }
   const std::string& Chapter() const { return lblc.Caption; }
+  const std::string& VersionName() const { return LBLVR.Caption; }
 
   // What the pane shows. It differs from the position after a load that failed.
   const ShownChapter& Shown() const { return chapter_store_.Shown(); }

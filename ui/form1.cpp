@@ -14,10 +14,16 @@ Form1::Form1(forms::Services services, const OtherWindows& others)
   reader_.BookChanged = [this] { pictures_.ListBookPictures(); };
   reader_.ChapterShown = [this] { pictures_.SeekChapterPicture(); };
   reader_.rtxt.Quote = [this] { return QuotationFrom(reader_.rtxt, reader_.Shown()); };
+  const auto place = [this] { return reader_.Book() + " " + reader_.Chapter(); };
+  reader_.rtxt.Heading = [this, place] { return forms::Heading{place(), reader_.VersionName()}; };
+  second_pane_.RTXT2.Heading = [this, place] {
+    return forms::Heading{place(), second_pane_.Label36.Caption};
+  };
   routines["ConvertPicsDat"] = [this](const std::string&) { old_catalogue_.ConvertPicsDat(); };
   routines["ShowPicsDatPicture"] = [this](const std::string&) { old_catalogue_.ShowPicsDatPicture(); };
   routines["ListChapterPictures"] = [this](const std::string&) { older_list_.ListChapterPictures(); };
   Apply(kForm1Places, *this);
+  Apply(kForm1Arrangement, *this);
 }
 
 }  // namespace lectern::ui

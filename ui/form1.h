@@ -40,6 +40,7 @@ class Form1 : public forms::Window {
 
   void Form_Load() override { start_up_.Form_Load(); }
   void Form_Unload() override { exits_.Form_Unload(); }
+  forms::Resizing GetResizing() const override { return forms::Resizing::kFree; }
 
   // For the paint window.
   gallery::PictureCatalogue& Pictures() { return pictures_; }

@@ -25,6 +25,7 @@ class Form4 : public forms::Window {
 
   // Shows the window with a picture, or with a white page if it is empty.
   void Open(const forms::Picture& picture);
+  forms::Resizing GetResizing() const override { return forms::Resizing::kFree; }
 
  private:
   paint::PenSettings pen_{*this};

@@ -65,4 +65,14 @@ void Apply(std::span<const Place> places, forms::Window& window) {
   }
 }
 
+void Apply(std::span<const Arranged> arrangement, forms::Window& window) {
+  for (const Arranged& place : arrangement) {
+    forms::PlacedControl& control = FindByFullName(window, place.control);
+    control.Arrange({place.left * forms::kTwipsPerPixel, place.top * forms::kTwipsPerPixel,
+                     place.width * forms::kTwipsPerPixel, place.height * forms::kTwipsPerPixel,
+                     place.anchor});
+    control.ShowTextAs(place.role);
+  }
+}
+
 }  // namespace lectern::ui

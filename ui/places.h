@@ -28,7 +28,20 @@ struct Place {
 // window have the same controls.
 void Apply(std::span<const Place> places, forms::Window& window);
 
+// Where a control lies while the desktop arranges it, in pixels; see forms::Arrangement.
+struct Arranged {
+  std::string_view control;
+  double left, top, width, height;
+  forms::Anchor anchor = forms::Anchor::kTopLeft;
+  forms::TextRole role = forms::TextRole::kAsSet;
+};
+
+// Tells the controls of a window how they may be arranged. Throws a std::logic_error with the name of an
+// unknown control.
+void Apply(std::span<const Arranged> arrangement, forms::Window& window);
+
 extern const std::span<const Place> kForm1Places;
+extern const std::span<const Arranged> kForm1Arrangement;
 extern const std::span<const Place> kForm4Places;
 
 }  // namespace lectern::ui

@@ -39,6 +39,10 @@ constexpr Place kForm3Table[] = {
     {"Command3",  319, 510,  88,  28, kBottomRight},
 };
 
+constexpr Arranged kForm3Arranged[] = {
+    {"lblname",    16,  12, 391,  26, kTop, forms::TextRole::kTitle},
+};
+
 constexpr Place kForm5Table[] = {
     {"Image1",      0,   0, 320, 240, kTopLeft},
     {"Command1",  112,   8,  96,  28, kTopLeft},
@@ -56,6 +60,7 @@ Form2::Form2(forms::Services services) : Window(services, "Form2", "Print Page")
 Form3::Form3(forms::Services services) : Window(services, "Form3", "Notes") {
   Height = 9000;
   Apply(kForm3Table, *this);
+  Apply(kForm3Arranged, *this);
 }
 
 Form5::Form5(forms::Services services) : Window(services, "Form5", "Print") {

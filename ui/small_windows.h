@@ -27,6 +27,7 @@ class Form3 : public forms::Window {
   void Form_Load() override { notes.Form_Load(); }
   void Form_Unload() override { notes.Form_Unload(); }
   bool StaysInFront() const override { return true; }
+  forms::Resizing GetResizing() const override { return forms::Resizing::kFree; }
   forms::AfterFailure AfterUntrappedFailure() const override { return forms::AfterFailure::kGoOn; }
 
   aids::Notes notes{*this};

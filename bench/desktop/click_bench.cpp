@@ -143,9 +143,36 @@ void MeasureSearch(const char* name, const QString& term) {
       [&] { return !button.isEnabled() && painted.Is() && list.model()->rowCount() > 0; }, type);
 }
 
+// A click on a panel's button, and each step while the window's edge is dragged.
+void MeasureSize(const QSize& size) {
+  QWidget& frame = *Find("rtxt").window();
+  frame.resize(size);
+  Rest();
+  std::printf("at %d by %d pixels\n", frame.width(), frame.height());
+  MeasureReading();
+  Painted painted(*Find<QTextEdit>("rtxt").viewport());
+  const auto drag = [&](int round) {
+    painted.Forget();
+    frame.resize(size - QSize(round % 20, round % 20) - QSize(1, 1));
+  };
+  Measure("a step of resizing", drag, [&] { return painted.Is(); });
+  frame.resize(size);
+  Rest();
+  const auto open = [&](int) {
+    painted.Forget();
+    Press(Find("Command8"));
+  };
+  Measure(
+      "opening the concordance", open, [] { return Find("frmc").isVisible(); },
+      [] {
+        Press(Find("Command9"));
+        Rest();
+      });
+}
+
 void MeasureAll() {
   Rest();
-  MeasureReading();
+  for (const QSize size : {QSize(916, 687), QSize(1366, 740), QSize(1920, 1050)}) MeasureSize(size);
   Press(Find("Command16"));
   Rest();
   Press(Find("op1"), QPoint(6, 6));

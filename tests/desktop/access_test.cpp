@@ -5,20 +5,13 @@
 #include <gtest/gtest.h>
 #include <map>
 
-#include "tests/kit/small_world.h"
-#include "tests/kit/temporary_folder.h"
+#include "tests/desktop/stage.h"
 #include "ui/desktop/app/desktop.h"
 #include "ui/desktop/layout/window_focus.h"
 #include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {
 namespace {
-
-class SmallFolder {
- protected:
-  SmallFolder() { LaySmallWorld(folder_.Path()); }
-  TemporaryFolder folder_;
-};
 
 class Access : public testing::Test, protected SmallFolder {
  protected:

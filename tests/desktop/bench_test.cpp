@@ -54,7 +54,9 @@ TEST_F(Bench, ShowsWhatLiesOffTheWindowForTheMouse) {
   bench = std::make_unique<BenchView>(*window, *view, std::vector<std::string>{"maker", "tools"});
   EXPECT_TRUE(bench->Frame().isVisible());
   EXPECT_TRUE(tools.Visible);
-  EXPECT_EQ(OnBench("tools")->geometry(), QRect(0, 0, 300, 200));
+  bench->Frame().resize(900, 700);
+  EXPECT_EQ(OnBench("tools")->geometry(), OnBench("tools")->parentWidget()->rect());
+  EXPECT_GT(OnBench("tools")->width(), 800);
   ClickOnBench("maker");
   EXPECT_EQ(Log(), "made");
 

@@ -1,10 +1,18 @@
-// The order of the keyboard, and a face on a screen that is too small for it.
+// The order of the keyboard, a face on a screen that is too small for it, and every window at every size.
+#include <QApplication>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTest>
 #include <gtest/gtest.h>
+#include <map>
 
+#include "tests/desktop/stage.h"
+#include "ui/desktop/app/desktop.h"
+#include "ui/desktop/layout/face_layout.h"
 #include "ui/desktop/layout/fitted_face.h"
 #include "ui/desktop/layout/places.h"
+#include "ui/desktop/layout/window_focus.h"
+#include "ui/desktop/views/control_view.h"
 
 namespace lectern::desktop {
 namespace {
@@ -72,6 +80,145 @@ TEST_F(OnAScreen, AFaceThatIsCutOffIsScrolledToWhatHasTheFocus) {
   EXPECT_EQ(Place({1000, 1000}), QSize(400, 320));
   EXPECT_EQ(Corner(), QPoint(0, 20));
   EXPECT_TRUE(fitted.Face().isVisible());
+}
+
+// A window that a person enlarges, with one of its panels open at a time.
+class EveryWindow : protected SmallFolder, public testing::TestWithParam<const char*> {
+ protected:
+  using Geometries = std::map<std::string, QRect>;
+
+  EveryWindow() {
+    EXPECT_TRUE(is_running);
+    Do([this] { window.Visible = true; });
+    for (forms::Control* control : window.Controls()) {
+      auto* const placed = dynamic_cast<forms::PlacedControl*>(control);
+      if (placed == nullptr) continue;
+      controls.push_back(placed);
+      if (FaceLayout::IsMovable(*placed)) panels.push_back(placed);
+    }
+    for (const forms::PlacedControl* control : controls) {
+      if (ControlView* view = SeenViewOf(control)) frame = view->Widget()->window();
+    }
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(frame));
+  }
+
+  void Do(const std::function<void()>& act) { desktop.GetEvents().Deliver(window, act); }
+
+  void Resize(const QSize& size) {
+    frame->resize(size);
+    QCoreApplication::processEvents();
+  }
+
+  // As the model has them, and as the screen does.
+  Geometries Model() const {
+    Geometries all;
+    for (const forms::PlacedControl* control : controls) all[control->FullName()] = PlaceOf(*control);
+    return all;
+  }
+  Geometries Shown() const {
+    Geometries all;
+    for (const forms::PlacedControl* control : controls) {
+      if (!control->IsShown()) continue;
+      if (ControlView* view = SeenViewOf(control)) all[control->FullName()] = view->Widget()->geometry();
+    }
+    return all;
+  }
+
+  // Whether it lies over others on purpose: a shape under its label, a shadow, a panel over what it replaces.
+  static bool CoversOthers(const forms::PlacedControl& control) {
+    const bool is_panel = dynamic_cast<const forms::Container*>(&control) != nullptr;
+    return control.GetKind() == forms::Kind::kShape || control.IsEcho() ||
+           (is_panel && control.ShownAt() != 0);
+  }
+
+  void Check(const forms::PlacedControl* open) const {
+    const bool beside = open != nullptr && frame->width() >= 1300;
+    for (auto a = controls.begin(); a != controls.end(); ++a) {
+      const ControlView* const view = SeenViewOf(*a);
+      if (view == nullptr || !(*a)->IsShown()) continue;
+      const QRect place = view->Widget()->geometry();
+      const std::string name = (*a)->FullName();
+      EXPECT_FALSE((*a)->IsStorage()) << name;
+      const bool may_scroll = dynamic_cast<forms::PictureBox*>(*a) != nullptr && (*a)->MouseDown;
+      EXPECT_TRUE(may_scroll || view->Widget()->parentWidget()->rect().contains(place)) << name;
+      for (auto b = std::next(a); b != controls.end(); ++b) {
+        const ControlView* const other = SeenViewOf(*b);
+        if (other == nullptr || &(*a)->Parent() != &(*b)->Parent()) continue;
+        if (CoversOthers(**a) || CoversOthers(**b)) {
+          if (!beside || (*a != open && *b != open)) continue;
+        }
+        EXPECT_FALSE(place.intersects(other->Widget()->geometry())) << name << " and " << (*b)->FullName();
+      }
+    }
+  }
+
+  Desktop desktop{folder_.Path()};
+  bool is_running = desktop.Start();
+  forms::Window& window = *desktop.Program().Touch(GetParam());
+  std::vector<forms::PlacedControl*> controls;
+  std::vector<forms::PlacedControl*> panels;
+  QWidget* frame = nullptr;
+};
+
+TEST_P(EveryWindow, ArrangesItsControlsAtEverySizeAndLeavesTheModelAlone) {
+  const Geometries model = Model();
+  const Geometries at_first = Shown();
+  const QSize start = frame->size();
+  for (const QSize more :
+       {QSize(0, 0), QSize(108, 60), QSize(450, 60), QSize(1004, 360), QSize(3000, 1500)}) {
+    Resize(start + more);
+    SCOPED_TRACE(std::to_string(frame->width()));
+    Check(nullptr);
+    for (forms::PlacedControl* panel : panels) {
+      SCOPED_TRACE(panel->Name());
+      Do([panel] { panel->Visible = true; });
+      Check(panel);
+      if (frame->width() < 1000) {
+        EXPECT_EQ(SeenViewOf(panel)->Widget()->pos(), PlaceOf(*panel).topLeft());
+      }
+      Do([panel] { panel->Visible = false; });
+    }
+  }
+  Resize(start);
+  EXPECT_EQ(Shown(), at_first);
+  EXPECT_EQ(Model(), model);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfThoseThatGrow, EveryWindow, testing::Values("Form1", "Form3", "Form4"),
+                         [](const auto& window) { return std::string(window.param); });
+
+// By an empty part of it: over the text, beside it, and back by a double click.
+class Panels : protected SmallFolder, public testing::Test {};
+
+TEST_F(Panels, AreMovedWithinTheWindowAndComeBack) {
+  Desktop desktop(folder_.Path());
+  ASSERT_TRUE(desktop.Start());
+  forms::Window& window = *desktop.Program().Touch("Form1");
+  auto& panel = dynamic_cast<forms::PlacedControl&>(*window.Find("frms"));
+  desktop.GetEvents().Deliver(window, [&panel] { panel.Visible = true; });
+  QWidget* const widget = SeenViewOf(&panel)->Widget();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(widget->window()));
+  const QPoint empty(20, widget->height() - 8);
+  const auto drag = [&](const QPoint& way) {
+    QTest::mousePress(widget, Qt::LeftButton, {}, empty);
+    const QPoint to = widget->mapToGlobal(empty + way);
+    QMouseEvent move(QEvent::MouseMove, widget->mapFromGlobal(QPointF(to)), QPointF(to), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &move);
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, empty);
+  };
+  const QPoint place = widget->pos();
+  EXPECT_EQ(place, PlaceOf(panel).topLeft());
+  drag({40, 30});
+  EXPECT_EQ(widget->pos(), place + QPoint(40, 30));
+  drag({4000, 4000});
+  EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()));
+  desktop.GetEvents().Deliver(window, [&panel] { panel.Visible = false; });
+  desktop.GetEvents().Deliver(window, [&panel] { panel.Visible = true; });
+  EXPECT_NE(widget->pos(), place) << "it stays where it was moved";
+  QTest::mouseDClick(widget, Qt::LeftButton, {}, empty);
+  EXPECT_EQ(widget->pos(), place);
+  EXPECT_EQ(panel.Left, 800);
 }
 
 }  // namespace

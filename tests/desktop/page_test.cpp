@@ -78,7 +78,7 @@ TEST_F(Page, StaysWhereItIsWhenTheSameTextIsShownAgain) {
     window->page.Show({verses, {}});
     Mark("1  a");
   });
-  EXPECT_EQ(Edit()->document()->lastBlock().previous().layout()->formats().size(), 1);  // the gap
+  EXPECT_EQ(Edit()->document()->lastBlock().previous().layout()->formats().size(), 2);  // number and gap
   EXPECT_TRUE(IsSeen("1  a"));
 }
 

@@ -11,12 +11,21 @@
 
 #include "base/errors.h"
 #include "tests/desktop/sample_window.h"
+#include "tests/kit/small_world.h"
+#include "tests/kit/temporary_folder.h"
 #include "ui/desktop/app/events.h"
 #include "ui/desktop/app/platform.h"
 #include "ui/desktop/app/timers.h"
 #include "ui/desktop/views/window_view.h"
 
 namespace lectern::desktop {
+
+// A data folder for the whole program.
+class SmallFolder {
+ protected:
+  SmallFolder() { LaySmallWorld(folder_.Path()); }
+  TemporaryFolder folder_;
+};
 
 class Stage : public testing::Test {
  protected:

@@ -9,7 +9,7 @@ namespace lectern::desktop {
 
 namespace {
 
-constexpr double kSmallestOwnSize = 8;  // points
+constexpr double kSmallestOwnSize = 9.75;  // points: 13 pixels
 constexpr double kLargestOwnSize = 10;
 
 // How bright a colour appears to the eye, from 0 to 1.
@@ -28,17 +28,38 @@ double Contrast(const QColor& a, const QColor& b) {
 
 }  // namespace
 
-QPalette OwnPalette() {
-  const QColor ink(0x24, 0x27, 0x2b);
-  const QColor faint(0x9a, 0x9c, 0x9f);
-  QPalette palette(ink, QColor(0xfa, 0xfa, 0xf8), Qt::white, QColor(0xb9, 0xb8, 0xb3),
-                   QColor(0xd6, 0xd5, 0xd0), ink, Qt::white, Qt::white, QColor(0xf1, 0xf0, 0xed));
-  palette.setColor(QPalette::AlternateBase, QColor(0xf7, 0xf6, 0xf3));
-  palette.setColor(QPalette::Highlight, QColor(0x2f, 0x61, 0x8f));
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  palette.setColor(QPalette::ToolTipBase, QColor(0xff, 0xfd, 0xf0));
-  palette.setColor(QPalette::ToolTipText, ink);
-  palette.setColor(QPalette::PlaceholderText, faint);
+namespace {
+
+struct Shades {
+  QColor window, page, ink, muted, line, button, accent, accent_ground;
+};
+
+constexpr QRgb kLightAccent = 0xff2a5d8f;
+constexpr QRgb kDarkAccent = 0xff7db1e3;
+
+const Shades& OwnShades(Shade shade) {
+  static const Shades kLight{{0xf3, 0xf2, 0xef}, {0xff, 0xfe, 0xfb}, {0x22, 0x21, 0x1f}, {0x6b, 0x67, 0x5f},
+                             {0xda, 0xd6, 0xce}, {0xfb, 0xfa, 0xf8}, kLightAccent,       {0xdf, 0xe9, 0xf3}};
+  static const Shades kDark{{0x26, 0x25, 0x24}, {0x1d, 0x1c, 0x1b}, {0xe6, 0xe2, 0xda}, {0x9a, 0x95, 0x8b},
+                            {0x3c, 0x3a, 0x37}, {0x31, 0x30, 0x2e}, kDarkAccent,        {0x23, 0x38, 0x4d}};
+  return shade == Shade::kDark ? kDark : kLight;
+}
+
+}  // namespace
+
+QPalette OwnPalette(Shade shade) {
+  const Shades& own = OwnShades(shade);
+  const QColor on_accent = shade == Shade::kDark ? own.page : Qt::white;
+  QPalette palette(own.ink, own.button, own.page, Mixed(own.line, own.ink, 0.2), own.line, own.ink, on_accent,
+                   own.page, own.window);
+  palette.setColor(QPalette::AlternateBase, own.window);
+  palette.setColor(QPalette::Highlight, own.accent);
+  palette.setColor(QPalette::HighlightedText, on_accent);
+  palette.setColor(QPalette::Link, own.accent);
+  palette.setColor(QPalette::ToolTipBase, own.button);
+  palette.setColor(QPalette::ToolTipText, own.ink);
+  palette.setColor(QPalette::PlaceholderText, own.muted);
+  const QColor faint = Mixed(own.window, own.muted, 0.6);
   for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, faint);
   }
@@ -138,7 +159,7 @@ QString NameOf(const QColor& colour) {
   return shade + "red";
 }
 
-QColor ShadowOn(const QColor& ground) { return Mixed(ground, Qt::black, IsDark(ground) ? 0.5 : 0.2); }
+QColor ShadowOn(const QColor& ground) { return Mixed(ground, Qt::black, IsDark(ground) ? 0.3 : 0.08); }
 
 QColor TextOn(const QColor& ground) {
   return Contrast(Qt::white, ground) > Contrast(Qt::black, ground) ? Qt::white : Qt::black;
@@ -152,8 +173,33 @@ QColor Mixed(const QColor& a, const QColor& b, double share_of_b) {
 }
 
 QColor LineColor(const QPalette& palette) {
-  constexpr double kShare = 0.22;
+  constexpr double kShare = 0.12;
   return Mixed(palette.color(QPalette::Window), palette.color(QPalette::WindowText), kShare);
+}
+
+QColor MutedColor(const QColor& text, const QColor& ground) {
+  constexpr double kReadable = 4.5;
+  constexpr double kStep = 0.05;
+  double share = 0.4;
+  QColor muted = Mixed(text, ground, share);
+  while (Contrast(muted, ground) < kReadable && share > kStep) muted = Mixed(text, ground, share -= kStep);
+  return muted;
+}
+
+QColor AccentGround(const QPalette& palette) {
+  const QColor accent = palette.color(QPalette::Highlight);
+  for (const Shade shade : {Shade::kLight, Shade::kDark}) {
+    const Shades& own = OwnShades(shade);
+    if (accent == own.accent && palette.color(QPalette::Base) == own.page) return own.accent_ground;
+  }
+  const QColor ground = palette.color(QPalette::Base);
+  return Mixed(ground, accent, IsDark(ground) ? 0.28 : 0.16);
+}
+
+QFont InPixels(QFont font, int pixels, QFont::Weight weight) {
+  font.setPixelSize(pixels);
+  font.setWeight(weight);
+  return font;
 }
 
 }  // namespace lectern::desktop

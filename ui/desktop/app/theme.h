@@ -22,8 +22,9 @@ void ApplyTheme();
 // style. The application owns it once it is set.
 QStyle* MakeStyle();
 
-// The program's own colours, dark ink on a light ground, which are also those of a printed page.
-QPalette OwnPalette();
+// The program's own colours. The light ones are also those of paper, whatever the screen looks like.
+enum class Shade { kLight, kDark };
+QPalette OwnPalette(Shade shade = Shade::kLight);
 
 // An open book on its stand, in the sizes that desktops ask for.
 QIcon ProgramIcon();
@@ -59,6 +60,27 @@ QColor Mixed(const QColor& a, const QColor& b, double share_of_b);
 
 // The colour of the fine lines around and between controls.
 QColor LineColor(const QPalette& palette);
+
+// The colour of secondary text on that ground: the text's own, as near to the ground as can be read with
+// ease.
+QColor MutedColor(const QColor& text, const QColor& ground);
+
+// The ground of what is selected in a list.
+QColor AccentGround(const QPalette& palette);
+
+// The same face in another size and weight.
+QFont InPixels(QFont font, int pixels, QFont::Weight weight = QFont::Normal);
+
+constexpr int kTitlePixels = 15;      // a panel's title, in semibold
+constexpr int kSecondaryPixels = 12;  // what is said besides, in the muted colour
+constexpr double kCorner = 5;         // radius of a control
+constexpr double kPanelCorner = 8;    // radius of a panel that floats
+
+// The property of a widget that is set off by hairlines at its sides instead of a frame.
+constexpr const char* kPageProperty = "page";
+
+// The property of a button that shows its frame only while the pointer or the focus is on it.
+constexpr const char* kQuietProperty = "quiet";
 
 // A rectangle whose outline falls on whole pixels.
 QRectF OutlineOf(const QRect& rect);

@@ -18,12 +18,11 @@ FloatingFrame::FloatingFrame(QWidget* parent) : QFrame(parent) {
 }
 
 void FloatingFrame::paintEvent(QPaintEvent* /*event*/) {
-  constexpr double kCorner = 8;
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(LineColor(palette()));
   painter.setBrush(palette().color(QPalette::Window));
-  painter.drawRoundedRect(OutlineOf(rect()), kCorner, kCorner);
+  painter.drawRoundedRect(OutlineOf(rect()), kPanelCorner, kPanelCorner);
 }
 
 }  // namespace lectern::desktop

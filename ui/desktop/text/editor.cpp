@@ -13,6 +13,8 @@ namespace lectern::desktop {
 
 namespace {
 
+constexpr double kSheetMargin = 10;  // pixels
+
 class Editor : public RichTextView {
   using RichTextView::RichTextView;
 
@@ -20,6 +22,7 @@ class Editor : public RichTextView {
     editor_ = new QPlainTextEdit(parent);
     editor_->setTabChangesFocus(true);
     document_ = editor_->document();
+    document_->setDocumentMargin(kSheetMargin);
     connect(document_, &QTextDocument::contentsChange,
             [this](int at, int removed, int added) { NoteEdit(at, removed, added); });
     connect(document_, &QTextDocument::contentsChanged, [this] { ReportEdit(); });

@@ -1,7 +1,9 @@
 #include "ui/desktop/text/page_setting.h"
 
+#include <QFontInfo>
 #include <QTextCursor>
 #include <algorithm>
+#include <cmath>
 
 #include "ui/desktop/app/theme.h"
 
@@ -40,28 +42,39 @@ QTextCharFormat FormatOf(const forms::TextStyle& style, const QPalette& palette,
   return format;
 }
 
+constexpr double kGap = 0.7;   // between a number and the words, of the text's size
+constexpr double kMark = 0.6;  // left of the widest number, for the mark of a verse
+constexpr double kLeading = 1.4;
+constexpr double kBetweenVerses = 0.3;
+
+QFont NumberFont(const QFont& text) {
+  QFont font = OwnFont();
+  font.setPointSizeF(text.pointSizeF() * 2 / 3);
+  return font;
+}
+
 }  // namespace
 
 int VerseOf(const QString& paragraph) { return paragraph.left(VerseNumberOf(paragraph).digits).toInt(); }
 
 PageSetting::PageSetting(const QFont& font, const QString& text)
-    : font_(font), number_width_(0), metrics_(font) {
-  qsizetype digits = 2;
+    : font_(font), number_font_(NumberFont(font)), metrics_(font), number_metrics_(number_font_) {
+  qsizetype digits = 0;
   for (const QStringView paragraph : QStringView(text).tokenize(u'\n')) {
     digits = std::max(digits, VerseNumberOf(paragraph).digits);
   }
-  number_width_ =
-      metrics_.horizontalAdvance(QString(digits, u'0')) + 1.6 * metrics_.horizontalAdvance(QChar(u' '));
+  if (digits == 0) return;
+  const double widest = number_metrics_.horizontalAdvance(QString(std::max<qsizetype>(digits, 2), u'0'));
+  gutter_ = static_cast<int>(std::ceil(widest + Pixels(kGap + kMark)));
 }
 
+double PageSetting::Pixels(double share) const { return QFontInfo(font_).pixelSize() * share; }
+
 std::unique_ptr<QTextDocument> PageSetting::Document(const QString& text, int width) const {
-  constexpr double kLineHeight = 122;  // per cent
   QTextBlockFormat plain;
-  plain.setLineHeight(kLineHeight, QTextBlockFormat::ProportionalHeight);
-  plain.setBottomMargin(metrics_.height() * 0.25);
-  QTextBlockFormat verse = plain;
-  verse.setLeftMargin(number_width_);
-  verse.setTextIndent(-number_width_);
+  plain.setLineHeight(100 * Pixels(kLeading) / metrics_.height(), QTextBlockFormat::ProportionalHeight);
+  plain.setBottomMargin(Pixels(kBetweenVerses));
+  plain.setLeftMargin(gutter_);
 
   auto document = std::make_unique<QTextDocument>();
   document->setUndoRedoEnabled(false);
@@ -71,7 +84,11 @@ std::unique_ptr<QTextDocument> PageSetting::Document(const QString& text, int wi
   cursor.beginEditBlock();
   bool first = true;
   for (const QStringView paragraph : QStringView(text).tokenize(u'\n')) {
-    const QTextBlockFormat& format = VerseNumberOf(paragraph).digits > 0 ? verse : plain;
+    QTextBlockFormat format = plain;
+    if (const qsizetype digits = VerseNumberOf(paragraph).digits; digits > 0) {
+      format.setTextIndent(-Pixels(kGap) -
+                           number_metrics_.horizontalAdvance(paragraph.first(digits).toString()));
+    }
     if (std::exchange(first, false)) {
       cursor.setBlockFormat(format);
     } else {
@@ -90,16 +107,26 @@ std::unique_ptr<QTextDocument> PageSetting::Document(const QString& text, int wi
   return document;
 }
 
-QTextLayout::FormatRange PageSetting::NumberGap(const QString& paragraph) const {
-  const VerseNumber number = VerseNumberOf(paragraph);
-  QTextLayout::FormatRange range;
-  range.start = static_cast<int>(number.digits);
-  range.length = static_cast<int>(number.blanks);
-  if (range.length == 0) return range;
-  const double width = metrics_.horizontalAdvance(paragraph.left(number.digits + number.blanks));
-  range.format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
-  range.format.setFontLetterSpacing((number_width_ - width) / range.length);
-  return range;
+QList<QTextLayout::FormatRange> PageSetting::NumberFormats(const QString& paragraph,
+                                                           const QPalette& palette) const {
+  const VerseNumber verse = VerseNumberOf(paragraph);
+  if (verse.digits == 0) return {};
+  QTextLayout::FormatRange number;
+  number.start = 0;
+  number.length = static_cast<int>(verse.digits);
+  number.format.setFontFamilies(QFontInfo(number_font_).family().split(u','));
+  number.format.setFontPointSize(number_font_.pointSizeF());
+  number.format.setFontWeight(QFont::Normal);
+  number.format.setFontItalic(false);
+  number.format.setForeground(MutedColor(palette.color(QPalette::Text), palette.color(QPalette::Base)));
+
+  QTextLayout::FormatRange gap;
+  gap.start = number.length;
+  gap.length = static_cast<int>(verse.blanks);
+  const double blanks = metrics_.horizontalAdvance(QString(verse.blanks, u' '));
+  gap.format.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+  gap.format.setFontLetterSpacing((Pixels(kGap) - blanks) / gap.length);
+  return {number, gap};
 }
 
 void LayStyles(QTextDocument& document, const forms::TextRuns& runs, const TextPositions& positions,
@@ -109,7 +136,7 @@ void LayStyles(QTextDocument& document, const forms::TextRuns& runs, const TextP
   auto run = runs.All().begin();
   for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
     QList<QTextLayout::FormatRange> formats;
-    if (setting != nullptr) formats.append(setting->NumberGap(block.text()));
+    if (setting != nullptr) formats = setting->NumberFormats(block.text(), palette);
     const int start = block.position();
     const int end = start + block.length();
     for (; run != runs.All().end() && positions.ToQt(run->start) < end; ++run) {

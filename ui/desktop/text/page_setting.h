@@ -23,14 +23,21 @@ class PageSetting {
   // paragraphs into lines only when they come into view.
   std::unique_ptr<QTextDocument> Document(const QString& text, int width) const;
 
-  // The format that widens the blanks after a verse's number and so aligns the verse's text. Its length is 0
-  // for any other paragraph.
-  QTextLayout::FormatRange NumberGap(const QString& paragraph) const;
+  // The formats of a verse's number, and of the blanks after it, which they widen to align the verse's text.
+  // There are none for any other paragraph.
+  QList<QTextLayout::FormatRange> NumberFormats(const QString& paragraph, const QPalette& palette) const;
+
+  // The width of the margin in which the numbers are, with the gap after them, in pixels.
+  int Gutter() const { return gutter_; }
 
  private:
+  double Pixels(double share) const;  // of the text's size
+
   QFont font_;
-  double number_width_;  // of a verse's number and the gap after it, in pixels
+  QFont number_font_;
   QFontMetricsF metrics_;
+  QFontMetricsF number_metrics_;
+  int gutter_ = 0;
 };
 
 // The number at the start of a verse's paragraph; 0 for any other paragraph.

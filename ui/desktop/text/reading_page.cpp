@@ -1,15 +1,8 @@
 // A page of rich text that can be selected and copied, but not edited.
-#include <QAbstractTextDocumentLayout>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QGuiApplication>
-#include <QMenu>
-#include <QPainter>
 #include <QScrollBar>
-#include <QTextBlock>
-#include <QTextEdit>
 #include <QTextFrame>
-#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 #include <functional>
@@ -17,8 +10,8 @@
 #include <vector>
 
 #include "reader/word_blanks.h"
-#include "ui/desktop/app/theme.h"
 #include "ui/desktop/text/page_setting.h"
+#include "ui/desktop/text/page_widget.h"
 #include "ui/desktop/text/rich_text_view.h"
 #include "ui/desktop/text/verse_page.h"
 #include "ui/desktop/views/keys.h"
@@ -27,104 +20,6 @@
 namespace lectern::desktop {
 
 namespace {
-
-constexpr int kPageMargin = 14;  // pixels
-
-class PageWidget : public QTextEdit {
- public:
-  explicit PageWidget(QWidget* parent) : QTextEdit(parent) {
-    setReadOnly(true);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setTabChangesFocus(true);
-    setCursorWidth(0);
-    // The width of the text must not depend on its length.
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  }
-
-  std::function<bool()> can_quote;              // whether the selection can be copied with its reference
-  std::function<void()> quote;                  // copies it; empty if the text has no references
-  std::function<void(int steps)> wants_larger;  // called when the wheel is turned with Ctrl
-
-  // The place of a paragraph in the viewport. Breaks the text into lines up to there.
-  QRect PlaceOf(const QTextBlock& block) const {
-    const QRectF place = document()->documentLayout()->blockBoundingRect(block);
-    return place.toAlignedRect().translated(0, -verticalScrollBar()->value());
-  }
-
-  // Draws a bar beside the paragraph, until there is another document.
-  void Mark(const QTextBlock& block) {
-    marked_ = QTextCursor(block);
-    viewport()->update();
-  }
-
-  // What is at the top of the viewport.
-  struct Place {
-    int position = 0;  // in the document
-    int above = 0;     // the hidden part of its line, in pixels
-  };
-
-  Place TopPlace() const {
-    const QTextCursor top = cursorForPosition(QPoint(viewport()->width() / 2, 0));
-    return {top.position(), -cursorRect(top).top()};
-  }
-
-  void ScrollTo(const Place& place) {
-    QTextCursor at(document());
-    at.setPosition(std::min(place.position, document()->characterCount() - 1));
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(at).top() + place.above);
-  }
-
- protected:
-  void paintEvent(QPaintEvent* event) override {
-    QTextEdit::paintEvent(event);
-    if (marked_.isNull() || marked_.document() != document()) return;
-    constexpr int kWidth = 3;
-    const QRect place = PlaceOf(marked_.block());
-    const int left = (kPageMargin - kWidth) / 2;
-    QPainter painter(viewport());
-    painter.fillRect(QRect(left, place.top(), kWidth, place.height()), palette().color(QPalette::Highlight));
-  }
-
-  void wheelEvent(QWheelEvent* event) override {
-    if ((event->modifiers() & Qt::ControlModifier) == 0) return QTextEdit::wheelEvent(event);
-    constexpr int kNotch = 120;
-    turned_ += event->angleDelta().y();
-    const int steps = turned_ / kNotch;
-    turned_ %= kNotch;
-    event->accept();
-    if (steps != 0) wants_larger(steps);
-  }
-
-  // If nothing is selected, selects the paragraph under the mouse for the menu.
-  void contextMenuEvent(QContextMenuEvent* event) override {
-    const bool by_mouse = event->reason() == QContextMenuEvent::Mouse;
-    if (by_mouse && !textCursor().hasSelection()) SelectParagraphAt(event->pos());
-    QMenu* const menu = createStandardContextMenu();
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (quote) {
-      const QList<QAction*> actions = menu->actions();
-      auto* const action = new QAction(tr("Copy with &Reference"), menu);
-      action->setShortcut(QuoteKey());
-      action->setEnabled(can_quote());
-      connect(action, &QAction::triggered, this, [this] { quote(); });
-      menu->insertAction(actions.size() > 1 ? actions[1] : nullptr, action);
-    }
-    menu->popup(by_mouse ? event->globalPos() : viewport()->mapToGlobal(cursorRect().bottomLeft()));
-  }
-
- private:
-  void SelectParagraphAt(const QPoint& point) {
-    QTextCursor cursor = cursorForPosition(point);
-    const QRectF paragraph = document()->documentLayout()->blockBoundingRect(cursor.block());
-    if (point.y() + verticalScrollBar()->value() > paragraph.bottom()) return;
-    cursor.movePosition(QTextCursor::StartOfBlock);
-    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-    setTextCursor(cursor);
-  }
-
-  QTextCursor marked_;  // in the marked paragraph
-  int turned_ = 0;      // part of a notch of the wheel
-};
 
 class ReadingPage : public RichTextView, public VersePage {
  public:
@@ -176,6 +71,7 @@ class ReadingPage : public RichTextView, public VersePage {
   QWidget* Make(QWidget* parent) override {
     page_ = new PageWidget(parent);
     connect(page_->verticalScrollBar(), &QScrollBar::valueChanged, [this] { on_scroll(); });
+    if (Control().Heading) page_->BecomeThePage();
     page_->wants_larger = [this](int steps) { GetWindow().Enlarge(steps); };
     if (Control().Quote) {
       page_->can_quote = [this] { return CanQuote(); };
@@ -195,6 +91,12 @@ class ReadingPage : public RichTextView, public VersePage {
   }
 
   void FontWillChange() override { place_ = page_->TopPlace(); }
+
+  void EventEnded() override {
+    if (!Control().Heading) return;
+    const forms::Heading heading = Control().Heading();
+    page_->SetHeading(ToQString(heading.title), ToQString(heading.detail));
+  }
 
   void Apply() override {
     const Changes changes = TakeChanges(page_->palette().color(QPalette::Base));
@@ -247,8 +149,9 @@ class ReadingPage : public RichTextView, public VersePage {
     positions_.Read(text_, reader::WordBlanks(text_));
     const QString shown = ToDocument(reader::WithoutWordBlanks(text_));
     setting_.emplace(font_, shown);
+    page_->SetColumn(ColumnWidth(), setting_->Gutter());
     std::unique_ptr<QTextDocument> document = setting_->Document(shown, page_->viewport()->width());
-    document->setDocumentMargin(kPageMargin);
+    document->setDocumentMargin(page_->TextMargin());
     LayStyles(*document);
     document->setParent(page_);
     const std::unique_ptr<QTextDocument> former(document_);
@@ -257,6 +160,17 @@ class ReadingPage : public RichTextView, public VersePage {
     SetSpaceAbove(std::exchange(space_above_, 0));
     page_->setCursorWidth(0);
     MarkVerse(marked);
+  }
+
+  // A line of some 75 characters, as wide as they usually are.
+  int ColumnWidth() const {
+    static const QString kUsual = QStringLiteral("the words of a page as they usually are, and some more");
+    constexpr double kCharacters = 75;
+    constexpr double kWidest = 640;  // pixels, at the standard size
+    const QFont font = page_->font();
+    const double words = QFontMetricsF(font).horizontalAdvance(kUsual) / static_cast<double>(kUsual.size());
+    const double widest = kWidest * font.pointSizeF() / forms::kReadingSize;
+    return static_cast<int>(std::lround(std::min(words * kCharacters + setting_->Gutter(), widest)));
   }
 
   void LayStyles(QTextDocument& document) {
@@ -270,7 +184,7 @@ class ReadingPage : public RichTextView, public VersePage {
     const int more = pixels - std::exchange(space_above_, pixels);
     if (more == 0) return;
     QTextFrameFormat format = document_->rootFrame()->frameFormat();
-    format.setTopMargin(kPageMargin + pixels);
+    format.setTopMargin(page_->TextMargin() + pixels);
     document_->rootFrame()->setFrameFormat(format);
     QScrollBar* const bar = page_->verticalScrollBar();
     bar->setValue(bar->value() + more);

@@ -65,6 +65,7 @@ QRect RichTextView::OpenPart(const QAbstractScrollArea& pane) {
   for (const QObject* sibling : pane.parentWidget()->children()) {
     const auto* const over = qobject_cast<const QWidget*>(sibling);
     if (over == nullptr || over == &pane || over->isHidden()) continue;
+    if (over->testAttribute(Qt::WA_TransparentForMouseEvents)) continue;  // a shadow
     const QPoint corner = viewport.mapFrom(pane.parentWidget(), over->pos());
     const QRect covered = QRect(corner, over->size()).intersected(open);
     if (covered.isEmpty()) continue;

@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 #include <cassert>
+#include <functional>
 
 #include "forms/containers.h"
 #include "ui/desktop/layout/places.h"
@@ -18,10 +19,25 @@ namespace lectern::desktop {
 
 namespace {
 
-// A page that scrolls only if the screen is too small for it.
+constexpr int kAround = 20;  // pixels around the tools
+constexpr int kToolHeight = 30;
+
+// A page that grows with the bench, and scrolls only if that is too small for it.
 class BenchPage : public QScrollArea {
  public:
-  QSize sizeHint() const override { return widget()->size(); }
+  QSize sizeHint() const override { return widget()->minimumSize(); }
+};
+
+// Tells when it has another size.
+class Holder : public QWidget {
+ public:
+  std::function<void(const QSize&)> resized;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QWidget::resizeEvent(event);
+    if (resized) resized(event->size());
+  }
 };
 
 }  // namespace
@@ -34,20 +50,30 @@ BenchView::BenchView(forms::Window& window, WindowView& view, const std::vector<
       pages_(new QTabWidget) {
   frame_->setObjectName("bench");
   frame_->setWindowTitle(ToQString(window.Caption()) + ": the keeper's bench");
+  pages_->setDocumentMode(true);
   auto* const column = new QVBoxLayout(frame_.get());
+  column->setContentsMargins(kAround, kAround, kAround, kAround);
+  column->setSpacing(kAround);
   column->addLayout(row_);
   column->addWidget(pages_);
   for (const std::string& name : controls) {
     auto* const control = dynamic_cast<forms::PlacedControl*>(window.Find(name));
     assert(control != nullptr);
-    auto* const holder = new QWidget;
-    holder->setFixedSize(PlaceOf(*control).size());
+    auto* const holder = new Holder;
+    const QSize size = PlaceOf(*control).size();
     views_.push_back(MakeView(*control, view, *holder));
     views_.back()->PutInCorner();
     views_.back()->Changed();
     if (dynamic_cast<forms::Container*>(control) != nullptr) {
+      holder->setMinimumSize(size);
+      holder->resized = [this, control, shown = views_.back().get()](const QSize& now) {
+        view_.PutOnBench(*control, now);
+        shown->Changed();
+        if (!view_.GetEvents().AtWork()) view_.GetEvents().Run([] {});
+      };
       AddPage(*control, *holder);
     } else {
+      holder->setFixedSize(size.width(), kToolHeight);
       row_->addWidget(holder);
     }
   }
@@ -77,6 +103,7 @@ void BenchView::AddPage(forms::PlacedControl& panel, QWidget& holder) {
   page->setFrameShape(QFrame::NoFrame);
   page->setFocusPolicy(Qt::NoFocus);
   page->setWidget(&holder);
+  page->setWidgetResizable(true);
   pages_->addTab(page, title);
 }
 
@@ -90,7 +117,6 @@ void BenchView::Settle() {
   std::vector<ControlView*> order;
   for (const auto& view : views_) {
     if (!view->IsSeen()) continue;
-    view->Stacked();
     if (view->Widget()->focusPolicy() != Qt::NoFocus) order.push_back(view.get());
     if (ChildViews* inner = view->Children()) {
       inner->Stack();

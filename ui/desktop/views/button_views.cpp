@@ -7,6 +7,7 @@
 
 #include "forms/buttons.h"
 #include "ui/desktop/app/pictures.h"
+#include "ui/desktop/app/theme.h"
 #include "ui/desktop/layout/text_fit.h"
 #include "ui/desktop/views/keys.h"
 #include "ui/desktop/views/view_factory.h"
@@ -30,6 +31,7 @@ class ButtonView : public ViewOf<forms::Button> {
     widget_ = new QPushButton(parent);
     widget_->setAutoDefault(false);
     widget_->setDefault(Control().IsDefaultButton());
+    widget_->setProperty(kQuietProperty, IsSign());
     // A caption such as a sign or a number needs an explanation.
     if (Control().HasNameOfItsOwn()) widget_->setToolTip(ToQString(Control().AccessibleName()));
     connect(widget_, &QPushButton::clicked, [this] {
@@ -51,9 +53,16 @@ class ButtonView : public ViewOf<forms::Button> {
   Ground GetGround() const override { return Ground::kButton; }
   QFont WantedFont() const override {
     constexpr int kMargin = 6;
+    constexpr int kSignPixels = 24;
+    if (IsSign()) return InPixels(OwnFont(), kSignPixels);
     return FitLine(ToQString(Control().Caption), ControlView::WantedFont(), Place().width() - 2 * kMargin);
   }
   bool ShowsReadableText() const override { return !Control().Caption->empty(); }
+
+  // An arrow beside pictures.
+  bool IsSign() const {
+    return Control().GetKind() == forms::Kind::kSSCommand && ToQString(Control().Caption).size() == 1;
+  }
 
   // Enter presses the button that has the focus, not the one of its panel.
   bool HandleKey(const QKeyEvent& key) override {

@@ -74,8 +74,11 @@ void ChildViews::Stack() {
     if (next != wanted.end() && (*next)->Widget() == child) ++next;
   }
   for (; next != wanted.end(); ++next) (*next)->Widget()->raise();
+  const auto lowest = std::find_if(wanted.begin(), wanted.end(), [](const ControlView* view) {
+    return StackingLayerOf(view->Control()) == Layer::kPanel;
+  });
   for (ControlView* view : wanted) {
-    view->Stacked();
+    if (lowest != wanted.end()) view->Stacked(*(*lowest)->Widget());
     if (ChildViews* inner = view->Children()) inner->Stack();
   }
 }

@@ -15,6 +15,18 @@
 
 namespace lectern::desktop {
 
+namespace {
+
+// Buttons and boxes of 28 pixels, as the model has them, are shown 30 high.
+constexpr int kLowControl = 28;
+
+bool IsLow(forms::Kind kind) {
+  return kind == forms::Kind::kCommandButton || kind == forms::Kind::kTextBox ||
+         kind == forms::Kind::kComboBox || kind == forms::Kind::kDriveListBox;
+}
+
+}  // namespace
+
 QString ToQString(const std::string& text) { return QString::fromStdString(text); }
 
 bool IsDesignText(const std::string& text) {
@@ -55,7 +67,8 @@ void ControlView::Changed() {
 void ControlView::TakeFocus() { window_.FocusIsWanted(); }
 
 QRect ControlView::Place() const {
-  QRect place = PlaceOf(control_);
+  QRect place = window_.Layout().PlaceOf(control_);
+  if (IsLow(control_.GetKind()) && place.height() == kLowControl) place.adjust(0, -1, 0, 1);
   if (control_.GetKind() == forms::Kind::kLine) place.setSize(place.size().expandedTo({1, 1}));
   if (in_corner_) place.moveTo(0, 0);
   return place;
@@ -129,18 +142,21 @@ QColor ControlView::GroundColor() const {
   for (const forms::Control* sibling : control_.Parent().Children()) {
     if (sibling->GetKind() != forms::Kind::kShape || !sibling->Visible) continue;
     const auto& figure = static_cast<const forms::Shape&>(*sibling);
-    if (!forms::IsSystemColour(figure.BackColor) && PlaceOf(figure).contains(Place().center())) {
+    if (!forms::IsSystemColour(figure.BackColor) &&
+        window_.Layout().PlaceOf(figure).contains(Place().center())) {
       return ToColor(figure.BackColor, parent_.palette());
     }
   }
   return PictureColor().value_or(parent_.palette().color(QPalette::Window));
 }
 
-// The average colour of the picture behind the control.
+// The average colour of the picture behind the control, which is not shown on a dark page.
 std::optional<QColor> ControlView::PictureColor() const {
   const auto* const box = dynamic_cast<const forms::PictureBox*>(&control_.Parent());
-  if (box == nullptr || !box->Picture()) return std::nullopt;
-  const QImage behind = ImageOf(*box->Picture()).copy(Place());
+  if (box == nullptr || !box->Picture() || IsDark(QApplication::palette().color(QPalette::Base))) {
+    return std::nullopt;
+  }
+  const QImage behind = ImageOf(*box->Picture());
   return behind.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0);
 }
 

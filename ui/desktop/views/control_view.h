@@ -44,7 +44,10 @@ class ControlView : public QObject, public LayerView {
   void PutInCorner() { in_corner_ = true; }
   bool IsInCorner() const { return in_corner_; }
 
-  virtual void Stacked() {}  // called when the widget has been stacked among its siblings
+  virtual void EventEnded() {}  // called after each event while the widget is visible
+
+  // Called when the widget has been stacked among its siblings, of which that is the lowest panel.
+  virtual void Stacked(QWidget& /*lowest_panel*/) {}
 
   // Handles a key that the control responds to wherever the focus is in its window. Returns whether it did.
   virtual bool HandleWindowKey(const QKeyEvent& /*key*/) { return false; }

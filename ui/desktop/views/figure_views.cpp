@@ -2,6 +2,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QProgressBar>
+#include <QTimer>
 #include <algorithm>
 
 #include "forms/bars_and_timer.h"
@@ -23,6 +24,8 @@ class ImageView : public ViewOf<forms::Image, ClickableView> {
     auto* const widget =
         new PaintedWidget(parent, [this](QPainter& painter, const QRect&) { Paint(painter); });
     PrepareForInput(*widget);
+    rests_.setSingleShot(true);
+    connect(&rests_, &QTimer::timeout, widget, [widget] { widget->update(); });
     return widget;
   }
 
@@ -33,26 +36,57 @@ class ImageView : public ViewOf<forms::Image, ClickableView> {
     Widget()->update();
   }
 
-  void Resized() override { scaled_ = {}; }
+  // While its place changes from one event to the next, the picture is stretched as it is; then it is made
+  // anew.
+  void Resized() override {
+    constexpr int kUntilItRests = 120;  // milliseconds
+    constexpr int kAfterTheOneBefore = 25;
+    rests_.start(kUntilItRests + kAfterTheOneBefore * std::max(Control().Index(), 0));
+  }
+
+  // A picture fills its place as far as its shape allows.
+  QRectF PictureArea() const {
+    const QRectF area(Widget()->rect());
+    const QSizeF natural(shown_.Width(), shown_.Height());
+    if (!Control().Stretch) return {area.topLeft(), natural};
+    QRectF fitted(QPointF(), natural.scaled(area.size(), Qt::KeepAspectRatio));
+    fitted.moveCenter(area.center());
+    return fitted.toAlignedRect().intersected(Widget()->rect());
+  }
 
   void Paint(QPainter& painter) {
-    const QRect area = Widget()->rect();
-    if (shown_) {
-      const double density = Widget()->devicePixelRatioF();
-      const QSize natural(shown_.Width(), shown_.Height());
-      const QSizeF size = Control().Stretch ? QSizeF(area.size()) : QSizeF(natural);
-      const QSize pixels = (size * density).toSize();
-      if (scaled_.size() != pixels) scaled_ = Scaled(shown_, pixels);
-      painter.drawPixmap(QRect(area.topLeft(), (QSizeF(pixels) / density).toSize()), scaled_);
-    }
-    if (Control().BorderStyle != 0) {
+    if (shown_) PaintPicture(painter, PictureArea());
+    if (Control().BorderStyle != 0 && !Control().Stretch) {
       painter.setPen(LineColor(Widget()->palette()));
-      painter.drawRect(OutlineOf(area));
+      painter.drawRect(OutlineOf(Widget()->rect()));
     }
+  }
+
+  void PaintPicture(QPainter& painter, const QRectF& area) {
+    const QSize pixels = (area.size() * Widget()->devicePixelRatioF()).toSize();
+    if (scaled_.isNull() || (scaled_.size() != pixels && !rests_.isActive()))
+      scaled_ = Scaled(shown_, pixels);
+    if (!Control().Stretch) return painter.drawPixmap(area.toRect(), scaled_);
+    constexpr double kPictureCorner = 4;
+    const QPalette& palette = Widget()->palette();
+    QBrush brush(scaled_);
+    brush.setTransform(QTransform::fromTranslate(area.x(), area.y())
+                           .scale(area.width() / scaled_.width(), area.height() / scaled_.height()));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, scaled_.size() != pixels);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    const QRectF outline = area.adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.drawRoundedRect(outline, kPictureCorner, kPictureCorner);
+    painter.setPen(LineColor(palette));
+    const bool is_dark = IsDark(palette.color(QPalette::Base));
+    painter.setBrush(is_dark ? QBrush(QColor(0, 0, 0, 26)) : QBrush(Qt::NoBrush));  // by a tenth
+    painter.drawRoundedRect(outline, kPictureCorner, kPictureCorner);
   }
 
   forms::Picture shown_;
   QPixmap scaled_;  // to screen pixels, made when first painted
+  QTimer rests_;    // active while the place changes
 };
 
 class ShapeView : public ViewOf<forms::Shape> {

@@ -7,11 +7,11 @@
 #include "forms/text_controls.h"
 #include "forms/window.h"
 #include "ui/desktop/app/theme.h"
-#include "ui/desktop/layout/places.h"
 #include "ui/desktop/layout/text_fit.h"
 #include "ui/desktop/views/clickable_view.h"
 #include "ui/desktop/views/painted_widget.h"
 #include "ui/desktop/views/view_factory.h"
+#include "ui/desktop/views/window_view.h"
 
 namespace lectern::desktop {
 
@@ -29,6 +29,10 @@ class FittedLabel : public QLabel, public Spoken {
 
   // Leaves space at both sides for the focus ring.
   void Indent(int pixels) { indent_ = pixels; }
+
+  void SetMuted(bool muted) {
+    if (std::exchange(muted_, muted) != muted) update();
+  }
 
   void SetText(const QString& text) {
     if (text == this->text()) return;
@@ -58,8 +62,9 @@ class FittedLabel : public QLabel, public Spoken {
     if (hasFocus()) DrawFocusRing(painter, rect(), palette());
     if (hidden_) return;
     painter.setFont(fit_.font);
-    painter.setPen(
-        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    const QColor ink =
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
+    painter.setPen(muted_ ? MutedColor(ink, palette().color(QPalette::Window)) : ink);
     const auto across = static_cast<int>(alignment() & Qt::AlignHorizontal_Mask);
     const int down =
         fit_.several_lines ? Qt::AlignTop | Qt::TextWordWrap : Qt::AlignVCenter | Qt::TextSingleLine;
@@ -70,6 +75,7 @@ class FittedLabel : public QLabel, public Spoken {
   FittedText fit_;
   bool fitted_ = false;
   bool hidden_ = false;
+  bool muted_ = false;
   int indent_ = 0;
 };
 
@@ -90,9 +96,12 @@ class LabelView : public ViewOf<forms::Label, ClickableView> {
 
   void Apply() override {
     Qt::Alignment alignment = Qt::AlignLeft;
-    if (Control().Alignment == forms::kAlignRight) alignment = Qt::AlignRight;
+    const forms::TextRole role = Control().GetTextRole();
+    const bool right = role == forms::TextRole::kSecondaryRight || role == forms::TextRole::kTitleRight;
+    if (Control().Alignment == forms::kAlignRight || right) alignment = Qt::AlignRight;
     if (Control().Alignment == forms::kAlignCentre) alignment = Qt::AlignHCenter;
     text_->SetHidden(text_->palette().color(QPalette::WindowText).rgb() == GroundColor().rgb());
+    text_->SetMuted(IsSecondary() && forms::IsSystemColour(Control().ForeColor));
     const bool is_unused = Control().Caption == design_text_;
     text_->SetText(is_unused ? QString() : ToQString(Control().Caption));
     if (text_->alignment() != alignment) text_->setAlignment(alignment);
@@ -104,6 +113,12 @@ class LabelView : public ViewOf<forms::Label, ClickableView> {
   QString SpokenName() const override {
     const QString name = ClickableView::SpokenName();
     return IsButton() && !Control().Click ? NameOf(GroundColor()) + ", " + name : name;
+  }
+
+  QFont WantedFont() const override {
+    if (Control().GetTextRole() == forms::TextRole::kAsSet) return ClickableView::WantedFont();
+    if (IsSecondary()) return InPixels(OwnFont(), kSecondaryPixels);
+    return InPixels(OwnFont(), kTitlePixels, QFont::DemiBold);
   }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -119,6 +134,11 @@ class LabelView : public ViewOf<forms::Label, ClickableView> {
   }
 
  private:
+  bool IsSecondary() const {
+    const forms::TextRole role = Control().GetTextRole();
+    return role == forms::TextRole::kSecondary || role == forms::TextRole::kSecondaryRight;
+  }
+
   // The option without a caption that is close to the left edge of the label.
   forms::Control* OptionAtLeft() const {
     constexpr int kNear = 8;  // pixels
@@ -126,7 +146,7 @@ class LabelView : public ViewOf<forms::Label, ClickableView> {
     for (forms::Control* sibling : Control().Parent().Children()) {
       auto* const option = dynamic_cast<forms::Option*>(sibling);
       if (option == nullptr || option->Caption != "") continue;
-      const QRect at = PlaceOf(*option).adjusted(0, 0, 1, 1);
+      const QRect at = GetWindow().Layout().PlaceOf(*option).adjusted(0, 0, 1, 1);
       const int middle = place.center().y();
       if (std::abs(place.left() - at.right()) <= kNear && middle >= at.top() && middle <= at.bottom())
         return option;

@@ -21,6 +21,8 @@ namespace lectern::desktop {
 
 namespace {
 
+constexpr int kBesideText = 10;  // in a row
+
 // Rows with a little space between them.
 class RowDelegate : public QStyledItemDelegate {
  public:
@@ -30,7 +32,7 @@ class RowDelegate : public QStyledItemDelegate {
     constexpr int kSpace = 5;
     const QVariant font = index.data(Qt::FontRole);
     const QFontMetrics metrics(font.isValid() ? font.value<QFont>() : option.font);
-    return {metrics.horizontalAdvance(index.data().toString()) + 2 * kSpace, metrics.height() + kSpace};
+    return {metrics.horizontalAdvance(index.data().toString()) + 2 * kBesideText, metrics.height() + kSpace};
   }
 
  protected:
@@ -38,6 +40,7 @@ class RowDelegate : public QStyledItemDelegate {
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
+    option->palette.setColor(QPalette::HighlightedText, option->palette.color(QPalette::Text));
   }
 };
 
@@ -52,8 +55,6 @@ class ListWidget : public QListView {
     setVerticalScrollMode(ScrollPerItem);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
-    setAutoFillBackground(true);
-    setBackgroundRole(QPalette::Base);
   }
 
   // Rows count from 0; -1 is the space below the last row.
@@ -112,13 +113,13 @@ class ListWidget : public QListView {
     QListView::keyPressEvent(event);
   }
 
-  // Adds margins at the top and bottom so that only whole rows are visible.
+  // Leaves a little space above the first row, and so much below that only whole rows are visible.
   void updateGeometries() override {
+    constexpr int kAbove = 4;
     const int row = sizeHintForRow(0);
     const QMargins margins = viewportMargins();
-    const int height = viewport()->height() + margins.top() + margins.bottom();
-    const int spare = row > 0 ? height % row : 0;
-    const QMargins wanted(0, spare / 2, 0, spare - spare / 2);
+    const int height = viewport()->height() + margins.top() + margins.bottom() - kAbove;
+    const QMargins wanted(0, kAbove, 0, row > 0 && height > row ? height % row : 0);
     if (wanted != margins) setViewportMargins(wanted);
     QListView::updateGeometries();
   }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 #include "ui/desktop/views/child_views.h"
 #include "ui/desktop/views/clickable_view.h"
@@ -15,7 +17,7 @@ class PanelView : public ClickableView {
       : ClickableView(control, window, parent), container_(dynamic_cast<forms::Container&>(control)) {}
 
   void Refresh() override;
-  void Stacked() override;
+  void Stacked(QWidget& lowest_panel) override;
   ChildViews* Children() override { return children_.get(); }
 
  protected:
@@ -29,12 +31,23 @@ class PanelView : public ClickableView {
   // Paints fine lines along the edges of the panel that are not on an edge of its parent.
   void PaintEdges(QPainter& painter) const;
 
+  // Whether it lies over the text.
+  bool Floats() const;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  void PaintGround(QPainter& painter) const;
+  void PaintTitle(QPainter& painter) const;
+  bool IsDragged(const QMouseEvent& mouse);
+
   forms::Container& container_;
   std::unique_ptr<ChildViews> children_;
   QWidget* shadow_ = nullptr;  // of a panel that has been opened over its window
   unsigned shown_at_ = 0;
   QRgb ground_ = 0;  // as the children were last coloured
+  // Where the panel was pressed, within the panel and on the screen, until it is let go.
+  std::optional<std::pair<QPoint, QPoint>> pressed_;
+  bool dragged_ = false;
 };
 
 }  // namespace lectern::desktop

@@ -1,12 +1,15 @@
 // Picture boxes: panels that show a picture and drawings. A user can also draw with the keyboard.
+#include <QApplication>
 #include <QPainter>
 #include <algorithm>
 
 #include "forms/picture_box.h"
 #include "ui/desktop/app/pictures.h"
+#include "ui/desktop/app/theme.h"
 #include "ui/desktop/views/keys.h"
 #include "ui/desktop/views/panel_view.h"
 #include "ui/desktop/views/view_factory.h"
+#include "ui/desktop/views/window_view.h"
 
 namespace lectern::desktop {
 
@@ -111,13 +114,30 @@ class PictureBoxView : public ViewOf<forms::PictureBox, PanelView> {
   }
 
   void Paint(QPainter& painter, const QRect& exposed) override {
-    if (const forms::Bitmap& shown = Control().Shown(); !shown.Empty()) {
+    const forms::Bitmap& shown = Control().Shown();
+    if (IsBackground()) {
+      // Paper would glare on a dark page.
+      if (!shown.Empty() && !IsDark(QApplication::palette().color(QPalette::Base))) {
+        painter.fillRect(exposed, QBrush(ImageOf(shown)));
+      }
+    } else if (!shown.Empty()) {
       painter.setRenderHint(QPainter::SmoothPixmapTransform);
       const QRect part = exposed.intersected(QRect(0, 0, shown.Width(), shown.Height()));
       painter.drawImage(part, ImageOf(shown), part);
     }
-    if (Control().BorderStyle != 0) PaintEdges(painter);
+    if (Control().BorderStyle != 0 && !FaceLayout::IsMovable(Control())) PaintEdges(painter);
+    if (IsFootOfWindow()) painter.fillRect(0, 0, Widget()->width(), 1, LineColor(Widget()->palette()));
     pen_.Paint(painter);
+  }
+
+  // Whether the picture only lies behind the controls of the panel, all over it.
+  bool IsBackground() const { return !Control().Children().empty() && !IsSurface(); }
+
+  // A row along the window's lower edge is set off from what is above it.
+  bool IsFootOfWindow() const {
+    const forms::Anchor anchor = Control().GetAnchor();
+    return Control().Parent().Outer() == nullptr &&
+           (anchor == forms::Anchor::kBottom || anchor == forms::Anchor::kFoot);
   }
 
   forms::MouseEvent InScale(forms::MouseEvent mouse) const override {

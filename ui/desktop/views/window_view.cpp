@@ -46,6 +46,11 @@ class WindowView::FrameWidget : public QWidget {
     if (!taken) QWidget::keyPressEvent(event);
   }
 
+  void resizeEvent(QResizeEvent* event) override {
+    QWidget::resizeEvent(event);
+    if (view_.children_) view_.FrameResized();
+  }
+
   bool event(QEvent* event) override {
     if (event->type() == QEvent::ShortcutOverride) {
       // Qt would alternate between a menu and a button with the same letter.
@@ -137,15 +142,56 @@ QWidget& WindowView::Face() {
 
 QMenuBar* WindowView::MenuBar() const { return menu_bar_ ? &menu_bar_->Bar() : nullptr; }
 
-// The window's size is that of its client area, below the menu bar.
+// The window starts in the size of its client area, below the menu bar. A menu bar that is higher than the
+// model has it takes the difference from the face.
 void WindowView::ApplySize() {
   const QSize client(ToPixels(window_.ClientWidth()), ToPixels(window_.ClientHeight()));
   const int above = menu_bar_ ? menu_bar_->Place(client.width()) : 0;
+  if (std::exchange(size_, client) == client) return;
   const QSize available = frame_->screen()->availableSize() - kDecoration;
-  const bool resized = face_->size() != client;
-  const QSize size = fitted_->Place(client, CoveredPart(window_, client), above, available);
-  if (frame_->size() != size) frame_->setFixedSize(size);
-  if (resized && children_) children_->MarkStale();
+  start_ = client;
+  if (IsFree() && menu_bar_) start_.rheight() -= std::max(above - ToPixels(forms::kMenuBarHeight), 0);
+  const QSize size = fitted_->Place(start_, CoveredPart(window_, start_), above, available);
+  if (IsFree()) {
+    constexpr QSize kSmallest(400, 300);
+    frame_->setMinimumSize(kSmallest.boundedTo(size));
+    frame_->resize(size);
+  } else {
+    frame_->setFixedSize(size);
+  }
+  LayOut();
+}
+
+// The face takes the frame's size. Where that is too small for it, it is scrolled.
+void WindowView::FrameResized() {
+  if (!IsFree()) return;
+  const int above = menu_bar_ ? menu_bar_->Place(frame_->width()) : 0;
+  const QSize room = frame_->size() - QSize(0, above);
+  fitted_->Place(start_.expandedTo(room), CoveredPart(window_, start_), above, frame_->size());
+  LayOut();
+  if (!GetEvents().AtWork()) GetEvents().Run([] {});
+}
+
+bool WindowView::IsFree() const { return window_.GetResizing() == forms::Resizing::kFree; }
+
+void WindowView::LayOut() {
+  if (layout_.Update(face_->size()) && children_) children_->MarkStale();
+}
+
+void WindowView::MovePanel(const forms::PlacedControl& panel, const QPoint& corner) {
+  layout_.Move(panel, corner);
+  layout_.Update(face_->size());
+  GetEvents().Run([this] { children_->MarkStale(); });
+}
+
+void WindowView::PutPanelBack(const forms::PlacedControl& panel) {
+  layout_.PutBack(panel);
+  layout_.Update(face_->size());
+  GetEvents().Run([this] { children_->MarkStale(); });
+}
+
+void WindowView::ChangeFullScreen() {
+  if (IsFree()) frame_->setWindowState(frame_->windowState() ^ Qt::WindowFullScreen);
 }
 
 // Moves the frame only when the program moves the window, because the user may have moved it. A frame that
@@ -196,6 +242,10 @@ void WindowView::Commit() {
 
 void WindowView::Settle() {
   if (!frame_ || frame_->isHidden()) return;
+  children_->Any([](ControlView& view) {
+    if (view.IsSeen()) view.EventEnded();
+    return false;
+  });
   if (std::exchange(needs_arranging_, false)) {
     children_->Stack();
     std::vector<ControlView*> order;
@@ -242,6 +292,10 @@ bool WindowView::PressAccessKey(int letter) {
 }
 
 bool WindowView::HandleKey(const QKeyEvent& key) {
+  if (key.key() == Qt::Key_F11 && key.modifiers() == Qt::NoModifier && IsFree()) {
+    ChangeFullScreen();
+    return true;
+  }
   return children_ &&
          children_->Any([&key](ControlView& view) { return view.IsSeen() && view.HandleWindowKey(key); });
 }

@@ -16,6 +16,7 @@
 
 #include "forms/window.h"
 #include "ui/desktop/app/events.h"
+#include "ui/desktop/layout/face_layout.h"
 
 namespace lectern::desktop {
 
@@ -69,6 +70,18 @@ class WindowView : public QObject, public LayerView {
   // Moves the focus through the open panels and the window's main control, by a step of 1 or -1.
   void ChangeBetweenPanels(int step);
 
+  // Where the controls of the window lie now.
+  const FaceLayout& Layout() const { return layout_; }
+
+  // A panel was opened, closed or moved, or the face has another size.
+  void LayOut();
+  void MovePanel(const forms::PlacedControl& panel, const QPoint& corner);
+  void PutPanelBack(const forms::PlacedControl& panel);
+
+  void PutOnBench(const forms::PlacedControl& panel, const QSize& size) { layout_.PutOnBench(panel, size); }
+
+  void ChangeFullScreen();
+
   // The factor that enlarges the text of pages. It is kept as long as the window. 0 steps return to 1.
   double Enlargement() const;
   void Enlarge(int steps);
@@ -77,6 +90,8 @@ class WindowView : public QObject, public LayerView {
   class FrameWidget;
   void Build();
   void ApplySize();
+  void FrameResized();
+  bool IsFree() const;  // to be resized by the person
   void ApplyPlace();
   void ApplyPointer();
   void ApplyColours();
@@ -84,6 +99,7 @@ class WindowView : public QObject, public LayerView {
   bool KeyPressed(const QKeyEvent& key);  // in the frame itself
 
   forms::Window& window_;
+  FaceLayout layout_{window_};
   std::function<void(forms::Window&)> close_;
   std::unique_ptr<MenuBarView> menu_bar_;
   std::unique_ptr<ChildViews> children_;
@@ -94,6 +110,8 @@ class WindowView : public QObject, public LayerView {
   WindowView* behind_ = nullptr;
   std::vector<ControlView*> uncommitted_;
   std::optional<std::pair<double, double>> place_;  // as applied, in twips
+  QSize size_;                                      // of the client area, as applied
+  QSize start_;                                     // the face's own size
   int enlarged_ = 0;                                // steps
   int pointer_ = forms::kPointerDefault;
   bool front_is_wanted_ = false;
