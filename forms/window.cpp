@@ -2,12 +2,10 @@
 
 #include <algorithm>
 #include <cassert>
-#include <fcntl.h>
 #include <memory>
 #include <utility>
 
 #include "base/errors.h"
-#include "base/files/host_files.h"
 #include "base/text/characters.h"
 #include "forms/large_picture.h"
 #include "forms/picture_file.h"
@@ -43,10 +41,10 @@ Picture Window::LoadPicture(std::string_view name) const {
   Files().Read(name, contents);
   Picture picture = Platform().DecodePicture(contents.Bytes());
   if (picture.Source() != nullptr || !LargePicture::IsLarge(*picture)) return picture;
-  files::OpenFile file = files::OpenRegular(Files().HostPath(name), O_RDONLY);
-  if (!file.descriptor.IsOpen()) return picture;
-  return Picture(std::make_unique<const LargePicture>(*picture, Platform(), std::move(file.descriptor),
-                                                      contents.Bytes().size()));
+  files::Descriptor file = Files().Open(name);
+  if (!file.IsOpen()) return picture;
+  return Picture(
+      std::make_unique<const LargePicture>(*picture, Platform(), std::move(file), contents.Bytes().size()));
 }
 
 void Window::SavePicture(const Picture& picture, std::string_view name) const {

@@ -91,6 +91,10 @@ std::uint64_t FileSystem::Length(std::string_view name) const {
   return static_cast<std::uint64_t>(status.st_size);
 }
 
+Descriptor FileSystem::Open(std::string_view name) const {
+  return std::move(OpenRegular(HostPath(name), O_RDONLY).descriptor);
+}
+
 void FileSystem::Read(std::string_view name, Contents& contents) const {
   contents.size_ = 0;
   std::string path = AsWritten(name);

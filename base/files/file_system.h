@@ -50,6 +50,9 @@ class FileSystem {
   bool FolderExists(std::string_view name) const;
   std::uint64_t Length(std::string_view name) const;
 
+  // The file for reading; not open where it cannot be.
+  Descriptor Open(std::string_view name) const;
+
   // Error 7 where the file does not fit into the memory.
   void Read(std::string_view name, Contents& contents) const;
   Appending OpenForAppending(std::string_view name, Lasting lasting = Lasting::kYes);

@@ -230,7 +230,7 @@ TEST(LargePicture, IsReadAgainForItsPixels) {
   bitmap.Set(2599, 1299, kRed);
   test.folder.Write("large.jpg", BmpBytes(bitmap));
   const Picture picture = test.form.LoadPicture("large.jpg");
-  test.files.Replace("large.jpg", "another");
+  test.files.Replace("large.jpg", "another", files::Lasting::kNo);
   EXPECT_EQ(picture.Width(), 2600);
   ASSERT_NE(picture.Source(), nullptr);
   EXPECT_EQ(picture.Source()->Small()->Width(), 1300);

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <utility>
 
+#include "base/files/file_slots.h"
 #include "base/files/record_reader.h"
 #include "base/files/text_encoding.h"
 #include "base/text/characters.h"
@@ -115,7 +116,7 @@ class Lookup {
         State& state = states_[word];
         if (std::exchange(state.line, line_) == line_) return;  // the first place decides
         const int hits = is_long ? HitsInLongLine(line, word) : Accepts(line, end, state) ? 1 : 0;
-        if (hits > 0 && entry.empty()) entry = Entry();
+        if (hits > 0 && entry.empty()) entry = files::FieldText(Entry());
         for (int i = 0; i < hits && !book_.empty(); ++i) {
           ((((state.records += '"') += words_[word]) += "\",\"") += entry) += "\"\r\n";
         }

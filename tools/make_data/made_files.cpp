@@ -144,6 +144,7 @@ void ExtendCatalogue(const std::string& making, const std::string& data_folder,
   std::string bytes = BytesOf(path);
   if (!bytes.empty() && !bytes.ends_with('\n')) bytes += "\r\n";
   files.ReplaceKeepingBackup(kCatalogue, bytes + added);
+  files.Settle();
 }
 
 }  // namespace
@@ -189,6 +190,7 @@ std::vector<std::string> BringIn(const std::string& making, const std::string& d
   for (const auto& [name, digest] : list) lines += digest + " " + name + "\r\n";
   WriteFile(making + "/" + kList, lines);
   PutIn(making, files, kList);
+  files.Settle();
   return changed;
 }
 
@@ -201,6 +203,7 @@ void BringInOwn(const std::string& making, const std::string& data_folder) {
     if (!present.empty()) files.DeleteKeepingBackup(name);
     PutIn(making, files, name);
   }
+  files.Settle();
 }
 
 }  // namespace lectern::make_data

@@ -106,7 +106,8 @@ class DictionaryMaker {
       topic = nullptr;
     } else {
       for (const Fact& fact : facts) {
-        if (fact.says == Fact::Says::kUse) sentences.Add(fact.sentence);
+        const bool tells_food = sentences.Text().find("as food") != std::string::npos;
+        if (fact.says == Fact::Says::kUse && !tells_food) sentences.Add(fact.sentence);
       }
     }
     if (is_common) AddOriginal(word, sentences);

@@ -172,7 +172,16 @@ bool Desktop::Start() {
                                     [&](const auto& shown) { return shown->IsOf(main_window); });
   desk_ = std::make_unique<DeskView>(main_window, view);
   if (!bench_controls_.empty()) bench_ = std::make_unique<BenchView>(main_window, view, bench_controls_);
+  SayWhatWasMended();
   return true;
+}
+
+void Desktop::SayWhatWasMended() {
+  QStringList names;
+  for (const std::string& name : program_.Mended()) names.append(QString::fromStdString(name));
+  if (names.isEmpty() || FrontFrame() == nullptr) return;
+  ShowNotice(*FrontFrame(),
+             "Saving was interrupted last time. Put back as it was before: " + names.join(", "));
 }
 
 int Desktop::Run() {

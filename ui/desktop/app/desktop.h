@@ -55,6 +55,7 @@ class Desktop {
  private:
   void JoinWindows();
   void JoinPlatform();
+  void SayWhatWasMended();
   void LetGo(const forms::Window& window);
   void PrintFace(const forms::Window& window, const std::function<void(QWidget&)>& print);
   void Settle();
