@@ -130,7 +130,7 @@ void Drafts::Keep(Draft& draft, const std::string& bytes) {
     } else {
       std::error_code failure;
       fs::create_directory(fs::path(files_.StartFolder() + "/" + file).parent_path(), failure);
-      files_.Replace(file, bytes);
+      files_.Replace(file, bytes, files::Lasting::kYes);
       draft.is_there = true;
     }
   });
