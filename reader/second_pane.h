@@ -22,13 +22,11 @@ class SecondPane {
   void Open(Reader& reader);
 
   bool IsOpen() const { return Picture4_.Visible; }
+
   forms::RichTextBox RTXT2{Picture4_, "RTXT2", {.name = "Text of the other version", .read_only = true}};
   forms::Label Label36{Picture4_, "Label36"};  // name of the version
   forms::CommandButton Command34{
       Picture4_, "Command34", {.caption = "Close", .is_cancel = true}};  // closes it
-
- private:
-  void TakeSize();
 };
 
 }  // namespace lectern::reader

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "forms/control.h"
+#include "ui/desktop/app/theme.h"
 #include "ui/desktop/views/keys.h"
 
 namespace lectern::desktop {
@@ -32,7 +33,7 @@ ChapterChooser::ChapterChooser(QWidget* parent, int chapters, int open, std::fun
   for (int chapter = 1; chapter <= chapters; ++chapter) {
     auto* const number = new QPushButton(QString::number(chapter), this);
     number->setFixedSize(kNumberSize);
-    number->setFlat(chapter != open);
+    number->setProperty(kQuietProperty, chapter != open);
     number->setAutoDefault(false);
     number->setAccessibleName("Chapter " + number->text());
     number->installEventFilter(this);

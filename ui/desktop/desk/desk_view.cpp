@@ -1,18 +1,20 @@
 #include "ui/desktop/desk/desk_view.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <cassert>
 
+#include "ui/desktop/app/theme.h"
 #include "ui/desktop/desk/chapter_chooser.h"
 #include "ui/desktop/text/verse_page.h"
 
 namespace lectern::desktop {
 
 DeskView::DeskView(ui::Form1& form, WindowView& window)
-    : form_(form), window_(window), go_to_(new GoToLine(&window.Face())) {
+    : form_(form), window_(window), go_to_(new GoToLine(&window.Face())), theme_(QApplication::palette()) {
   go_to_->read = [this](const QString& typed) { return form_.Desk().Read(typed.toStdString()); };
   go_to_->go = [this](const reader::Reference& place) { GoTo(place); };
   for (const char* control : {"rtxt", "lst", "lblc"}) Widget(control)->installEventFilter(this);
@@ -20,6 +22,7 @@ DeskView::DeskView(ui::Form1& form, WindowView& window)
   Widget("lblc")->setToolTip("Choose a chapter");
   ExplainVersions();
   AddMenu();
+  AddToMenuOf(Page("rtxt"));
   window_.escaping = [this](const std::function<void()>& press) {
     Page("rtxt").KeepInSight();
     form_.Desk().KeepPlace(press);
@@ -36,7 +39,10 @@ void DeskView::Settle() {
     if (in_step_) in_step_->Align();
     return;
   }
-  if (desk.ShowsBothVersions() && !in_step_) in_step_.emplace(Page("rtxt"), Page("RTXT2"));
+  if (desk.ShowsBothVersions() && !in_step_) {
+    in_step_.emplace(Page("rtxt"), Page("RTXT2"));
+    AddToMenuOf(Page("RTXT2"));
+  }
   if (in_step_) in_step_->TurnOn(desk.ShowsBothVersions());
 }
 
@@ -98,6 +104,11 @@ void DeskView::AddMenu() {
   add("&Larger Letters", {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, enlarge(1));
   add("&Smaller Letters", {Qt::CTRL | Qt::Key_Minus}, enlarge(-1));
   add("Letters as S&et", {Qt::CTRL | Qt::Key_0}, enlarge(0));
+  QAction* const dark = add("&Dark Page", {Qt::CTRL | Qt::Key_D}, [] {});
+  dark->setCheckable(true);
+  dark->setChecked(IsDark(theme_.color(QPalette::Base)));
+  connect(dark, &QAction::toggled, this, [this](bool on) { TurnDark(on); });
+  add("&Full Screen", {Qt::Key_F11}, [this] { window_.ChangeFullScreen(); });
   menu->addSeparator();
   add("Ne&xt Panel", {Qt::Key_F6}, change_panel(1));
   add("P&revious Panel", {Qt::SHIFT | Qt::Key_F6}, change_panel(-1));
@@ -108,6 +119,22 @@ void DeskView::AddMenu() {
     if (action->objectName() == "webb") window_.MenuBar()->insertMenu(action, menu);
   }
   if (auto* const help = window_.Frame()->findChild<QAction*>("xh2")) help->setShortcut(Qt::Key_F1);
+}
+
+void DeskView::AddToMenuOf(VersePage& page) {
+  page.add_to_menu = [this](QMenu& menu, const QString& words) {
+    constexpr qsizetype kLongest = 30;
+    const QString shown = words.size() > kLongest ? words.left(kLongest) + "…" : words;
+    const auto add = [this, &menu, &words](const QString& text, auto act) {
+      connect(menu.addAction(text), &QAction::triggered, this, [this, act, sought = words.toStdString()] {
+        Do([this, act, sought] { (form_.Desk().*act)(sought); });
+      });
+    };
+    menu.addSeparator();
+    add("&Search for “" + shown + "”", &ui::ReadingDesk::SearchFor);
+    add("Look Up “" + shown + "” in the &Dictionary", &ui::ReadingDesk::LookUp);
+    add("Show “" + shown + "” in the C&oncordance", &ui::ReadingDesk::OpenConcordanceAt);
+  };
 }
 
 void DeskView::ExplainVersions() {
@@ -147,6 +174,11 @@ void DeskView::GoTo(const reader::Reference& place) {
     form_.Desk().GoTo(place);
     if (place.verse > 0) Page("rtxt").ShowVerse(place.verse);
   });
+}
+
+void DeskView::TurnDark(bool dark) {
+  const bool is_dark = IsDark(theme_.color(QPalette::Base));
+  QApplication::setPalette(dark == is_dark ? theme_ : OwnPalette(dark ? Shade::kDark : Shade::kLight));
 }
 
 }  // namespace lectern::desktop

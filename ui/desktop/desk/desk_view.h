@@ -5,6 +5,7 @@
 
 #include <QMenu>
 #include <QObject>
+#include <QPalette>
 #include <QPointer>
 #include <QWidget>
 #include <functional>
@@ -32,12 +33,14 @@ class DeskView : public QObject {
 
  private:
   void AddMenu();
+  void AddToMenuOf(VersePage& page);
   void ExplainVersions();
 
   void OpenGoToLine(const QString& typed);
   void ShowChapters();
   void ShowKeys();
   void GoTo(const reader::Reference& place);
+  void TurnDark(bool dark);
 
   // Runs `act` as one event of the main window.
   void Do(const std::function<void()>& act);
@@ -50,6 +53,7 @@ class DeskView : public QObject {
   QPointer<GoToLine> go_to_;  // owned by the window's face
   QPointer<KeySheet> keys_;   // owned by the frame
   QAction* both_versions_ = nullptr;
+  QPalette theme_;                 // the desktop's own
   std::optional<InStep> in_step_;  // from the first opening of the second pane on
 };
 

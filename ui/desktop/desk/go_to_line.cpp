@@ -50,9 +50,8 @@ void GoToLine::Typed() {
   answer_->setText(QString::fromStdString(answer.text));
   line_->setAccessibleDescription(answer_->text());
   QPalette muted = palette();
-  constexpr double kShare = 0.3;
   const QColor ink = palette().color(QPalette::WindowText);
-  if (!place_) muted.setColor(QPalette::WindowText, Mixed(ink, palette().color(QPalette::Window), kShare));
+  if (!place_) muted.setColor(QPalette::WindowText, MutedColor(ink, palette().color(QPalette::Window)));
   answer_->setPalette(muted);
   adjustSize();
 }

@@ -219,6 +219,7 @@ void PageWidget::wheelEvent(QWheelEvent* event) {
 // If nothing is selected, selects the paragraph under the mouse for the menu.
 void PageWidget::contextMenuEvent(QContextMenuEvent* event) {
   const bool by_mouse = event->reason() == QContextMenuEvent::Mouse;
+  const QString words = WordsAt(by_mouse ? cursorForPosition(event->pos()) : textCursor());
   if (by_mouse && !textCursor().hasSelection()) SelectParagraphAt(event->pos());
   QMenu* const menu = createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -230,7 +231,25 @@ void PageWidget::contextMenuEvent(QContextMenuEvent* event) {
     connect(action, &QAction::triggered, this, [this] { quote(); });
     menu->insertAction(actions.size() > 1 ? actions[1] : nullptr, action);
   }
+  if (!words.isEmpty()) add_to_menu(*menu, words);
   menu->popup(by_mouse ? event->globalPos() : viewport()->mapToGlobal(cursorRect().bottomLeft()));
+}
+
+// What is selected there, if it is a part of one paragraph, or the word.
+QString PageWidget::WordsAt(QTextCursor place) const {
+  const QTextCursor selection = textCursor();
+  const bool is_part = selection.selectedText().size() < place.block().length() - 1;
+  const bool is_meant = selection.hasSelection() && is_part &&
+                        place.position() >= selection.selectionStart() &&
+                        place.position() <= selection.selectionEnd();
+  if (is_meant) {
+    place = selection;
+  } else {
+    place.select(QTextCursor::WordUnderCursor);
+  }
+  const QString words = place.selectedText().trimmed();
+  const bool has_letters = std::any_of(words.begin(), words.end(), [](QChar c) { return c.isLetter(); });
+  return has_letters && !words.contains(QChar::ParagraphSeparator) ? words : QString();
 }
 
 void PageWidget::SelectParagraphAt(const QPoint& point) {

@@ -2,6 +2,7 @@
 // place, with a heading of its own and the text in a column in the middle. Other texts are set in a box.
 #pragma once
 
+#include <QMenu>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextEdit>
@@ -19,6 +20,9 @@ class PageWidget : public QTextEdit {
   std::function<bool()> can_quote;              // whether the selection can be copied with its reference
   std::function<void()> quote;                  // copies it; empty if the text has no references
   std::function<void(int steps)> wants_larger;  // called when the wheel is turned with Ctrl
+
+  // Adds to the menu of the other mouse button what can be done with words.
+  std::function<void(QMenu& menu, const QString& words)> add_to_menu = [](QMenu&, const QString&) {};
 
   // Gives it the heading and the column of a book's page. Requires: it has not been shown.
   void BecomeThePage();
@@ -58,6 +62,7 @@ class PageWidget : public QTextEdit {
  private:
   void Arrange();
   void ShowFades();
+  QString WordsAt(QTextCursor place) const;
   void SelectParagraphAt(const QPoint& point);
 
   QTextCursor marked_;              // in the marked paragraph

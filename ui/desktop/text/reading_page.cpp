@@ -72,6 +72,7 @@ class ReadingPage : public RichTextView, public VersePage {
     page_ = new PageWidget(parent);
     connect(page_->verticalScrollBar(), &QScrollBar::valueChanged, [this] { on_scroll(); });
     if (Control().Heading) page_->BecomeThePage();
+    page_->add_to_menu = [this](QMenu& menu, const QString& words) { add_to_menu(menu, words); };
     page_->wants_larger = [this](int steps) { GetWindow().Enlarge(steps); };
     if (Control().Quote) {
       page_->can_quote = [this] { return CanQuote(); };

@@ -2,6 +2,8 @@
 // start of its line.
 #pragma once
 
+#include <QMenu>
+#include <QString>
 #include <functional>
 
 namespace lectern::desktop {
@@ -31,6 +33,10 @@ class VersePage {
 
   // Called when the page has scrolled.
   std::function<void()> on_scroll = [] {};
+
+  // Adds to the menu of the other mouse button what can be done with words: those that are selected, or the
+  // word under the mouse.
+  std::function<void(QMenu& menu, const QString& words)> add_to_menu = [](QMenu&, const QString&) {};
 };
 
 }  // namespace lectern::desktop
