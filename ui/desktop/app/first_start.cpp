@@ -28,11 +28,11 @@ QString CannotMake(const fs::path& folder, const std::error_code& failure) {
          ".";
 }
 
-// Keeps the folder itself, because it is locked.
+// Keeps the folder itself and the file in it that is locked.
 void RemoveContents(const fs::path& folder) {
   std::error_code failure;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder, failure)) {
-    fs::remove_all(entry.path(), failure);
+    if (entry.path().filename() != OneProgram::kLockFile) fs::remove_all(entry.path(), failure);
   }
 }
 
@@ -118,8 +118,7 @@ FirstStart::Outcome FirstStart::Run(const QByteArray& token) {
     if (!is_ready && (obstacle_.isEmpty() || !OffersRetry())) break;
   }
   // If the folder was renamed, this finds nothing.
-  RemoveContents(unfinished_);
-  fs::remove(unfinished_, failure);
+  fs::remove_all(unfinished_, failure);
   return is_ready ? Outcome::kReady : Outcome::kFailed;
 }
 

@@ -12,6 +12,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <utility>
 
@@ -33,12 +34,12 @@ QString SocketOf(const std::string& folder) {
 }
 
 void ReportSilence(const std::string& folder) {
-  QMessageBox::warning(
-      nullptr, "Lectern 2",
-      "Lectern is already open on this folder, but does not answer:\n\n" +
-          QDir::toNativeSeparators(QString::fromStdString(folder)) +
-          "\n\nTwo programs would overwrite each other's files. Close the first one, or ask the "
-          "person who started it to do so, and start again.");
+  QMessageBox::warning(nullptr, "Lectern 2",
+                       "Lectern is already open on this folder, but does not answer:\n\n" +
+                           QDir::toNativeSeparators(QString::fromStdString(folder)) +
+                           "\n\nClose its window, or end the program \"lectern\" in your system's list of "
+                           "running programs, and "
+                           "start again. If someone else opened the folder, ask them to close Lectern.");
 }
 
 }  // namespace
@@ -77,13 +78,24 @@ OneProgram::Outcome OneProgram::Claim(const std::string& locked, const QByteArra
 }
 
 OneProgram::Lock OneProgram::TryLock(const std::string& locked) {
-  files::Descriptor folder(::open(locked.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (!folder.IsOpen()) return Lock::kUnknown;
-  if (::flock(folder.Number(), LOCK_EX | LOCK_NB) != 0) {
+  const auto lock = [](const files::Descriptor& file) {
+    if (!file.IsOpen()) return Lock::kUnknown;
+    if (::flock(file.Number(), LOCK_EX | LOCK_NB) == 0) return Lock::kTaken;
     return errno == EWOULDBLOCK ? Lock::kHeldByOther : Lock::kUnknown;
+  };
+  files::Descriptor folder(::open(locked.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  files::Descriptor file(::open((locked + "/" + kLockFile).c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW,
+                                S_IRUSR | S_IWUSR));
+  const Lock of_file = lock(file);
+  if (of_file == Lock::kHeldByOther) return of_file;
+  // The owner holds both locks, if possible, and needs only the file's.
+  const Lock of_folder = lock(folder);
+  const Lock outcome = of_file == Lock::kTaken ? of_file : of_folder;
+  if (outcome == Lock::kTaken) {
+    lock_ = std::move(file);
+    folder_lock_ = std::move(folder);
   }
-  lock_ = std::move(folder);
-  return Lock::kTaken;
+  return outcome;
 }
 
 // Tries once. Returns whether another program answered.

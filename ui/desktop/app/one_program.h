@@ -1,9 +1,10 @@
 // Reserves a data folder for one program at a time, as two programs would overwrite each other's files.
 //
-// The lock is a lock of the operating system on the folder itself: it needs no file, stays with the folder
-// when it is renamed, and ends with the process, even after a crash. A program that finds the folder locked
-// calls the program that holds the lock, through a socket in the person's run-time folder. That program comes
-// to the front and answers with its name.
+// The lock is a lock of the operating system on a file in the folder, which only its owner can open, so that
+// nobody else can lock the owner out. It stays with the folder when it is renamed, and ends with the process,
+// even after a crash. Whoever cannot have such a file locks the folder itself. A program that finds the
+// folder locked calls the program that holds the lock, through a socket in the person's run-time folder. That
+// program comes to the front and answers with its name.
 #pragma once
 
 #include <QByteArray>
@@ -28,6 +29,8 @@ void BringToFront(QWidget& window);
 
 class OneProgram {
  public:
+  static constexpr const char* kLockFile = ".lectern.lock";
+
   // `folder` is the path by which the programs know the folder; it need not exist. `name` is what this
   // program answers to others.
   OneProgram(std::string folder, QString name);
@@ -59,6 +62,7 @@ class OneProgram {
   const QString name_;
   QString answer_;
   files::Descriptor lock_{-1};
+  files::Descriptor folder_lock_{-1};
   std::function<void()> come_forward_;
   QLocalServer server_;
 };

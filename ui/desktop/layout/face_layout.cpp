@@ -26,7 +26,7 @@ Anchor AnchorOf(const forms::PlacedControl& control, bool arranged) {
   return arranged && arrangement != nullptr ? arrangement->anchor : control.GetAnchor();
 }
 
-QRect InPixels(double left, double top, double width, double height) {
+QRect RectInPixels(double left, double top, double width, double height) {
   const QPoint corner(ToPixels(left), ToPixels(top));
   const QPoint end(ToPixels(left + width), ToPixels(top + height));
   return {corner, QSize(std::max(end.x() - corner.x(), 0), std::max(end.y() - corner.y(), 0))};
@@ -100,7 +100,7 @@ bool FaceLayout::IsArranged(const forms::Container& container) const {
 QRect FaceLayout::BasePlaceOf(const forms::PlacedControl& control) const {
   const forms::Arrangement* const arrangement = control.GetArrangement();
   if (arrangement != nullptr && IsArranged(control.Parent()) && !IsMovable(control)) {
-    return InPixels(arrangement->left, arrangement->top, arrangement->width, arrangement->height);
+    return RectInPixels(arrangement->left, arrangement->top, arrangement->width, arrangement->height);
   }
   return lectern::desktop::PlaceOf(control);
 }

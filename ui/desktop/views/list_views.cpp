@@ -21,7 +21,7 @@ namespace lectern::desktop {
 
 namespace {
 
-constexpr int kBesideText = 10;  // in a row
+constexpr int kBesideRow = 10;  // in a row
 
 // Rows with a little space between them.
 class RowDelegate : public QStyledItemDelegate {
@@ -32,7 +32,7 @@ class RowDelegate : public QStyledItemDelegate {
     constexpr int kSpace = 5;
     const QVariant font = index.data(Qt::FontRole);
     const QFontMetrics metrics(font.isValid() ? font.value<QFont>() : option.font);
-    return {metrics.horizontalAdvance(index.data().toString()) + 2 * kBesideText, metrics.height() + kSpace};
+    return {metrics.horizontalAdvance(index.data().toString()) + 2 * kBesideRow, metrics.height() + kSpace};
   }
 
  protected:
