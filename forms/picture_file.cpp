@@ -42,7 +42,7 @@ class Bytes {
 
 // The headers' numbers have at most 32 bits.
 std::int64_t Area(std::int64_t width, std::int64_t height) {
-  constexpr std::int64_t kLongest = std::int64_t{1} << 31;
+  constexpr std::int64_t kLongest = 1 << 28;
   return std::min(std::abs(width), kLongest) * std::min(std::abs(height), kLongest);
 }
 
@@ -145,7 +145,7 @@ std::optional<PictureFile> Bmp(const Bytes& bytes) {
   constexpr std::size_t kInfo = 14;
   PictureFile file{PictureFormat::kBmp, PixelsOfHeader(bytes, kInfo)};
   // As this program saves it, three bytes to a pixel: a file that holds what it promises.
-  const bool is_whole = static_cast<std::int64_t>(bytes.Size()) >= 3 * file.pixels;
+  const bool is_whole = file.pixels <= static_cast<std::int64_t>(bytes.Size()) / 3;
   if (file.pixels > (is_whole ? kMostPixelsSaved : kMostPixels)) return std::nullopt;
   return file;
 }

@@ -285,9 +285,9 @@ class WordCount {
       for (const auto& [verse, at] : starts) {
         const std::string& words = verses_[verse];
         if (only_behind_marks && (at == 0 || words[at - 1] == ' ')) continue;
-        std::size_t end = words.find_first_not_of(kLetters, at);
+        std::size_t end = std::min(words.find_first_not_of(kLetters, at), words.size());
         for (int i = 0; i < more && end + 1 < words.size() && words[end] == ' '; ++i) {
-          end = words.find_first_not_of(kLetters, end + 1);
+          end = std::min(words.find_first_not_of(kLetters, end + 1), words.size());
         }
         terms.insert(words.substr(at, end - at));
       }
